@@ -1,0 +1,188 @@
+#include "cli/RowsCommand.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cctype>
+#include <numeric>
+#include <optional>
+#include <span>
+
+namespace cli {
+
+namespace {
+
+/// Lines for people are aligned so many at a time, so that a large dataset flows.
+constexpr int rowsPerBlock = 1000;
+
+bool sameName(std::string_view one, std::string_view other)
+{
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                      [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
+}
+
+std::optional<int> variableNamed(const StatDataset& dataset, std::string_view name)
+{
+    const auto& names = dataset.names();
+    const auto found = std::find_if(names.begin(), names.end(),
+                                    [&](const std::string& one) { return sameName(one, name); });
+    return found == names.end() ? std::nullopt : std::optional(static_cast<int>(found - names.begin()));
+}
+
+Result<std::vector<int>> variablesNamed(const StatDataset& dataset, const std::vector<std::string>& names)
+{
+    std::vector<int> variables;
+    for (const std::string& name : names) {
+        const std::optional<int> variable = variableNamed(dataset, name);
+        if (!variable) {
+            return Failure { fmt::format("There is no variable named {}", name) };
+        }
+        variables.push_back(*variable);
+    }
+    return variables;
+}
+
+Result<std::vector<int>> chosenVariables(const StatDataset& dataset, const RowsRequest& request)
+{
+    Result<std::vector<int>> kept = variablesNamed(dataset, request.keep);
+    const Result<std::vector<int>> dropped = variablesNamed(dataset, request.drop);
+    if (!kept || !dropped) {
+        return kept ? Failure { dropped.error() } : Failure { kept.error() };
+    }
+    std::vector<int>& variables = kept.value();
+    if (request.keep.empty()) {
+        variables.resize(static_cast<std::size_t>(dataset.variableCount()));
+        std::iota(variables.begin(), variables.end(), 0);
+    }
+    std::erase_if(variables, [&](int variable) {
+        const auto& drop = dropped.value();
+        return std::find(drop.begin(), drop.end(), variable) != drop.end();
+    });
+    return kept;
+}
+
+class RowPrinter
+{
+public:
+    RowPrinter(const StatDataset& dataset, std::vector<int> variables, bool raw)
+        : m_dataset(dataset)
+        , m_variables(std::move(variables))
+        , m_raw(raw)
+    {
+    }
+    void print(std::span<const int> observations, OutputFormat format) const;
+
+private:
+    void printJson(std::span<const int> observations) const;
+    void printTsv(std::span<const int> observations) const;
+    void printText(std::span<const int> observations) const;
+    [[nodiscard]] std::string plainCell(int observation, int variable) const;
+    [[nodiscard]] std::string jsonCell(int observation, int variable) const;
+
+    const StatDataset& m_dataset;
+    std::vector<int> m_variables;
+    bool m_raw;
+};
+
+std::string RowPrinter::plainCell(int observation, int variable) const
+{
+    if (!m_raw) {
+        return m_dataset.cellText(observation, variable);
+    }
+    if (m_dataset.isCharacter(variable)) {
+        return m_dataset.stringValue(observation, variable);
+    }
+    const std::string number = jsonNumber(m_dataset.numericValue(observation, variable));
+    return number == "null" ? "." : number;
+}
+
+std::string RowPrinter::jsonCell(int observation, int variable) const
+{
+    return m_raw && m_dataset.isNumeric(variable)
+        ? jsonNumber(m_dataset.numericValue(observation, variable))
+        : jsonText(plainCell(observation, variable));
+}
+
+void RowPrinter::print(std::span<const int> observations, OutputFormat format) const
+{
+    switch (format) {
+    case OutputFormat::Json:
+        printJson(observations);
+        break;
+    case OutputFormat::Tsv:
+        printTsv(observations);
+        break;
+    case OutputFormat::Text:
+        printText(observations);
+        break;
+    }
+}
+
+void RowPrinter::printJson(std::span<const int> observations) const
+{
+    for (const int observation : observations) {
+        std::string line = fmt::format(R"({{"obs":{},"cells":[)", observation + 1);
+        for (std::size_t i = 0; i < m_variables.size(); ++i) {
+            line += i == 0 ? "" : ",";
+            line += jsonCell(observation, m_variables[i]);
+        }
+        cli::print(line + "]}\n");
+    }
+}
+
+void RowPrinter::printTsv(std::span<const int> observations) const
+{
+    std::string header = "Obs";
+    for (const int variable : m_variables) {
+        header += '\t' + tsvText(m_dataset.names()[static_cast<std::size_t>(variable)]);
+    }
+    cli::print(header + '\n');
+    for (const int observation : observations) {
+        std::string line = std::to_string(observation + 1);
+        for (const int variable : m_variables) {
+            line += '\t' + tsvText(plainCell(observation, variable));
+        }
+        cli::print(line + '\n');
+    }
+}
+
+void RowPrinter::printText(std::span<const int> observations) const
+{
+    TextTable table;
+    std::vector<std::string> titles { "Obs" };
+    std::vector<bool> alignRight { true };
+    for (const int variable : m_variables) {
+        titles.push_back(m_dataset.names()[static_cast<std::size_t>(variable)]);
+        alignRight.push_back(m_dataset.isNumeric(variable));
+    }
+    table.add(titles);
+    int lines = 0;
+    for (const int observation : observations) {
+        std::vector<std::string> line { std::to_string(observation + 1) };
+        for (const int variable : m_variables) {
+            line.push_back(tsvText(plainCell(observation, variable)));
+        }
+        table.add(std::move(line));
+        if (++lines % rowsPerBlock == 0) {
+            table.print(alignRight);
+        }
+    }
+    table.print(alignRight);
+}
+
+}  // namespace
+
+Result<bool> printRows(const StatDataset& dataset, const RowsRequest& request, OutputFormat format)
+{
+    const Result<std::vector<int>> variables = chosenVariables(dataset, request);
+    if (!variables) {
+        return Failure { variables.error() };
+    }
+    std::vector<int> observations(static_cast<std::size_t>(dataset.observationCount()));
+    std::iota(observations.begin(), observations.end(), 0);
+    observations.resize(std::min(observations.size(), static_cast<std::size_t>(request.first)));
+    RowPrinter(dataset, variables.value(), request.raw).print(observations, format);
+    return true;
+}
+
+}  // namespace cli

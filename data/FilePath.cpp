@@ -1,0 +1,73 @@
+#include "data/FilePath.h"
+
+#include "data/Texts.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace filepath {
+
+namespace {
+
+constexpr char16_t firstStray = 0xDC80;
+constexpr char16_t lastStray = 0xDCFF;
+
+bool isStray(QStringView path, qsizetype at)
+{
+    const char16_t unit = path[at].unicode();
+    return unit >= firstStray && unit <= lastStray
+        && (at == 0 || !QChar::isHighSurrogate(path[at - 1].unicode()));
+}
+
+}  // namespace
+
+QString fromBytes(std::string_view bytes)
+{
+    if (texts::isUtf8(bytes)) {
+        return QFile::decodeName(QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size())));
+    }
+    QString path;
+    while (!bytes.empty()) {
+        std::size_t valid = bytes.size();
+        while (valid > 0 && !texts::isUtf8(bytes.substr(0, valid))) {
+            --valid;
+        }
+        path += QString::fromUtf8(bytes.data(), static_cast<qsizetype>(valid));
+        bytes.remove_prefix(valid);
+        if (!bytes.empty()) {
+            path += QChar(static_cast<char16_t>(0xDC00 + static_cast<unsigned char>(bytes.front())));
+            bytes.remove_prefix(1);
+        }
+    }
+    return path;
+}
+
+std::string toBytes(const QString& path)
+{
+    std::string bytes;
+    qsizetype start = 0;
+    for (qsizetype at = 0; at <= path.size(); ++at) {
+        if (at < path.size() && !isStray(path, at)) {
+            continue;
+        }
+        bytes += QFile::encodeName(path.mid(start, at - start)).toStdString();
+        if (at < path.size()) {
+            bytes += static_cast<char>(path[at].unicode() - 0xDC00);
+        }
+        start = at + 1;
+    }
+    return bytes;
+}
+
+std::string displayName(const QString& path)
+{
+    QString name = QFileInfo(path).fileName();
+    for (qsizetype at = 0; at < name.size(); ++at) {
+        if (isStray(name, at)) {
+            name[at] = QChar::ReplacementCharacter;
+        }
+    }
+    return name.toStdString();
+}
+
+}  // namespace filepath

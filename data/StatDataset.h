@@ -1,0 +1,172 @@
+#pragma once
+
+#include "data/CellStore.h"
+#include "data/TextPool.h"
+
+#include <boost/dynamic_bitset.hpp>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// One bit per observation or per variable, in 64-bit words.
+using BitVector = boost::dynamic_bitset<std::uint64_t>;
+
+/// How a variable is stored; the numbers are fixed, files and saved settings know them.
+enum class TypeCode : std::int32_t {
+    Character = 0,
+    Int8 = 1,
+    Int16 = 2,
+    Int32 = 3,
+    Float = 4,
+    Double = 5,
+};
+
+/// Which kind of file a dataset came from; set by whoever opens the file.
+enum class SourceKind : std::int32_t {
+    Sas = 0,
+    R = 1,
+    Spss = 2,
+    Stata = 3,
+    Csv = 4,
+    DatasetJson = 5,
+};
+
+/// The attributes of a variable that can be shown as text; the numbers are the columns of the
+/// Variables window.
+enum class VariableAttribute : int {
+    Name = 1,
+    Type = 2,
+    Length = 3,
+    Format = 4,
+    Informat = 5,
+    Label = 6,
+};
+
+/// What a file says about the dataset as a whole. A format that lacks a field leaves it empty or 0.
+struct DatasetHeader
+{
+    std::int64_t creationTime = 0;  ///< seconds since 1970-01-01, as the file reports it
+    std::int64_t modificationTime = 0;  ///< seconds since 1970-01-01
+    std::int64_t formatVersion = 0;  ///< of the file format: 9 of SAS, 118 of Stata ...
+    std::string tableName;
+    std::string fileLabel;
+    std::string memberType;  ///< "DATA", and the TYPE= attribute where one is set
+    std::string encoding;  ///< name of the character set that the file declares
+    bool is64Bit = false;
+    std::string release;  ///< of the program that wrote the file: "9.0401M3"
+    std::string host;  ///< with the name and version of its operating system
+    std::uint64_t pageSize = 0;  ///< bytes
+    std::uint64_t pageCount = 0;
+    std::int64_t observationLength = 0;  ///< bytes
+    std::int64_t deletedObservations = 0;  ///< still in the file, but not in the dataset
+};
+
+/// A rectangle of observations by variables, held in memory as a whole.
+///
+/// Subclasses fill it, one for each kind of file; everyone else reads it through the ten virtual
+/// operations and the attribute vectors. Rows and columns count from 0. All texts are UTF-8.
+class StatDataset
+{
+public:
+    StatDataset() = default;
+    StatDataset(const StatDataset&) = delete;
+    StatDataset& operator=(const StatDataset&) = delete;
+
+    /// The text that the grid shows in the cell, without blanks at its ends; empty outside the
+    /// rectangle.
+    [[nodiscard]] virtual std::string cellText(int row, int column) const;
+    /// The attribute of a variable as text; empty for a number that is no attribute.
+    [[nodiscard]] virtual std::string variableAttribute(int column, VariableAttribute attribute) const;
+    /// The number of the first variable of that name in any letter case, or -1.
+    [[nodiscard]] virtual int findVariable(std::wstring_view name) const;
+    /// The text as its format shows it. A view whose data() is null is a null text and reads as
+    /// empty.
+    [[nodiscard]] virtual std::string formatCharacter(std::string_view text, std::string_view format,
+                                                      int width, int decimals) const;
+    /// The number as its format shows it.
+    [[nodiscard]] virtual std::string formatNumeric(double number, std::string_view format, int width,
+                                                    int decimals) const;
+    virtual ~StatDataset();
+    [[nodiscard]] virtual bool isNumeric(int column) const;
+    [[nodiscard]] virtual bool isCharacter(int column) const;
+    /// The cell's text as it is stored. Throws std::bad_variant_access for a number; the row and
+    /// the column are not checked.
+    [[nodiscard]] virtual std::string stringValue(int row, int column) const;
+    /// The cell's number as it is stored: NaN where missing. Throws std::bad_variant_access for a
+    /// text; the row and the column are not checked.
+    [[nodiscard]] virtual double numericValue(int row, int column) const;
+
+    [[nodiscard]] const DatasetHeader& header() const { return m_header; }
+    [[nodiscard]] SourceKind sourceKind() const { return m_sourceKind; }
+    void setSourceKind(SourceKind kind) { m_sourceKind = kind; }
+
+    [[nodiscard]] int observationCount() const { return m_observationCount; }
+    [[nodiscard]] int variableCount() const { return m_variableCount; }
+
+    // One entry per variable, in the file's order.
+    [[nodiscard]] const std::vector<std::string>& names() const { return m_names; }
+    [[nodiscard]] const std::vector<std::string>& labels() const { return m_labels; }
+    [[nodiscard]] const std::vector<std::string>& formats() const { return m_formats; }
+    [[nodiscard]] const std::vector<std::string>& informats() const { return m_informats; }
+    [[nodiscard]] const std::vector<TypeCode>& typeCodes() const { return m_typeCodes; }
+    [[nodiscard]] const std::vector<std::int32_t>& lengths() const { return m_lengths; }
+    [[nodiscard]] const std::vector<std::int32_t>& formatWidths() const { return m_formatWidths; }
+    [[nodiscard]] const std::vector<std::int32_t>& formatDecimals() const { return m_formatDecimals; }
+
+    /// The cell as it is stored, for engines that run over whole columns: cells that share a record
+    /// hold the same text. Neither index is checked.
+    [[nodiscard]] virtual const CellValue& cell(int row, int column) const;
+
+    /// One bit per variable: set = shown by the grid.
+    [[nodiscard]] const BitVector& visibleVariables() const { return m_visibleVariables; }
+    [[nodiscard]] BitVector& visibleVariables() { return m_visibleVariables; }
+    /// One bit per observation: set = selected by the library filter.
+    [[nodiscard]] const BitVector& libraryFilterMask() const { return m_libraryFilterMask; }
+    [[nodiscard]] BitVector& libraryFilterMask() { return m_libraryFilterMask; }
+    /// One bit per observation: set = matched by the condition evaluated last.
+    [[nodiscard]] const BitVector& matchedObservations() const { return m_matchedObservations; }
+    [[nodiscard]] BitVector& matchedObservations() { return m_matchedObservations; }
+    /// One bit per observation: set = selected by the dataset filter.
+    [[nodiscard]] const BitVector& datasetFilterMask() const { return m_datasetFilterMask; }
+    [[nodiscard]] BitVector& datasetFilterMask() { return m_datasetFilterMask; }
+
+    /// Whether a load reads cells. Without them it fills only the header and the attribute vectors.
+    [[nodiscard]] bool valuesWanted() const { return m_valuesWanted; }
+    void setValuesWanted(bool wanted) { m_valuesWanted = wanted; }
+
+    [[nodiscard]] const TextPool& textPool() const { return m_textPool; }
+    /// Cells held: observations x variables, or 0 after a metadata-only load.
+    [[nodiscard]] std::size_t cellCount() const { return m_cells.size(); }
+
+protected:
+    [[nodiscard]] bool inRange(int row, int column) const;
+    [[nodiscard]] bool isColumn(int column) const { return column >= 0 && column < m_variableCount; }
+    [[nodiscard]] std::size_t cellIndex(int row, int column) const;
+
+    /// Sets the variable count and gives every attribute vector one entry per variable.
+    void resizeVariables(int count);
+    /// Sizes the visibility, all shown, and the observation bits: the masks all set, the rest clear.
+    void resizeBits();
+
+    DatasetHeader m_header;
+    int m_observationCount = 0;
+    int m_variableCount = 0;
+    std::vector<std::string> m_names;
+    std::vector<std::string> m_labels;
+    std::vector<std::string> m_formats;
+    std::vector<std::string> m_informats;  ///< as SAS prints them: "DATE9."
+    std::vector<TypeCode> m_typeCodes;
+    std::vector<std::int32_t> m_lengths;  ///< bytes
+    std::vector<std::int32_t> m_formatWidths;
+    std::vector<std::int32_t> m_formatDecimals;
+    CellVector m_cells;
+    BitVector m_libraryFilterMask;
+    BitVector m_matchedObservations;
+    BitVector m_datasetFilterMask;
+    BitVector m_visibleVariables;
+    bool m_valuesWanted = true;
+    TextPool m_textPool;
+    SourceKind m_sourceKind = SourceKind::Sas;
+};
