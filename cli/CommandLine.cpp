@@ -5,9 +5,9 @@
 #include "data/FilePath.h"
 #include "data/Version.h"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <map>
 
@@ -31,10 +31,10 @@ int fail(const std::string& text)
 
 void addCommon(CLI::App& command, Common& common)
 {
-    static const std::map<std::string, OutputFormat> formats {
-        { "text", OutputFormat::Text },
-        { "json", OutputFormat::Json },
-        { "tsv", OutputFormat::Tsv },
+    static const std::map<std::string, OutputFormat> formats{
+        {"text", OutputFormat::Text},
+        {"json", OutputFormat::Json},
+        {"tsv", OutputFormat::Tsv},
     };
     command.add_option("FILE", common.file, "The data file")->required();
     command.add_option("--member", common.member, "The data set in a file that holds several");
@@ -45,7 +45,7 @@ void addCommon(CLI::App& command, Common& common)
 
 Result<OpenedDataset> open(const Common& common, bool metadataOnly)
 {
-    return openDataset(filepath::fromBytes(common.file), { metadataOnly, common.member });
+    return openDataset(filepath::fromBytes(common.file), {metadataOnly, common.member});
 }
 
 int runContents(const Common& common)
@@ -89,7 +89,7 @@ int run(int argc, char** argv)
     RowsRequest request;
     CLI::App* contents = app.add_subcommand("contents", "Describes a dataset and its variables");
     CLI::App* rows = app.add_subcommand("rows", "Prints observations");
-    for (CLI::App* command : { contents, rows }) {
+    for (CLI::App* command : {contents, rows}) {
         addCommon(*command, common);
     }
     addRowsOptions(*rows, request);

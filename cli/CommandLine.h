@@ -4,7 +4,12 @@
 namespace cli {
 
 /// Exit codes of all commands.
-enum ExitCode : int { Done = 0, Different = 1, Failed = 2 };
+enum ExitCode : int
+{
+    Done = 0,
+    Different = 1,
+    Failed = 2
+};
 
 /// Runs one command. Results go to standard output; problems go to standard error and name the file
 /// or variable.

@@ -29,7 +29,7 @@ std::string timeText(std::int64_t seconds)
         return {};
     }
     const auto time = static_cast<std::time_t>(seconds);
-    std::tm parts {};
+    std::tm parts{};
     gmtime_r(&time, &parts);
     return fmt::format("{:%Y-%m-%dT%H:%M:%S}", parts);
 }
@@ -39,23 +39,23 @@ std::vector<Field> fieldsOf(const OpenedDataset& opened, const std::string& file
     const StatDataset& dataset = *opened.dataset;
     const DatasetHeader& header = dataset.header();
     return {
-        { "file", "File", file },
-        { "table", "Data set", header.tableName },
-        { "label", "Label", header.fileLabel },
-        { "memberType", "Member type", header.memberType },
-        { "rows", "Observations", std::int64_t { dataset.observationCount() } },
-        { "columns", "Variables", std::int64_t { dataset.variableCount() } },
-        { "encoding", "Encoding", header.encoding },
-        { "created", "Created", timeText(header.creationTime) },
-        { "modified", "Modified", timeText(header.modificationTime) },
-        { "formatVersion", "Format version", header.formatVersion },
-        { "is64Bit", "64-bit layout", std::int64_t { header.is64Bit } },
-        { "release", "Release", header.release },
-        { "host", "Host", header.host },
-        { "pageSize", "Page size", static_cast<std::int64_t>(header.pageSize) },
-        { "pageCount", "Pages", static_cast<std::int64_t>(header.pageCount) },
-        { "observationLength", "Observation length", header.observationLength },
-        { "deletedObservations", "Deleted observations", header.deletedObservations },
+        {"file", "File", file},
+        {"table", "Data set", header.tableName},
+        {"label", "Label", header.fileLabel},
+        {"memberType", "Member type", header.memberType},
+        {"rows", "Observations", std::int64_t{dataset.observationCount()}},
+        {"columns", "Variables", std::int64_t{dataset.variableCount()}},
+        {"encoding", "Encoding", header.encoding},
+        {"created", "Created", timeText(header.creationTime)},
+        {"modified", "Modified", timeText(header.modificationTime)},
+        {"formatVersion", "Format version", header.formatVersion},
+        {"is64Bit", "64-bit layout", std::int64_t{header.is64Bit}},
+        {"release", "Release", header.release},
+        {"host", "Host", header.host},
+        {"pageSize", "Page size", static_cast<std::int64_t>(header.pageSize)},
+        {"pageCount", "Pages", static_cast<std::int64_t>(header.pageCount)},
+        {"observationLength", "Observation length", header.observationLength},
+        {"deletedObservations", "Deleted observations", header.deletedObservations},
     };
 }
 
@@ -63,9 +63,10 @@ std::string variableJson(const StatDataset& dataset, std::size_t v)
 {
     return fmt::format(
         R"({{"name":{},"type":{},"length":{},"format":{},"width":{},"decimals":{},"informat":{},"label":{}}})",
-        jsonText(dataset.names()[v]), static_cast<int>(dataset.typeCodes()[v]), dataset.lengths()[v],
-        jsonText(dataset.formats()[v]), dataset.formatWidths()[v], dataset.formatDecimals()[v],
-        jsonText(dataset.informats()[v]), jsonText(dataset.labels()[v]));
+        jsonText(dataset.names()[v]), static_cast<int>(dataset.typeCodes()[v]),
+        dataset.lengths()[v], jsonText(dataset.formats()[v]), dataset.formatWidths()[v],
+        dataset.formatDecimals()[v], jsonText(dataset.informats()[v]),
+        jsonText(dataset.labels()[v]));
 }
 
 void printJson(const OpenedDataset& opened, const std::vector<Field>& fields)
@@ -74,7 +75,8 @@ void printJson(const OpenedDataset& opened, const std::vector<Field>& fields)
     for (const Field& field : fields) {
         const auto* text = std::get_if<std::string>(&field.value);
         out += fmt::format("\"{}\":{},", field.key,
-                           text != nullptr ? jsonText(*text) : std::to_string(std::get<1>(field.value)));
+                           text != nullptr ? jsonText(*text)
+                                           : std::to_string(std::get<1>(field.value)));
     }
     out += "\"members\":[";
     for (std::size_t i = 0; i < opened.members.size(); ++i) {
@@ -89,21 +91,21 @@ void printJson(const OpenedDataset& opened, const std::vector<Field>& fields)
 
 std::vector<std::string> variableLine(const StatDataset& dataset, std::size_t v)
 {
-    return { std::to_string(v + 1),
-             dataset.names()[v],
-             std::to_string(static_cast<int>(dataset.typeCodes()[v])),
-             std::to_string(dataset.lengths()[v]),
-             dataset.formats()[v],
-             std::to_string(dataset.formatWidths()[v]),
-             std::to_string(dataset.formatDecimals()[v]),
-             dataset.informats()[v],
-             dataset.labels()[v] };
+    return {std::to_string(v + 1),
+            dataset.names()[v],
+            std::to_string(static_cast<int>(dataset.typeCodes()[v])),
+            std::to_string(dataset.lengths()[v]),
+            dataset.formats()[v],
+            std::to_string(dataset.formatWidths()[v]),
+            std::to_string(dataset.formatDecimals()[v]),
+            dataset.informats()[v],
+            dataset.labels()[v]};
 }
 
 const std::vector<std::string>& columnTitles()
 {
-    static const std::vector<std::string> titles { "#",     "Variable", "Type",     "Length", "Format",
-                                                   "Width", "Decimals", "Informat", "Label" };
+    static const std::vector<std::string> titles{
+        "#", "Variable", "Type", "Length", "Format", "Width", "Decimals", "Informat", "Label"};
     return titles;
 }
 
@@ -114,11 +116,11 @@ void printText(const OpenedDataset& opened, const std::vector<Field>& fields)
         const auto* text = std::get_if<std::string>(&field.value);
         std::string value = text != nullptr ? *text : std::to_string(std::get<1>(field.value));
         if (!value.empty()) {
-            head.add({ field.title, std::move(value) });
+            head.add({field.title, std::move(value)});
         }
     }
     for (const std::string& member : opened.members) {
-        head.add({ "Member", member });
+        head.add({"Member", member});
     }
     head.print({});
     print("\n");
@@ -127,7 +129,7 @@ void printText(const OpenedDataset& opened, const std::vector<Field>& fields)
     for (std::size_t v = 0; v < opened.dataset->names().size(); ++v) {
         table.add(variableLine(*opened.dataset, v));
     }
-    table.print({ true, false, true, true, false, true, true });
+    table.print({true, false, true, true, false, true, true});
 }
 
 void printTsv(const StatDataset& dataset)

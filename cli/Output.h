@@ -6,7 +6,12 @@
 
 namespace cli {
 
-enum class OutputFormat { Text, Json, Tsv };
+enum class OutputFormat
+{
+    Text,
+    Json,
+    Tsv
+};
 
 /// A JSON string with its quotes; bytes that are no UTF-8 become U+FFFD.
 [[nodiscard]] std::string jsonText(std::string_view text);

@@ -1,5 +1,7 @@
 #include "cli/RowsCommand.h"
 
+#include "analysis/RowSorter.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -17,8 +19,9 @@ constexpr int rowsPerBlock = 1000;
 
 bool sameName(std::string_view one, std::string_view other)
 {
-    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
-                      [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
+    return std::equal(
+        one.begin(), one.end(), other.begin(), other.end(),
+        [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
 }
 
 std::optional<int> variableNamed(const StatDataset& dataset, std::string_view name)
@@ -26,20 +29,43 @@ std::optional<int> variableNamed(const StatDataset& dataset, std::string_view na
     const auto& names = dataset.names();
     const auto found = std::find_if(names.begin(), names.end(),
                                     [&](const std::string& one) { return sameName(one, name); });
-    return found == names.end() ? std::nullopt : std::optional(static_cast<int>(found - names.begin()));
+    return found == names.end() ? std::nullopt
+                                : std::optional(static_cast<int>(found - names.begin()));
 }
 
-Result<std::vector<int>> variablesNamed(const StatDataset& dataset, const std::vector<std::string>& names)
+Result<std::vector<int>> variablesNamed(const StatDataset& dataset,
+                                        const std::vector<std::string>& names)
 {
     std::vector<int> variables;
     for (const std::string& name : names) {
         const std::optional<int> variable = variableNamed(dataset, name);
         if (!variable) {
-            return Failure { fmt::format("There is no variable named {}", name) };
+            return Failure{fmt::format("There is no variable named {}", name)};
         }
         variables.push_back(*variable);
     }
     return variables;
+}
+
+/// "NAME", "NAME:asc" or "NAME:desc".
+Result<SortKeys> sortKeysOf(const StatDataset& dataset, const std::vector<std::string>& texts)
+{
+    SortKeys keys;
+    for (const std::string& text : texts) {
+        const std::size_t colon = text.rfind(':');
+        const std::string name = text.substr(0, colon);
+        const std::string order = colon == std::string::npos ? "asc" : text.substr(colon + 1);
+        const std::optional<int> variable = variableNamed(dataset, name);
+        if (!variable) {
+            return Failure{fmt::format("There is no variable named {}", name)};
+        }
+        if (!sameName(order, "asc") && !sameName(order, "desc")) {
+            return Failure{fmt::format("{} is sorted asc or desc, not {}", name, order)};
+        }
+        keys.emplace_back(*variable,
+                          sameName(order, "asc") ? Qt::AscendingOrder : Qt::DescendingOrder);
+    }
+    return keys;
 }
 
 Result<std::vector<int>> chosenVariables(const StatDataset& dataset, const RowsRequest& request)
@@ -47,7 +73,7 @@ Result<std::vector<int>> chosenVariables(const StatDataset& dataset, const RowsR
     Result<std::vector<int>> kept = variablesNamed(dataset, request.keep);
     const Result<std::vector<int>> dropped = variablesNamed(dataset, request.drop);
     if (!kept || !dropped) {
-        return kept ? Failure { dropped.error() } : Failure { kept.error() };
+        return kept ? Failure{dropped.error()} : Failure{kept.error()};
     }
     std::vector<int>& variables = kept.value();
     if (request.keep.empty()) {
@@ -68,14 +94,13 @@ public:
         : m_dataset(dataset)
         , m_variables(std::move(variables))
         , m_raw(raw)
-    {
-    }
-    void print(std::span<const int> observations, OutputFormat format) const;
+    { }
+    void print(std::span<const std::uint32_t> observations, OutputFormat format) const;
 
 private:
-    void printJson(std::span<const int> observations) const;
-    void printTsv(std::span<const int> observations) const;
-    void printText(std::span<const int> observations) const;
+    void printJson(std::span<const std::uint32_t> observations) const;
+    void printTsv(std::span<const std::uint32_t> observations) const;
+    void printText(std::span<const std::uint32_t> observations) const;
     [[nodiscard]] std::string plainCell(int observation, int variable) const;
     [[nodiscard]] std::string jsonCell(int observation, int variable) const;
 
@@ -103,7 +128,7 @@ std::string RowPrinter::jsonCell(int observation, int variable) const
         : jsonText(plainCell(observation, variable));
 }
 
-void RowPrinter::print(std::span<const int> observations, OutputFormat format) const
+void RowPrinter::print(std::span<const std::uint32_t> observations, OutputFormat format) const
 {
     switch (format) {
     case OutputFormat::Json:
@@ -118,9 +143,10 @@ void RowPrinter::print(std::span<const int> observations, OutputFormat format) c
     }
 }
 
-void RowPrinter::printJson(std::span<const int> observations) const
+void RowPrinter::printJson(std::span<const std::uint32_t> observations) const
 {
-    for (const int observation : observations) {
+    for (const std::uint32_t number : observations) {
+        const int observation = static_cast<int>(number);
         std::string line = fmt::format(R"({{"obs":{},"cells":[)", observation + 1);
         for (std::size_t i = 0; i < m_variables.size(); ++i) {
             line += i == 0 ? "" : ",";
@@ -130,14 +156,15 @@ void RowPrinter::printJson(std::span<const int> observations) const
     }
 }
 
-void RowPrinter::printTsv(std::span<const int> observations) const
+void RowPrinter::printTsv(std::span<const std::uint32_t> observations) const
 {
     std::string header = "Obs";
     for (const int variable : m_variables) {
         header += '\t' + tsvText(m_dataset.names()[static_cast<std::size_t>(variable)]);
     }
     cli::print(header + '\n');
-    for (const int observation : observations) {
+    for (const std::uint32_t number : observations) {
+        const int observation = static_cast<int>(number);
         std::string line = std::to_string(observation + 1);
         for (const int variable : m_variables) {
             line += '\t' + tsvText(plainCell(observation, variable));
@@ -146,19 +173,20 @@ void RowPrinter::printTsv(std::span<const int> observations) const
     }
 }
 
-void RowPrinter::printText(std::span<const int> observations) const
+void RowPrinter::printText(std::span<const std::uint32_t> observations) const
 {
     TextTable table;
-    std::vector<std::string> titles { "Obs" };
-    std::vector<bool> alignRight { true };
+    std::vector<std::string> titles{"Obs"};
+    std::vector<bool> alignRight{true};
     for (const int variable : m_variables) {
         titles.push_back(m_dataset.names()[static_cast<std::size_t>(variable)]);
         alignRight.push_back(m_dataset.isNumeric(variable));
     }
     table.add(titles);
     int lines = 0;
-    for (const int observation : observations) {
-        std::vector<std::string> line { std::to_string(observation + 1) };
+    for (const std::uint32_t number : observations) {
+        const int observation = static_cast<int>(number);
+        std::vector<std::string> line{std::to_string(observation + 1)};
         for (const int variable : m_variables) {
             line.push_back(tsvText(plainCell(observation, variable)));
         }
@@ -175,11 +203,15 @@ void RowPrinter::printText(std::span<const int> observations) const
 Result<bool> printRows(const StatDataset& dataset, const RowsRequest& request, OutputFormat format)
 {
     const Result<std::vector<int>> variables = chosenVariables(dataset, request);
-    if (!variables) {
-        return Failure { variables.error() };
+    const Result<SortKeys> keys = sortKeysOf(dataset, request.sort);
+    if (!variables || !keys) {
+        return Failure{variables ? keys.error() : variables.error()};
     }
-    std::vector<int> observations(static_cast<std::size_t>(dataset.observationCount()));
-    std::iota(observations.begin(), observations.end(), 0);
+    std::vector<std::uint32_t> observations(static_cast<std::size_t>(dataset.observationCount()));
+    std::iota(observations.begin(), observations.end(), 0U);
+    if (!keys.value().empty()) {
+        rowsorter::sortObservations(dataset, keys.value(), observations);
+    }
     observations.resize(std::min(observations.size(), static_cast<std::size_t>(request.first)));
     RowPrinter(dataset, variables.value(), request.raw).print(observations, format);
     return true;

@@ -9,7 +9,7 @@
 namespace cellstorage {
 
 namespace {
-constexpr std::size_t hugePage = std::size_t { 2 } << 20;
+constexpr std::size_t hugePage = std::size_t{2} << 20;
 }
 
 #ifdef __linux__

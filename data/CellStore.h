@@ -8,27 +8,26 @@
 #include <utility>
 #include <vector>
 
-/// Storage for cells straight from the system: zeroed, committed only where it is touched, and in
-/// huge pages where the system has them. Freed as it was got.
+/// Storage for large tables straight from the system: zeroed, committed only where it is touched,
+/// and in huge pages where the system has them. Freed as it was got.
 namespace cellstorage {
 [[nodiscard]] void* allocate(std::size_t bytes);
 void release(void* memory, std::size_t bytes) noexcept;
 }  // namespace cellstorage
 
-/// Lets a std::vector<CellValue> take over zeroed storage without writing it first: a CellValue
-/// whose bytes are all zero is alternative 0 with a null pointer, which is its default value. So a
-/// vector sized by a header that promises too much costs nothing for the rows that never come.
+/// Lets a std::vector take over zeroed storage without writing it first, for elements whose default
+/// value is all zero bytes: a CellValue is then alternative 0 with a null pointer. So a vector
+/// sized by a header that promises too much costs nothing for the rows that never come.
 template <typename T>
-class CellAllocator
+class ZeroedAllocator
 {
 public:
     using value_type = T;
 
-    CellAllocator() = default;
+    ZeroedAllocator() = default;
     template <typename U>
-    CellAllocator(const CellAllocator<U>&) noexcept
-    {
-    }
+    ZeroedAllocator(const ZeroedAllocator<U>&) noexcept
+    { }
 
     [[nodiscard]] T* allocate(std::size_t count)
     {
@@ -45,15 +44,14 @@ public:
     /// Default construction: the zeroed storage already is the default value.
     template <typename U>
     void construct(U*) noexcept
-    {
-    }
+    { }
     template <typename U, typename... Arguments>
     void construct(U* place, Arguments&&... arguments)
     {
         ::new (static_cast<void*>(place)) U(std::forward<Arguments>(arguments)...);
     }
 
-    friend bool operator==(const CellAllocator&, const CellAllocator&) { return true; }
+    friend bool operator==(const ZeroedAllocator&, const ZeroedAllocator&) { return true; }
 };
 
-using CellVector = std::vector<CellValue, CellAllocator<CellValue>>;
+using CellVector = std::vector<CellValue, ZeroedAllocator<CellValue>>;

@@ -12,12 +12,11 @@ class PooledText
 public:
     explicit PooledText(std::uint32_t size)
         : m_size(size)
-    {
-    }
+    { }
     PooledText(const PooledText&) = delete;
     PooledText& operator=(const PooledText&) = delete;
 
-    [[nodiscard]] std::string_view text() const { return { bytes(), m_size }; }
+    [[nodiscard]] std::string_view text() const { return {bytes(), m_size}; }
     [[nodiscard]] std::uint32_t references() const { return m_references.load(); }
 
     /// Counts one more cell that shows this text.
@@ -30,7 +29,7 @@ public:
     }
 
 private:
-    std::atomic<std::uint32_t> m_references { 0 };
+    std::atomic<std::uint32_t> m_references{0};
     std::uint32_t m_size;
 };
 

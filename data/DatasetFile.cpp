@@ -22,7 +22,7 @@ Result<OpenedDataset> readWith(std::unique_ptr<Doc> doc, SourceKind kind, const 
     doc->setSourceKind(kind);
     doc->setValuesWanted(!options.metadataOnly);
     if (doc->load(path) != 0) {
-        return Failure { doc->loadError() };
+        return Failure{doc->loadError()};
     }
     OpenedDataset opened;
     if constexpr (std::is_same_v<Doc, XptDoc>) {
@@ -37,8 +37,9 @@ template <typename Doc, SourceKind kind>
 Result<OpenedDataset> readSingle(const QString& path, const OpenOptions& options)
 {
     if (!options.member.empty()) {
-        return Failure { fmt::format("{}: A file of this kind holds one dataset only; it has none named {}",
-                                     filepath::displayName(path), options.member) };
+        return Failure{
+            fmt::format("{}: A file of this kind holds one dataset only; it has none named {}",
+                        filepath::displayName(path), options.member)};
     }
     return readWith(std::make_unique<Doc>(), kind, path, options);
 }
@@ -56,11 +57,11 @@ struct Format
     Reader reader;
 };
 
-constexpr std::array formats {
-    Format { ".sas7bdat", readSingle<SasDoc, SourceKind::Sas> },
-    Format { ".xpt", readTransport },
-    Format { ".sav", readSingle<SavDoc, SourceKind::Spss> },
-    Format { ".dta", readSingle<DtaDoc, SourceKind::Stata> },
+constexpr std::array formats{
+    Format{".sas7bdat", readSingle<SasDoc, SourceKind::Sas>},
+    Format{".xpt", readTransport},
+    Format{".sav", readSingle<SavDoc, SourceKind::Spss>},
+    Format{".dta", readSingle<DtaDoc, SourceKind::Stata>},
 };
 
 Reader readerOf(const QString& path)
@@ -77,8 +78,9 @@ Result<OpenedDataset> openDataset(const QString& path, const OpenOptions& option
 {
     const Reader reader = readerOf(path);
     if (reader == nullptr) {
-        return Failure { fmt::format("{}: Its suffix belongs to no kind of data file that can be opened",
-                                     filepath::displayName(path)) };
+        return Failure{
+            fmt::format("{}: Its suffix belongs to no kind of data file that can be opened",
+                        filepath::displayName(path))};
     }
     return reader(path, options);
 }

@@ -13,7 +13,7 @@ struct OpenOptions
 {
     bool metadataOnly = false;
     /// Which dataset of a file that holds several; the first when empty.
-    std::string member {};
+    std::string member{};
 };
 
 /// A dataset that came from a file.
@@ -24,9 +24,10 @@ struct OpenedDataset
     std::vector<std::string> members;
 };
 
-/// Reads a data file: the reader is chosen by the suffix, in any letter case, and the source kind is
-/// recorded in the dataset. The reason of a failure is a sentence that names the file.
-[[nodiscard]] Result<OpenedDataset> openDataset(const QString& path, const OpenOptions& options = {});
+/// Reads a data file: the reader is chosen by the suffix, in any letter case, and the source kind
+/// is recorded in the dataset. The reason of a failure is a sentence that names the file.
+[[nodiscard]] Result<OpenedDataset> openDataset(const QString& path,
+                                                const OpenOptions& options = {});
 
 /// Whether there is a reader for the file's suffix.
 [[nodiscard]] bool isDatasetFile(const QString& path);

@@ -11,9 +11,10 @@ std::string DtaDoc::cellText(int row, int column) const
     }
     // Stata's narrower numbers have formats of their own and show like doubles.
     const auto variable = static_cast<std::size_t>(column);
-    return isCharacter(column) ? StatDataset::cellText(row, column)
-                               : formatNumeric(numericValue(row, column), m_formats[variable],
-                                               m_formatWidths[variable], m_formatDecimals[variable]);
+    return isCharacter(column)
+        ? StatDataset::cellText(row, column)
+        : formatNumeric(numericValue(row, column), m_formats[variable], m_formatWidths[variable],
+                        m_formatDecimals[variable]);
 }
 
 std::string DtaDoc::variableAttribute(int column, VariableAttribute attribute) const
@@ -34,7 +35,7 @@ std::string DtaDoc::prepare(const FileReader& file, ParserInput& input)
     m_layout = readDtaLayout(file);
     // Before release 118 files declare no encoding; nearly all come from Windows.
     setDecoder(TextDecoder(m_layout.release >= 118 ? "UTF-8" : "WINDOWS-1252"));
-    input.setReadAhead(std::size_t { 256 } << 10);
+    input.setReadAhead(std::size_t{256} << 10);
     return {};
 }
 
@@ -67,16 +68,17 @@ void DtaDoc::resolveLongStrings(const FileReader& file)
 {
     const LongStrings strings = readLongStrings(file, m_layout);
     for (int row = 0; row < m_observationCount; ++row) {
-        const std::vector<char> bytes
-            = file.bytesAt(m_layout.dataOffset + row * m_layout.rowLength, m_layout.rowLength);
-        const ByteView cells({ bytes.data(), bytes.size() }, m_layout.littleEndian);
+        const std::vector<char> bytes =
+            file.bytesAt(m_layout.dataOffset + row * m_layout.rowLength, m_layout.rowLength);
+        const ByteView cells({bytes.data(), bytes.size()}, m_layout.littleEndian);
         for (const auto& [variable, offset] : m_layout.longStringVariables) {
             // Three bytes of variable number and five of observation number, in file byte order.
             const std::uint64_t reference = cells.u64(static_cast<std::size_t>(offset));
             const bool little = m_layout.littleEndian;
-            const auto number = static_cast<std::uint32_t>(little ? reference & 0xFFFFFF : reference >> 40);
+            const auto number =
+                static_cast<std::uint32_t>(little ? reference & 0xFFFFFF : reference >> 40);
             const std::uint64_t observation = little ? reference >> 24 : reference & 0xFFFFFFFFFF;
-            const auto found = strings.find({ number, observation });
+            const auto found = strings.find({number, observation});
             if (found != strings.end()) {
                 PooledText* record = pooled(texts::trimmedView(found->second));
                 record->addReference();

@@ -92,11 +92,11 @@ std::int64_t variableCount(const ByteView& header, std::size_t at, int release)
 void readTypes(const FileReader& file, std::int64_t offset, std::int64_t count, DtaLayout& layout)
 {
     const std::vector<char> bytes = file.bytesAt(offset, 2 * count);
-    const ByteView types({ bytes.data(), bytes.size() }, layout.littleEndian);
+    const ByteView types({bytes.data(), bytes.size()}, layout.littleEndian);
     for (std::int64_t i = 0; i < static_cast<std::int64_t>(bytes.size()) / 2; ++i) {
         const unsigned type = types.u16(static_cast<std::size_t>(2 * i));
         if (type == longStringType) {
-            layout.longStringVariables.push_back({ static_cast<int>(i), layout.rowLength });
+            layout.longStringVariables.push_back({static_cast<int>(i), layout.rowLength});
         }
         layout.rowLength += widthOfType(type);
     }
@@ -153,7 +153,7 @@ LongStrings readLongStrings(const FileReader& file, const DtaLayout& layout)
     std::int64_t position = layout.longStringsOffset;
     while (position + headerSize <= layout.longStringsEnd) {
         const std::vector<char> bytes = file.bytesAt(position, headerSize);
-        const ByteView header({ bytes.data(), bytes.size() }, layout.littleEndian);
+        const ByteView header({bytes.data(), bytes.size()}, layout.littleEndian);
         const std::int64_t length = header.u32(static_cast<std::size_t>(headerSize - 4));
         if (header.text(0, 3) != "GSO" || position + headerSize + length > layout.longStringsEnd) {
             break;

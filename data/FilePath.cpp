@@ -35,7 +35,8 @@ QString fromBytes(std::string_view bytes)
         path += QString::fromUtf8(bytes.data(), static_cast<qsizetype>(valid));
         bytes.remove_prefix(valid);
         if (!bytes.empty()) {
-            path += QChar(static_cast<char16_t>(0xDC00 + static_cast<unsigned char>(bytes.front())));
+            path +=
+                QChar(static_cast<char16_t>(0xDC00 + static_cast<unsigned char>(bytes.front())));
             bytes.remove_prefix(1);
         }
     }

@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <system_error>
-
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 FileReader::~FileReader()
@@ -18,7 +17,8 @@ FileReader::~FileReader()
 bool FileReader::open(const std::string& path)
 {
     m_handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    struct stat status { };
+    struct stat status
+    { };
     if (m_handle < 0 || fstat(m_handle, &status) != 0) {
         m_error = std::generic_category().message(errno);
         return false;
@@ -53,7 +53,8 @@ std::int64_t FileReader::readAt(std::int64_t offset, std::span<char> buffer) con
 
 std::vector<char> FileReader::bytesAt(std::int64_t offset, std::int64_t count) const
 {
-    const std::int64_t there = std::clamp<std::int64_t>(m_size - offset, 0, std::max<std::int64_t>(count, 0));
+    const std::int64_t there =
+        std::clamp<std::int64_t>(m_size - offset, 0, std::max<std::int64_t>(count, 0));
     std::vector<char> bytes(static_cast<std::size_t>(there));
     const std::int64_t got = readAt(offset, bytes);
     bytes.resize(static_cast<std::size_t>(std::max<std::int64_t>(got, 0)));

@@ -38,7 +38,8 @@ int InMemoryDataset::findVariable(std::wstring_view name) const
     return StatDataset::findVariable(narrowed);
 }
 
-std::string InMemoryDataset::formatCharacter(std::string_view text, std::string_view, int, int) const
+std::string InMemoryDataset::formatCharacter(std::string_view text, std::string_view, int,
+                                             int) const
 {
     return text.data() == nullptr ? std::string() : std::string(text);
 }
@@ -81,8 +82,7 @@ double InMemoryDataset::numericValue(int row, int column) const
 
 InMemoryDatasetBuilder::InMemoryDatasetBuilder()
     : m_dataset(std::make_unique<InMemoryDataset>())
-{
-}
+{ }
 
 InMemoryDatasetBuilder& InMemoryDatasetBuilder::setTableName(std::string name)
 {
@@ -154,8 +154,8 @@ void InMemoryDatasetBuilder::append(TypeCode type, CellValue value)
     if (dataset.m_variableCount == 0) {
         throw std::logic_error("a cell comes before the first variable");
     }
-    const std::size_t variable
-        = dataset.m_cells.size() % static_cast<std::size_t>(dataset.m_variableCount);
+    const std::size_t variable =
+        dataset.m_cells.size() % static_cast<std::size_t>(dataset.m_variableCount);
     if (dataset.m_typeCodes[variable] != type) {
         throw std::logic_error("variable " + dataset.m_names[variable] + " has the other type");
     }
@@ -169,8 +169,8 @@ std::unique_ptr<InMemoryDataset> InMemoryDatasetBuilder::build()
     if (variables != 0 && dataset.m_cells.size() % variables != 0) {
         throw std::logic_error("the last row is incomplete");
     }
-    dataset.m_observationCount
-        = variables == 0 ? 0 : static_cast<int>(dataset.m_cells.size() / variables);
+    dataset.m_observationCount =
+        variables == 0 ? 0 : static_cast<int>(dataset.m_cells.size() / variables);
     dataset.resizeBits();
     return std::exchange(m_dataset, std::make_unique<InMemoryDataset>());
 }

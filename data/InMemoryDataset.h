@@ -37,13 +37,13 @@ private:
 struct VariableDescription
 {
     std::string name;
-    std::string label {};
-    std::string format {};
+    std::string label{};
+    std::string format{};
     TypeCode type = TypeCode::Double;
     std::int32_t length = 8;
     std::int32_t width = 0;
     std::int32_t decimals = 0;
-    std::string informat {};
+    std::string informat{};
 };
 
 /// Builds an InMemoryDataset: variables first, then cell after cell, row by row.

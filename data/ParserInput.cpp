@@ -35,7 +35,7 @@ readstat_error_t onUpdate(long, readstat_progress_handler, void*, void*)
 ParserInput::ParserInput(const FileReader& file)
     : m_file(file)
 {
-    setPieces({ { 0, file.size() } });
+    setPieces({{0, file.size()}});
 }
 
 void ParserInput::setPieces(const std::vector<Piece>& pieces)
@@ -43,7 +43,7 @@ void ParserInput::setPieces(const std::vector<Piece>& pieces)
     m_pieces.clear();
     m_size = 0;
     for (const Piece& piece : pieces) {
-        m_pieces.push_back({ m_size, piece.fileOffset, piece.length });
+        m_pieces.push_back({m_size, piece.fileOffset, piece.length});
         m_size += piece.length;
     }
 }
@@ -53,7 +53,7 @@ void ParserInput::replaceByte(std::int64_t offset, char byte)
     const auto place = std::lower_bound(
         m_replacements.begin(), m_replacements.end(), offset,
         [](const Replacement& one, std::int64_t other) { return one.offset < other; });
-    m_replacements.insert(place, { offset, byte });
+    m_replacements.insert(place, {offset, byte});
 }
 
 void ParserInput::setReadAhead(std::size_t bytes)
@@ -115,13 +115,14 @@ std::int64_t ParserInput::read(char* target, std::size_t count)
 std::int64_t ParserInput::readPieces(std::int64_t offset, char* target, std::size_t count) const
 {
     std::size_t done = 0;
-    auto piece = std::upper_bound(
-        m_pieces.begin(), m_pieces.end(), offset,
-        [](std::int64_t one, const PlacedPiece& other) { return one < other.start + other.length; });
+    auto piece = std::upper_bound(m_pieces.begin(), m_pieces.end(), offset,
+                                  [](std::int64_t one, const PlacedPiece& other) {
+                                      return one < other.start + other.length;
+                                  });
     for (; piece != m_pieces.end() && done < count; ++piece) {
         const std::int64_t inside = offset + static_cast<std::int64_t>(done) - piece->start;
         const auto part = std::min(count - done, static_cast<std::size_t>(piece->length - inside));
-        const std::int64_t got = m_file.readAt(piece->fileOffset + inside, { target + done, part });
+        const std::int64_t got = m_file.readAt(piece->fileOffset + inside, {target + done, part});
         if (got < 0) {
             return -1;
         }

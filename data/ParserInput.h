@@ -7,9 +7,9 @@
 #include <cstdint>
 #include <vector>
 
-/// What the format library reads in place of the bare file: chosen pieces of it one after the other,
-/// with single bytes replaced that the library would stumble over, and through a buffer where it
-/// would make a system call for every row.
+/// What the format library reads in place of the bare file: chosen pieces of it one after the
+/// other, with single bytes replaced that the library would stumble over, and through a buffer
+/// where it would make a system call for every row.
 class ParserInput
 {
 public:

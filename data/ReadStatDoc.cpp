@@ -103,9 +103,10 @@ readstat_error_t ReadStatDoc::runParser(const std::string& path, ParserInput& in
     readstat_set_handler_character_encoding(parser.get(), nullptr);
     input.attachTo(parser.get());
     const readstat_error_t code = parse(parser.get(), path.c_str());
+    resolveWaitingTexts();
     // The variable handler stops a metadata-only parse itself: the library would walk all the data.
-    const bool stoppedEarly
-        = code == READSTAT_ERROR_USER_ABORT && m_variablesAreDone && m_refusal.empty();
+    const bool stoppedEarly =
+        code == READSTAT_ERROR_USER_ABORT && m_variablesAreDone && m_refusal.empty();
     return stoppedEarly || isSuccess(code) ? READSTAT_OK : code;
 }
 
@@ -117,7 +118,8 @@ int ReadStatDoc::finish(const QString& path, readstat_error_t code)
     if (code != READSTAT_OK) {
         const std::string why = m_refusal.empty() ? readstat_error_message(code) : m_refusal;
         m_loadError = fmt::format("{}: {}", filepath::displayName(path), why);
-        std::printf("Error processing %s: %d\n", filepath::toBytes(path).c_str(), static_cast<int>(code));
+        std::printf("Error processing %s: %d\n", filepath::toBytes(path).c_str(),
+                    static_cast<int>(code));
         return code;
     }
     if (m_rowsAreCounted) {
@@ -140,7 +142,8 @@ int ReadStatDoc::resizeDataset(std::int64_t rows, std::int64_t variables, std::i
         return refuse("The counts in its header are damaged");
     }
     if (rows > mostRows) {
-        return refuse(fmt::format("Its header promises {} observations, but it is too short to hold them", rows));
+        return refuse(fmt::format(
+            "Its header promises {} observations, but it is too short to hold them", rows));
     }
     resizeVariables(static_cast<int>(variables));
     if (const int refused = m_valuesWanted ? reserveRows(rows) : 0; refused != 0) {
@@ -154,7 +157,8 @@ int ReadStatDoc::resizeDataset(std::int64_t rows, std::int64_t variables, std::i
 int ReadStatDoc::reserveRows(std::int64_t rows)
 {
     if (rows < 0 || rows > mostObservations) {
-        return refuse(fmt::format("It has {} observations; at most {} can be shown", rows, mostObservations));
+        return refuse(
+            fmt::format("It has {} observations; at most {} can be shown", rows, mostObservations));
     }
     m_rowsAreCounted = true;
     m_lastTexts.assign(static_cast<std::size_t>(m_variableCount), nullptr);
@@ -196,8 +200,8 @@ int ReadStatDoc::onVariable(int index, readstat_variable_t* variable, const char
         }
         self->acceptVariable(index, *variable);
         self->m_variablesAreDone = index == self->m_variableCount - 1;
-        const bool stop
-            = self->m_variablesAreDone && !self->m_valuesWanted && !self->m_rowCountIsUnknown;
+        const bool stop =
+            self->m_variablesAreDone && !self->m_valuesWanted && !self->m_rowCountIsUnknown;
         return stop ? READSTAT_HANDLER_ABORT : READSTAT_HANDLER_OK;
     } catch (const std::exception& error) {
         return self->refuse(error.what());
@@ -230,7 +234,8 @@ void ReadStatDoc::acceptVariable(int index, const readstat_variable_t& variable)
     completeVariable(index);
 }
 
-int ReadStatDoc::acceptValue(int row, const readstat_variable_t& variable, const readstat_value_t& value)
+int ReadStatDoc::acceptValue(int row, const readstat_variable_t& variable,
+                             const readstat_value_t& value)
 {
     if (isSkipped(row)) {
         return READSTAT_HANDLER_OK;
@@ -250,13 +255,15 @@ int ReadStatDoc::acceptValue(int row, const readstat_variable_t& variable, const
         }
         growTo(at + 1);
     }
-    const bool isText = value.type == READSTAT_TYPE_STRING || value.type == READSTAT_TYPE_STRING_REF;
+    const bool isText =
+        value.type == READSTAT_TYPE_STRING || value.type == READSTAT_TYPE_STRING_REF;
     if (m_typeCodes[column] == TypeCode::Character) {
-        PooledText* record = pooledCell(column, isText ? value.v.string_value : nullptr);
-        record->addReference();
-        m_cells[at] = record;
+        acceptText(at, column, isText ? value.v.string_value : nullptr);
     } else {
         m_cells[at] = isText ? missingNumber : numberOf(value);
+    }
+    if (variable.index == m_variableCount - 1) {
+        resolveWaitingTexts();
     }
     return READSTAT_HANDLER_OK;
 }
@@ -279,17 +286,44 @@ void ReadStatDoc::growTo(std::size_t cells)
     m_cells.resize((wanted + variables - 1) / variables * variables);
 }
 
-PooledText* ReadStatDoc::pooledCell(std::size_t column, const char* text)
+/// Texts that the pool must be asked for wait until the end of their row: see TextPool::prefetch().
+void ReadStatDoc::acceptText(std::size_t cell, std::size_t column, const char* text)
 {
     const std::string_view raw = texts::trimmedView(text == nullptr ? "" : text);
     PooledText* last = m_lastTexts[column];
     if (last != nullptr && last->text() == raw) {
-        return last;
+        last->addReference();
+        m_cells[cell] = last;
+        return;
     }
-    PooledText* record = pooled(raw);
-    // A converted text is not remembered: other bytes of the file could read like it.
-    m_lastTexts[column] = record->text() == raw ? record : nullptr;
-    return record;
+    if (!m_decoder.isUnchanged(raw)) {
+        PooledText* record = convertedText(raw);
+        record->addReference();
+        m_cells[cell] = record;
+        // A converted text is not remembered: other bytes of the file could read like it.
+        m_lastTexts[column] = record->text() == raw ? record : nullptr;
+        return;
+    }
+    const std::uint64_t hash = TextPool::hashOf(raw);
+    m_textPool.prefetch(hash);
+    m_waitingTexts.push_back({cell, column, m_waitingBytes.size(), raw.size(), hash});
+    m_waitingBytes += raw;
+}
+
+void ReadStatDoc::resolveWaitingTexts()
+{
+    for (const WaitingText& waiting : m_waitingTexts) {
+        m_textPool.prefetchRecord(waiting.hash);
+    }
+    for (const WaitingText& waiting : m_waitingTexts) {
+        const std::string_view raw(m_waitingBytes.data() + waiting.start, waiting.size);
+        PooledText* record = m_textPool.intern(raw, waiting.hash);
+        record->addReference();
+        m_cells[waiting.cell] = record;
+        m_lastTexts[waiting.column] = record;
+    }
+    m_waitingTexts.clear();
+    m_waitingBytes.clear();
 }
 
 PooledText* ReadStatDoc::pooled(std::string_view raw)

@@ -5,9 +5,9 @@
 #include "data/StatDataset.h"
 #include "data/TextDecoder.h"
 
-#include <QString>
-
 #include <readstat.h>
+
+#include <QString>
 
 #include <cstdint>
 #include <memory>
@@ -22,7 +22,8 @@ class ReadStatDoc : public StatDataset
 {
 public:
     /// Reads the file. Without wanted values only the header and the variables.
-    /// @return the library's error code, 0 for success; loadError() then says what is wrong. After a
+    /// @return the library's error code, 0 for success; loadError() then says what is wrong. After
+    /// a
     ///         failure the dataset keeps whatever had been filled.
     [[nodiscard]] int load(const QString& path);
 
@@ -45,7 +46,10 @@ protected:
     /// Runs after the parse, with the file still open; a reason that is returned fails the load.
     virtual std::string complete(const FileReader&) { return {}; }
     /// Whether this result of the parse is a success for this file.
-    [[nodiscard]] virtual bool isSuccess(readstat_error_t code) const { return code == READSTAT_OK; }
+    [[nodiscard]] virtual bool isSuccess(readstat_error_t code) const
+    {
+        return code == READSTAT_OK;
+    }
 
     /// Ends the parse with this reason; for use in handlers.
     int refuse(std::string reason);
@@ -54,8 +58,8 @@ protected:
     int resizeDataset(std::int64_t rows, std::int64_t variables, std::int64_t mostRows);
     /// Makes room for that many rows at first; more may come, and those that do are counted.
     int reserveRows(std::int64_t rows);
-    /// For prepare(): the file does not tell how many rows it has, so even without wanted values the
-    /// whole of it is read to count them.
+    /// For prepare(): the file does not tell how many rows it has, so even without wanted values
+    /// the whole of it is read to count them.
     void setRowCountUnknown() { m_rowCountIsUnknown = true; }
     [[nodiscard]] bool rowCountIsUnknown() const { return m_rowCountIsUnknown; }
     [[nodiscard]] std::int64_t fileSize() const { return m_fileSize; }
@@ -75,7 +79,8 @@ protected:
 
 private:
     static int onMetadata(readstat_metadata_t* metadata, void* context) noexcept;
-    static int onVariable(int index, readstat_variable_t* variable, const char*, void* context) noexcept;
+    static int onVariable(int index, readstat_variable_t* variable, const char*,
+                          void* context) noexcept;
     static int onValue(int row, readstat_variable_t* variable, readstat_value_t value,
                        void* context) noexcept;
 
@@ -85,7 +90,8 @@ private:
     int acceptValue(int row, const readstat_variable_t& variable, const readstat_value_t& value);
     bool isSkipped(int& row);
     void growTo(std::size_t cells);
-    PooledText* pooledCell(std::size_t column, const char* text);
+    void acceptText(std::size_t cell, std::size_t column, const char* text);
+    void resolveWaitingTexts();
     PooledText* convertedText(std::string_view raw);
 
     std::int32_t m_compression = 0;
@@ -103,5 +109,16 @@ private:
     bool m_variablesAreDone = false;
     int m_rowsSeen = 0;
     std::vector<PooledText*> m_lastTexts;  ///< of each column: neighbouring rows repeat
+    /// A text cell of the current row that waits for its look-up.
+    struct WaitingText
+    {
+        std::size_t cell;
+        std::size_t column;
+        std::size_t start;  ///< of its bytes in m_waitingBytes
+        std::size_t size;
+        std::uint64_t hash;
+    };
+    std::vector<WaitingText> m_waitingTexts;
+    std::string m_waitingBytes;
     std::unordered_map<std::string, PooledText*> m_converted;  ///< by the bytes of the file
 };

@@ -17,12 +17,10 @@ class [[nodiscard]] Result
 public:
     Result(T value)
         : m_state(std::in_place_index<0>, std::move(value))
-    {
-    }
+    { }
     Result(Failure failure)
         : m_state(std::in_place_index<1>, std::move(failure))
-    {
-    }
+    { }
 
     [[nodiscard]] bool ok() const { return m_state.index() == 0; }
     explicit operator bool() const { return ok(); }

@@ -12,7 +12,7 @@ namespace {
 
 /// Offsets and signatures of the file, n = 4 in 32-bit and 8 in 64-bit layout.
 constexpr std::int64_t smallestHeader = 1024;
-constexpr std::int64_t largestPage = std::int64_t { 1 } << 24;
+constexpr std::int64_t largestPage = std::int64_t{1} << 24;
 
 constexpr std::uint32_t rowSizeSignature = 0xF7F7F7F7;
 constexpr std::uint32_t columnCountSignature = 0xF6F6F6F6;
@@ -34,8 +34,8 @@ constexpr unsigned deletedCompressedRow = 5;
 /// Encoding codes that the packaged library takes; others end its parse at the header.
 bool libraryKnows(int encodingCode)
 {
-    constexpr std::array known { 0,  20, 28, 29, 33, 40, 60, 61, 62, 63, 64, 65, 66, 67,
-                                 118, 119, 123, 125, 126, 134, 138, 140, 205 };
+    constexpr std::array known{0,  20, 28,  29,  33,  40,  60,  61,  62,  63,  64, 65,
+                               66, 67, 118, 119, 123, 125, 126, 134, 138, 140, 205};
     return std::find(known.begin(), known.end(), encodingCode) != known.end();
 }
 
@@ -44,8 +44,7 @@ class LayoutReader
 public:
     explicit LayoutReader(const FileReader& file)
         : m_file(file)
-    {
-    }
+    { }
     Sas7bdatLayout read();
 
 private:
@@ -128,19 +127,22 @@ bool LayoutReader::readHeader()
     const std::size_t a1 = at(35) == 0x33 ? 4 : 0;
     m_is64Bit = a2 != 0;
     m_littleEndian = at(37) == 1;
-    const ByteView header({ bytes.data(), bytes.size() }, m_littleEndian);
+    const ByteView header({bytes.data(), bytes.size()}, m_littleEndian);
 
     m_headerLength = header.u32(196 + a1);
     m_pageSize = header.u32(200 + a1);
-    m_pageCount = m_is64Bit ? static_cast<std::int64_t>(header.u64(204 + a1)) : header.u32(204 + a1);
+    m_pageCount =
+        m_is64Bit ? static_cast<std::int64_t>(header.u64(204 + a1)) : header.u32(204 + a1);
     m_layout.encodingCode = at(70);
     readHeaderTexts(header, a1, a2);
     repairForLibrary(header, a1, a2);
-    if (m_headerLength < smallestHeader || m_pageSize < smallestHeader || m_pageSize > largestPage) {
+    if (m_headerLength < smallestHeader || m_pageSize < smallestHeader
+        || m_pageSize > largestPage) {
         return false;
     }
     // A page count beyond the file's size is damage; what is there can still be described.
-    m_pageCount = std::clamp<std::int64_t>(m_pageCount, 0, (m_file.size() - m_headerLength) / m_pageSize + 1);
+    m_pageCount =
+        std::clamp<std::int64_t>(m_pageCount, 0, (m_file.size() - m_headerLength) / m_pageSize + 1);
     return m_file.size() > m_headerLength;
 }
 
@@ -160,7 +162,7 @@ void LayoutReader::readHeaderTexts(const ByteView& header, std::size_t a1, std::
     const std::string version = field(240 + a1 + a2, 16);
     const std::string maker = field(256 + a1 + a2, 16);
     const std::string machine = field(272 + a1 + a2, 16);
-    for (const std::string& part : { machine.empty() ? maker : machine, version }) {
+    for (const std::string& part : {machine.empty() ? maker : machine, version}) {
         if (!part.empty()) {
             target.host += target.host.empty() ? part : " " + part;
         }
@@ -178,8 +180,9 @@ void LayoutReader::repairForLibrary(const ByteView& header, std::size_t a1, std:
     constexpr std::string_view pattern = "d.ddddMd";
     const bool fits = release.size() == pattern.size()
         && std::equal(pattern.begin(), pattern.end(), release.begin(), [](char want, char have) {
-               return want == 'd' ? std::isdigit(static_cast<unsigned char>(have)) != 0 : want == have;
-           });
+                          return want == 'd' ? std::isdigit(static_cast<unsigned char>(have)) != 0
+                                             : want == have;
+                      });
     if (!fits) {
         replace(static_cast<std::int64_t>(216 + a1 + a2), "9.0401M0");
     }
@@ -188,7 +191,7 @@ void LayoutReader::repairForLibrary(const ByteView& header, std::size_t a1, std:
 void LayoutReader::replace(std::int64_t offset, std::string_view bytes)
 {
     for (const char byte : bytes) {
-        m_layout.replacements.push_back({ offset++, byte });
+        m_layout.replacements.push_back({offset++, byte});
     }
 }
 
@@ -200,15 +203,15 @@ std::optional<LayoutReader::Page> LayoutReader::pageAt(std::int64_t number)
     if (got < static_cast<std::int64_t>(pageHeaderSize())) {
         return std::nullopt;
     }
-    const ByteView bytes({ m_pageBytes.data(), static_cast<std::size_t>(got) }, m_littleEndian);
+    const ByteView bytes({m_pageBytes.data(), static_cast<std::size_t>(got)}, m_littleEndian);
     const std::size_t at = m_is64Bit ? 32 : 16;
-    return Page { bytes, offset, bytes.u16(at), bytes.u16(at + 2), bytes.u16(at + 4) };
+    return Page{bytes, offset, bytes.u16(at), bytes.u16(at + 2), bytes.u16(at + 4)};
 }
 
 unsigned LayoutReader::typeOfPage(std::int64_t number) const
 {
     const std::vector<char> bytes = m_file.bytesAt(m_headerLength + number * m_pageSize, 40);
-    return ByteView({ bytes.data(), bytes.size() }, m_littleEndian).u16(m_is64Bit ? 32 : 16);
+    return ByteView({bytes.data(), bytes.size()}, m_littleEndian).u16(m_is64Bit ? 32 : 16);
 }
 
 std::vector<LayoutReader::Subheader> LayoutReader::subheadersOf(const Page& page) const
@@ -226,9 +229,10 @@ std::vector<LayoutReader::Subheader> LayoutReader::subheadersOf(const Page& page
         if (offset < 0 || length < 0 || offset + length > m_pageSize) {
             continue;
         }
-        found.push_back({ page.offset + offset,
-                          page.bytes.view(static_cast<std::size_t>(offset), static_cast<std::size_t>(length)),
-                          compression, page.offset + static_cast<std::int64_t>(at) });
+        found.push_back(
+            {page.offset + offset,
+             page.bytes.view(static_cast<std::size_t>(offset), static_cast<std::size_t>(length)),
+             compression, page.offset + static_cast<std::int64_t>(at)});
     }
     return found;
 }
@@ -323,7 +327,9 @@ void LayoutReader::readRowSize(const ByteView& subheader)
         return;
     }
     // References to texts, counted from the end of the subheader.
-    const auto referred = [&](std::size_t fromEnd) { return textAt(subheader, subheader.size() - fromEnd); };
+    const auto referred = [&](std::size_t fromEnd) {
+        return textAt(subheader, subheader.size() - fromEnd);
+    };
     m_layout.header.fileLabel = referred(130);
     m_layout.compressed = referred(118).starts_with("SASYZCR");
     const std::string type = referred(124);
@@ -336,9 +342,9 @@ void LayoutReader::readColumnFormat(const ByteView& subheader)
 {
     const std::size_t n = wordSize();
     Sas7bdatLayout::Column column;
-    column.format = { textAt(subheader, 3 * n + 22), subheader.u16(3 * n), subheader.u16(3 * n + 2) };
-    column.informat
-        = { textAt(subheader, 3 * n + 16), subheader.u16(3 * n + 4), subheader.u16(3 * n + 6) };
+    column.format = {textAt(subheader, 3 * n + 22), subheader.u16(3 * n), subheader.u16(3 * n + 2)};
+    column.informat = {textAt(subheader, 3 * n + 16), subheader.u16(3 * n + 4),
+                       subheader.u16(3 * n + 6)};
     m_layout.columns.push_back(std::move(column));
 }
 
@@ -357,7 +363,8 @@ void LayoutReader::noteEmptyColumns(const Subheader& subheader)
             m_layout.emptyColumns.push_back(static_cast<int>(m_attributeCount));
             const std::int64_t place = subheader.offset + static_cast<std::int64_t>(at);
             replace(place, std::string(n, '\0'));
-            const std::string one = m_littleEndian ? std::string("\1\0\0\0", 4) : std::string("\0\0\0\1", 4);
+            const std::string one =
+                m_littleEndian ? std::string("\1\0\0\0", 4) : std::string("\0\0\0\1", 4);
             replace(place + static_cast<std::int64_t>(n), one);
         }
         ++m_attributeCount;
@@ -379,15 +386,15 @@ std::string LayoutReader::textAt(const ByteView& subheader, std::size_t referenc
 
 void LayoutReader::estimateMostRows()
 {
-    const auto smallest = m_layout.compressed
-        ? static_cast<std::int64_t>(pointerSize())
-        : std::max<std::int64_t>(m_layout.rowLength, 1);
+    const auto smallest = m_layout.compressed ? static_cast<std::int64_t>(pointerSize())
+                                              : std::max<std::int64_t>(m_layout.rowLength, 1);
     m_layout.mostRows = (m_file.size() - m_headerLength) / smallest;
 }
 
 void LayoutReader::findDeletedRows()
 {
-    for (std::int64_t number = 0; number < m_pageCount && m_rowsSeen < m_layout.rowCount; ++number) {
+    for (std::int64_t number = 0; number < m_pageCount && m_rowsSeen < m_layout.rowCount;
+         ++number) {
         const std::optional<Page> page = pageAt(number);
         if (page && (page->type & compressionIndexPage) != compressionIndexPage) {
             findDeletedRowsOn(*page);
@@ -402,7 +409,7 @@ void LayoutReader::findDeletedRowsOn(const Page& page)
         if (compression == deletedCompressedRow) {
             // The library does not know this mark: it reads the row, and the row is dropped here.
             const auto place = static_cast<std::int64_t>(2 * wordSize());
-            replace(subheader.pointerOffset + place, std::string(1, char { compressedRow }));
+            replace(subheader.pointerOffset + place, std::string(1, char{compressedRow}));
         }
         const bool isRow = compression == compressedRow || compression == deletedCompressedRow;
         const bool isPlainRow = m_layout.compressed && compression == 0

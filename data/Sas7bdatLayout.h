@@ -8,7 +8,8 @@
 #include <string>
 #include <vector>
 
-/// A format or informat as a file records it: all parts as they stand, names in the file's encoding.
+/// A format or informat as a file records it: all parts as they stand, names in the file's
+/// encoding.
 struct FormatRecord
 {
     std::string name;

@@ -29,8 +29,8 @@ std::string SasDataset::cellText(int row, int column) const
     }
     // A character format without a width shows the whole variable, not the format's default width.
     const int width = m_formatWidths[variable] > 0 ? m_formatWidths[variable] : m_lengths[variable];
-    const std::string_view text = std::get<0>(cell(row, column))->text();
-    return texts::trimmed(formatCharacter(text, m_formats[variable], width, m_formatDecimals[variable]));
+    return texts::trimmed(formatCharacter(heldText(row, column), m_formats[variable], width,
+                                          m_formatDecimals[variable]));
 }
 
 std::string SasDataset::variableAttribute(int column, VariableAttribute attribute) const
@@ -38,8 +38,8 @@ std::string SasDataset::variableAttribute(int column, VariableAttribute attribut
     const auto variable = static_cast<std::size_t>(column);
     const std::string& name = m_formats[variable];
     const bool isFormat = attribute == VariableAttribute::Format && !name.empty();
-    const bool isInformat
-        = attribute == VariableAttribute::Informat && (name == "$" || name == "BEST");
+    const bool isInformat =
+        attribute == VariableAttribute::Informat && (name == "$" || name == "BEST");
     if (isFormat || isInformat) {
         const int decimals = m_formatDecimals[variable];
         return name + '.' + (decimals >= 1 ? std::to_string(decimals) : std::string());

@@ -20,7 +20,7 @@ int SasDoc::acceptMetadata(const readstat_metadata_t& metadata)
 {
     m_header = m_layout.header;
     copyCommonMetadata(metadata);
-    for (std::string* text : { &m_header.tableName, &m_header.fileLabel, &m_header.memberType }) {
+    for (std::string* text : {&m_header.tableName, &m_header.fileLabel, &m_header.memberType}) {
         *text = decoded(text->c_str());
     }
     m_header.encoding = sasEncodingName(m_layout.encodingCode);

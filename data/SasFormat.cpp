@@ -18,12 +18,12 @@ namespace {
 constexpr std::int64_t epochDays = -civil::dayOf1960January1;
 constexpr std::int64_t epochSeconds = epochDays * civil::secondsPerDay;
 
-constexpr Descriptor characterFormat { Canonical::Character, 1, 32767, 1, 0 };
-constexpr Descriptor dateFormat { Canonical::Date, 5, 11, 7, 8 };
-constexpr Descriptor dateTimeFormat { Canonical::DateTime, 7, 40, 16, 39 };
-constexpr Descriptor timeFormat { Canonical::Time, 2, 20, 8, 19 };
-constexpr Descriptor fixedFormat { Canonical::Fixed, 1, 32, 12, 31 };
-constexpr Descriptor bestFormat { Canonical::Best, 1, 32, 12, 32 };
+constexpr Descriptor characterFormat{Canonical::Character, 1, 32767, 1, 0};
+constexpr Descriptor dateFormat{Canonical::Date, 5, 11, 7, 8};
+constexpr Descriptor dateTimeFormat{Canonical::DateTime, 7, 40, 16, 39};
+constexpr Descriptor timeFormat{Canonical::Time, 2, 20, 8, 19};
+constexpr Descriptor fixedFormat{Canonical::Fixed, 1, 32, 12, 31};
+constexpr Descriptor bestFormat{Canonical::Best, 1, 32, 12, 32};
 
 /// A double has no more digits than this on either side of its point.
 constexpr int mostDecimals = 1074;
@@ -65,13 +65,13 @@ public:
     void append(char letter) { m_letters[m_size++] = letter; }
     [[nodiscard]] std::string text(std::size_t limit) const
     {
-        return { m_letters.data(), std::min(m_size, limit) };
+        return {m_letters.data(), std::min(m_size, limit)};
     }
 
 private:
     void digits(unsigned number, int count);
 
-    std::array<char, 24> m_letters {};
+    std::array<char, 24> m_letters{};
     std::size_t m_size = 0;
 };
 
@@ -138,7 +138,7 @@ bool momentOf(double number, civil::DayAndSecond& moment)
 
 std::string_view canonicalName(Canonical canonical)
 {
-    constexpr std::array<std::string_view, 7> names {
+    constexpr std::array<std::string_view, 7> names{
         "", "$", "DATE", "DATETIME", "TIME", "F", "BEST",
     };
     return names.at(static_cast<std::size_t>(canonical));
@@ -150,7 +150,7 @@ Descriptor normalise(std::string_view name)
         return dateFormat;
     }
     for (const Descriptor& one :
-         { characterFormat, dateTimeFormat, timeFormat, fixedFormat, bestFormat }) {
+         {characterFormat, dateTimeFormat, timeFormat, fixedFormat, bestFormat}) {
         if (name == canonicalName(one.canonical)) {
             return one;
         }
@@ -209,7 +209,8 @@ std::string formatText(std::string_view text, Descriptor descriptor, int width)
         }
         width = descriptor.defaultWidth;
     }
-    return std::string(text.substr(0, texts::bytesOfCharacters(text, static_cast<std::size_t>(width))));
+    return std::string(
+        text.substr(0, texts::bytesOfCharacters(text, static_cast<std::size_t>(width))));
 }
 
 Descriptor FormatTable::descriptorOf(std::string_view name)

@@ -8,7 +8,16 @@
 /// How SAS datasets show their values: five families of formats, everything else as BEST.
 namespace sasformat {
 
-enum class Canonical { None, Character, Date, DateTime, Time, Fixed, Best };
+enum class Canonical
+{
+    None,
+    Character,
+    Date,
+    DateTime,
+    Time,
+    Fixed,
+    Best
+};
 
 /// What is known of a format name.
 struct Descriptor
@@ -36,7 +45,8 @@ struct Descriptor
 /// @param decimals  of the variable; only the fixed-point formats look at it
 /// @return  for F and BEST right-aligned in `width` characters and cut there; "DDMonYYYY",
 ///          "DDMonYYYY:HH:MM:SS" and "HH:MM:SS" (cut at `width`) for dates and times
-[[nodiscard]] std::string formatNumber(double number, Descriptor descriptor, int width, int decimals);
+[[nodiscard]] std::string formatNumber(double number, Descriptor descriptor, int width,
+                                       int decimals);
 
 /// Cuts a text to its first `width` characters; 0 takes the default width of "$" under that format,
 /// and leaves the text whole under formats that are not understood.

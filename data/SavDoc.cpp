@@ -32,7 +32,7 @@ std::string SavDoc::prepare(const FileReader& file, ParserInput& input)
         const std::size_t topByte = header.littleEndian() ? caseCountAt + 3 : caseCountAt;
         input.replaceByte(static_cast<std::int64_t>(topByte), '\x7F');
     }
-    input.setReadAhead(std::size_t { 256 } << 10);
+    input.setReadAhead(std::size_t{256} << 10);
     return {};
 }
 
@@ -61,5 +61,6 @@ int SavDoc::acceptMetadata(const readstat_metadata_t& metadata)
 
 bool SavDoc::isSuccess(readstat_error_t code) const
 {
-    return code == READSTAT_OK || (rowCountIsUnknown() && code == READSTAT_ERROR_ROW_COUNT_MISMATCH);
+    return code == READSTAT_OK
+        || (rowCountIsUnknown() && code == READSTAT_ERROR_ROW_COUNT_MISMATCH);
 }

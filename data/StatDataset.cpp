@@ -57,10 +57,11 @@ int StatDataset::findVariable(std::wstring_view name) const
         return static_cast<std::wint_t>(std::toupper(letter))
             == std::towupper(static_cast<std::wint_t>(theirs));
     };
-    const auto found = std::find_if(m_names.begin(), m_names.end(), [&](const std::string& candidate) {
-        return candidate.size() == name.size()
-            && std::equal(candidate.begin(), candidate.end(), name.begin(), sameLetter);
-    });
+    const auto found =
+        std::find_if(m_names.begin(), m_names.end(), [&](const std::string& candidate) {
+            return candidate.size() == name.size()
+                && std::equal(candidate.begin(), candidate.end(), name.begin(), sameLetter);
+        });
     return found == m_names.end() ? -1 : static_cast<int>(found - m_names.begin());
 }
 
@@ -88,8 +89,7 @@ bool StatDataset::isCharacter(int column) const
 
 std::string StatDataset::stringValue(int row, int column) const
 {
-    const PooledText* record = std::get<0>(cell(row, column));
-    return record == nullptr ? std::string() : std::string(record->text());
+    return std::string(heldText(row, column));
 }
 
 double StatDataset::numericValue(int row, int column) const
@@ -111,6 +111,12 @@ std::size_t StatDataset::cellIndex(int row, int column) const
 {
     return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_variableCount)
         + static_cast<std::size_t>(column);
+}
+
+std::string_view StatDataset::heldText(int row, int column) const
+{
+    const PooledText* record = std::get<0>(cell(row, column));
+    return record == nullptr ? std::string_view() : record->text();
 }
 
 void StatDataset::resizeVariables(int count)

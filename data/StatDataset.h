@@ -4,7 +4,6 @@
 #include "data/TextPool.h"
 
 #include <boost/dynamic_bitset.hpp>
-
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -14,7 +13,8 @@
 using BitVector = boost::dynamic_bitset<std::uint64_t>;
 
 /// How a variable is stored; the numbers are fixed, files and saved settings know them.
-enum class TypeCode : std::int32_t {
+enum class TypeCode : std::int32_t
+{
     Character = 0,
     Int8 = 1,
     Int16 = 2,
@@ -24,7 +24,8 @@ enum class TypeCode : std::int32_t {
 };
 
 /// Which kind of file a dataset came from; set by whoever opens the file.
-enum class SourceKind : std::int32_t {
+enum class SourceKind : std::int32_t
+{
     Sas = 0,
     R = 1,
     Spss = 2,
@@ -35,7 +36,8 @@ enum class SourceKind : std::int32_t {
 
 /// The attributes of a variable that can be shown as text; the numbers are the columns of the
 /// Variables window.
-enum class VariableAttribute : int {
+enum class VariableAttribute : int
+{
     Name = 1,
     Type = 2,
     Length = 3,
@@ -78,16 +80,17 @@ public:
     /// rectangle.
     [[nodiscard]] virtual std::string cellText(int row, int column) const;
     /// The attribute of a variable as text; empty for a number that is no attribute.
-    [[nodiscard]] virtual std::string variableAttribute(int column, VariableAttribute attribute) const;
+    [[nodiscard]] virtual std::string variableAttribute(int column,
+                                                        VariableAttribute attribute) const;
     /// The number of the first variable of that name in any letter case, or -1.
     [[nodiscard]] virtual int findVariable(std::wstring_view name) const;
     /// The text as its format shows it. A view whose data() is null is a null text and reads as
     /// empty.
-    [[nodiscard]] virtual std::string formatCharacter(std::string_view text, std::string_view format,
-                                                      int width, int decimals) const;
+    [[nodiscard]] virtual std::string
+    formatCharacter(std::string_view text, std::string_view format, int width, int decimals) const;
     /// The number as its format shows it.
-    [[nodiscard]] virtual std::string formatNumeric(double number, std::string_view format, int width,
-                                                    int decimals) const;
+    [[nodiscard]] virtual std::string formatNumeric(double number, std::string_view format,
+                                                    int width, int decimals) const;
     virtual ~StatDataset();
     [[nodiscard]] virtual bool isNumeric(int column) const;
     [[nodiscard]] virtual bool isCharacter(int column) const;
@@ -113,7 +116,10 @@ public:
     [[nodiscard]] const std::vector<TypeCode>& typeCodes() const { return m_typeCodes; }
     [[nodiscard]] const std::vector<std::int32_t>& lengths() const { return m_lengths; }
     [[nodiscard]] const std::vector<std::int32_t>& formatWidths() const { return m_formatWidths; }
-    [[nodiscard]] const std::vector<std::int32_t>& formatDecimals() const { return m_formatDecimals; }
+    [[nodiscard]] const std::vector<std::int32_t>& formatDecimals() const
+    {
+        return m_formatDecimals;
+    }
 
     /// The cell as it is stored, for engines that run over whole columns: cells that share a record
     /// hold the same text. Neither index is checked.
@@ -142,12 +148,18 @@ public:
 
 protected:
     [[nodiscard]] bool inRange(int row, int column) const;
-    [[nodiscard]] bool isColumn(int column) const { return column >= 0 && column < m_variableCount; }
+    [[nodiscard]] bool isColumn(int column) const
+    {
+        return column >= 0 && column < m_variableCount;
+    }
     [[nodiscard]] std::size_t cellIndex(int row, int column) const;
+    /// The text of a character cell where it is held; empty for a null text.
+    [[nodiscard]] std::string_view heldText(int row, int column) const;
 
     /// Sets the variable count and gives every attribute vector one entry per variable.
     void resizeVariables(int count);
-    /// Sizes the visibility, all shown, and the observation bits: the masks all set, the rest clear.
+    /// Sizes the visibility, all shown, and the observation bits: the masks all set, the rest
+    /// clear.
     void resizeBits();
 
     DatasetHeader m_header;

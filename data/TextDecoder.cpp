@@ -22,7 +22,7 @@ std::string convert(iconv_t converter, std::string_view raw)
     std::size_t left = input.size();
     iconv(converter, nullptr, nullptr, nullptr, nullptr);
     while (left > 0) {
-        std::array<char, 1024> part {};
+        std::array<char, 1024> part{};
         char* to = part.data();
         std::size_t room = part.size();
         const std::size_t result = iconv(converter, &from, &left, &to, &room);
@@ -95,8 +95,7 @@ TextDecoder::~TextDecoder()
 TextDecoder::TextDecoder(TextDecoder&& other) noexcept
     : m_kind(other.m_kind)
     , m_converter(std::exchange(other.m_converter, noConverter()))
-{
-}
+{ }
 
 TextDecoder& TextDecoder::operator=(TextDecoder&& other) noexcept
 {
@@ -118,6 +117,10 @@ std::string TextDecoder::decode(std::string_view raw) const
     }
     switch (m_kind) {
     case Kind::Guess:
+        if (const std::string_view whole = texts::withoutCutCharacter(raw);
+            !texts::isAscii(whole) && texts::isUtf8(whole)) {
+            return std::string(whole);
+        }
         return convert(windows1252(), raw);
     case Kind::AsciiOnly:
         return asciiOnly(raw);

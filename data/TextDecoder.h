@@ -1,12 +1,11 @@
 #pragma once
 
 #include <iconv.h>
-
 #include <string>
 #include <string_view>
 
-/// Turns texts of a file's character set into UTF-8. What cannot be converted becomes U+FFFD; a last
-/// character that the field's width cut through is dropped.
+/// Turns texts of a file's character set into UTF-8. What cannot be converted becomes U+FFFD; a
+/// last character that the field's width cut through is dropped.
 class TextDecoder
 {
 public:
@@ -24,7 +23,13 @@ public:
     [[nodiscard]] std::string decode(std::string_view raw) const;
 
 private:
-    enum class Kind { Guess, Utf8, Iconv, AsciiOnly };
+    enum class Kind
+    {
+        Guess,
+        Utf8,
+        Iconv,
+        AsciiOnly
+    };
 
     Kind m_kind = Kind::Guess;
     iconv_t m_converter = noConverter();

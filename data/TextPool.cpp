@@ -1,33 +1,50 @@
 #include "data/TextPool.h"
 
 #define XXH_INLINE_ALL
-#include <xxhash.h>
-
 #include <algorithm>
 #include <cstring>
 #include <limits>
 #include <new>
 #include <stdexcept>
+#include <xxhash.h>
 
 namespace {
 
 constexpr std::size_t firstSlots = 256;
-constexpr std::size_t firstBlock = std::size_t { 16 } << 10;
-constexpr std::size_t largestBlock = std::size_t { 1 } << 20;
+constexpr std::size_t firstBlock = std::size_t{16} << 10;
+constexpr std::size_t largestBlock = std::size_t{1} << 20;
 
-std::uint64_t hashOf(std::string_view text)
+}  // namespace
+
+std::uint64_t TextPool::hashOf(std::string_view text)
 {
     return XXH3_64bits(text.data(), text.size());
 }
 
-}  // namespace
+void TextPool::prefetch(std::uint64_t hash) const
+{
+    if (!m_slots.empty()) {
+        __builtin_prefetch(&m_slots[hash & (m_slots.size() - 1)]);
+    }
+}
+
+void TextPool::prefetchRecord(std::uint64_t hash) const
+{
+    if (!m_slots.empty()) {
+        __builtin_prefetch(m_slots[hash & (m_slots.size() - 1)].record);
+    }
+}
 
 PooledText* TextPool::intern(std::string_view text)
+{
+    return intern(text, hashOf(text));
+}
+
+PooledText* TextPool::intern(std::string_view text, std::uint64_t hash)
 {
     if (m_slots.empty() || m_size * 4 >= m_slots.size() * 3) {
         grow();
     }
-    const std::uint64_t hash = hashOf(text);
     Slot& slot = m_slots[slotOf(text, hash)];
     if (slot.record == nullptr) {
         slot.record = makeRecord(text);
@@ -71,7 +88,7 @@ std::size_t TextPool::slotOf(std::string_view text, std::uint64_t hash) const
 
 void TextPool::grow()
 {
-    std::vector<Slot> slots(m_slots.empty() ? firstSlots : m_slots.size() * 2);
+    Slots slots(m_slots.empty() ? firstSlots : m_slots.size() * 2);
     const std::size_t mask = slots.size() - 1;
     for (const Slot& slot : m_slots) {
         if (slot.record != nullptr) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/CellValue.h"
+#include "data/CellStore.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -21,6 +21,16 @@ public:
     /// The record of the text, made at its first use; its reference count is left as it is.
     /// Throws std::bad_alloc, and std::length_error for a text of 4 GiB and more.
     PooledText* intern(std::string_view text);
+
+    // The same in two steps, for whoever has several texts at hand: a large table is no longer in
+    // the processor's cache, and the look-ups then wait for memory together instead of one after
+    // another.
+    [[nodiscard]] static std::uint64_t hashOf(std::string_view text);
+    /// Asks for the place where a text of that hash would be found.
+    void prefetch(std::uint64_t hash) const;
+    /// Asks for the record that is found there.
+    void prefetchRecord(std::uint64_t hash) const;
+    PooledText* intern(std::string_view text, std::uint64_t hash);
 
     /// The record of the text, or nullptr when no cell of the dataset ever held it.
     [[nodiscard]] const PooledText* find(std::string_view text) const;
@@ -45,7 +55,9 @@ private:
     PooledText* makeRecord(std::string_view text);
     std::byte* allocate(std::size_t bytes);
 
-    std::vector<Slot> m_slots;
+    using Slots = std::vector<Slot, ZeroedAllocator<Slot>>;
+
+    Slots m_slots;
     std::size_t m_size = 0;
     std::vector<std::unique_ptr<std::byte[]>> m_blocks;
     std::byte* m_free = nullptr;

@@ -64,6 +64,23 @@ bool isUtf8(std::string_view text)
     return true;
 }
 
+std::string_view withoutCutCharacter(std::string_view text)
+{
+    constexpr std::size_t longestCharacter = 4;
+    const std::size_t nearEnd = text.size() - std::min(text.size(), longestCharacter - 1);
+    for (std::size_t at = text.size(); at-- > nearEnd;) {
+        const auto byte = static_cast<unsigned char>(text[at]);
+        if (byte >= 0xC0) {
+            const std::size_t wanted = byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : 2;
+            return text.size() - at < wanted ? text.substr(0, at) : text;
+        }
+        if (byte < 0x80) {
+            break;
+        }
+    }
+    return text;
+}
+
 std::size_t bytesOfCharacters(std::string_view text, std::size_t count)
 {
     if (text.size() <= count) {

@@ -10,9 +10,9 @@ namespace {
 
 bool sameName(const std::string& one, const std::string& other)
 {
-    return std::equal(one.begin(), one.end(), other.begin(), other.end(), [](unsigned char a, unsigned char b) {
-        return std::toupper(a) == std::toupper(b);
-    });
+    return std::equal(
+        one.begin(), one.end(), other.begin(), other.end(),
+        [](unsigned char a, unsigned char b) { return std::toupper(a) == std::toupper(b); });
 }
 
 }  // namespace
@@ -32,9 +32,9 @@ std::string XptDoc::prepare(const FileReader& file, ParserInput& input)
         return problem;
     }
     const std::int64_t rowBytes = m_member.rowCount * m_member.rowLength;
-    input.setPieces({ { 0, layout.value().libraryEnd },
-                      { m_member.start, m_member.observations - m_member.start + rowBytes } });
-    input.setReadAhead(std::size_t { 256 } << 10);
+    input.setPieces({{0, layout.value().libraryEnd},
+                     {m_member.start, m_member.observations - m_member.start + rowBytes}});
+    input.setReadAhead(std::size_t{256} << 10);
     return {};
 }
 
@@ -42,8 +42,9 @@ std::string XptDoc::chooseMember(const XptLayout& layout)
 {
     const auto found = m_memberName.empty()
         ? layout.members.begin()
-        : std::find_if(layout.members.begin(), layout.members.end(),
-                       [&](const XptMember& one) { return sameName(decoded(one.name.c_str()), m_memberName); });
+        : std::find_if(layout.members.begin(), layout.members.end(), [&](const XptMember& one) {
+              return sameName(decoded(one.name.c_str()), m_memberName);
+          });
     if (found == layout.members.end()) {
         return fmt::format("It has no data set named {}; it has {}", m_memberName,
                            fmt::join(m_memberNames, ", "));

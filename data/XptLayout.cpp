@@ -26,7 +26,8 @@ std::string_view headerKind(std::string_view record)
 /// Digits of a header record; nothing when there are other characters among them.
 std::optional<std::int64_t> digitsAt(std::string_view record, std::size_t offset, std::size_t size)
 {
-    const std::string_view text = texts::trimmedView(record.substr(std::min(offset, record.size()), size));
+    const std::string_view text =
+        texts::trimmedView(record.substr(std::min(offset, record.size()), size));
     std::int64_t number = 0;
     const auto end = std::from_chars(text.data(), text.data() + text.size(), number);
     const bool whole = end.ec == std::errc() && end.ptr == text.data() + text.size();
@@ -53,19 +54,19 @@ class XptReader
 public:
     explicit XptReader(const FileReader& file)
         : m_file(file)
-    {
-    }
+    { }
     Result<XptLayout> read();
 
 private:
     /// The card at that offset; shorter at the end of the file.
     std::string_view cardAt(std::int64_t offset);
     std::optional<Failure> readMember(std::int64_t& position);
-    std::optional<Failure> readVariables(XptMember& member, std::int64_t& position, std::int64_t size,
-                                         std::int64_t count);
+    std::optional<Failure> readVariables(XptMember& member, std::int64_t& position,
+                                         std::int64_t size, std::int64_t count);
     std::optional<Failure> readLongLabels(XptMember& member, std::int64_t& position,
                                           std::string_view kind);
-    void applyLongLabel(XptMember& member, const ByteView& entry, bool withFormats, std::size_t& at);
+    void applyLongLabel(XptMember& member, const ByteView& entry, bool withFormats,
+                        std::size_t& at);
     [[nodiscard]] std::int64_t findMemberAfter(std::int64_t position) const;
     [[nodiscard]] std::int64_t countRows(const XptMember& member,
                                          std::optional<std::int64_t> declared) const;
@@ -78,14 +79,14 @@ private:
 std::string_view XptReader::cardAt(std::int64_t offset)
 {
     m_card = m_file.bytesAt(offset, card);
-    return { m_card.data(), m_card.size() };
+    return {m_card.data(), m_card.size()};
 }
 
 Result<XptLayout> XptReader::read()
 {
     const std::string library(headerKind(cardAt(0)));
     if (library != "LIBRARY" && library != "LIBV8") {
-        return Failure { "It is no SAS transport file" };
+        return Failure{"It is no SAS transport file"};
     }
     std::int64_t position = 3 * card;  // the header, the real header and the modification time
     m_layout.libraryEnd = position;
@@ -95,7 +96,7 @@ Result<XptLayout> XptReader::read()
         }
     }
     if (m_layout.members.empty()) {
-        return Failure { "It holds no data set" };
+        return Failure{"It holds no data set"};
     }
     return std::move(m_layout);
 }
@@ -110,19 +111,22 @@ std::optional<Failure> XptReader::readMember(std::int64_t& position)
     const std::optional<std::int64_t> namestrSize = digitsAt(record, 73, 5);
     const bool isLong = kind == "MEMBV8";
     if ((kind != "MEMBER" && !isLong) || !namestrSize || *namestrSize < 90) {
-        return Failure { "The record that starts a data set is damaged" };
+        return Failure{"The record that starts a data set is damaged"};
     }
     const std::string description(cardAt(position + 2 * card));
     const std::string second(cardAt(position + 3 * card));
-    member.name = texts::headerField(std::string_view(description).substr(std::min<std::size_t>(8, description.size()), isLong ? 32 : 8));
-    member.label = texts::headerField(std::string_view(second).substr(std::min<std::size_t>(32, second.size()), 40));
+    member.name = texts::headerField(
+        std::string_view(description)
+            .substr(std::min<std::size_t>(8, description.size()), isLong ? 32 : 8));
+    member.label = texts::headerField(
+        std::string_view(second).substr(std::min<std::size_t>(32, second.size()), 40));
 
     position += 4 * card;
     const std::string namestrs(cardAt(position));
     const auto count = digitsAt(namestrs, 53, 5);
     const std::string namestrKind(headerKind(namestrs));
     if ((namestrKind != "NAMESTR" && namestrKind != "NAMSTV8") || !count) {
-        return Failure { "The record that counts the variables is damaged" };
+        return Failure{"The record that counts the variables is damaged"};
     }
     position += card;
     if (auto failure = readVariables(member, position, *namestrSize, *count)) {
@@ -138,7 +142,7 @@ std::optional<Failure> XptReader::readMember(std::int64_t& position)
     }
     const std::string observationKind(headerKind(next));
     if (observationKind != "OBS" && observationKind != "OBSV8") {
-        return Failure { "The record that starts the observations is missing" };
+        return Failure{"The record that starts the observations is missing"};
     }
     member.observations = position + card;
     member.end = findMemberAfter(member.observations);
@@ -152,11 +156,12 @@ std::optional<Failure> XptReader::readVariables(XptMember& member, std::int64_t&
                                                 std::int64_t size, std::int64_t count)
 {
     if (position + size * count > m_file.size()) {
-        return Failure { fmt::format("It promises {} variables, but it is too short to describe them", count) };
+        return Failure{
+            fmt::format("It promises {} variables, but it is too short to describe them", count)};
     }
     const std::vector<char> bytes = m_file.bytesAt(position, size * count);
     for (std::int64_t i = 0; i < count; ++i) {
-        const ByteView record({ bytes.data() + i * size, static_cast<std::size_t>(size) }, false);
+        const ByteView record({bytes.data() + i * size, static_cast<std::size_t>(size)}, false);
         const auto field = [&](std::size_t offset, std::size_t length) {
             return std::string(texts::headerField(record.text(offset, length)));
         };
@@ -164,10 +169,10 @@ std::optional<Failure> XptReader::readVariables(XptMember& member, std::int64_t&
         variable.name = field(8, 8);
         variable.isCharacter = record.u16(0) == 2;
         variable.length = static_cast<std::int16_t>(record.u16(4));
-        variable.format = { field(56, 8), record.u16(64), record.u16(66) };
-        variable.informat = { field(72, 8), record.u16(80), record.u16(82) };
+        variable.format = {field(56, 8), record.u16(64), record.u16(66)};
+        variable.informat = {field(72, 8), record.u16(80), record.u16(82)};
         if (variable.length < 0) {
-            return Failure { fmt::format("Variable {} has a negative length", variable.name) };
+            return Failure{fmt::format("Variable {} has a negative length", variable.name)};
         }
         member.rowLength += variable.length;
         member.variables.push_back(std::move(variable));
@@ -184,12 +189,12 @@ std::optional<Failure> XptReader::readLongLabels(XptMember& member, std::int64_t
     const bool withFormats = kind == "LABELV9";
     const auto count = digitsAt(cardAt(position), 48, 8);
     if (!count) {
-        return Failure { "The record that counts the long labels is damaged" };
+        return Failure{"The record that counts the long labels is damaged"};
     }
     position += card;
     const std::int64_t longest = *count > 0xFFFF ? 0 : *count * (10 + 4 * 0xFFFF);
     const std::vector<char> bytes = m_file.bytesAt(position, longest);
-    const ByteView records({ bytes.data(), bytes.size() }, false);
+    const ByteView records({bytes.data(), bytes.size()}, false);
     std::size_t at = 0;
     for (std::int64_t i = 0; i < *count && at < records.size(); ++i) {
         applyLongLabel(member, records, withFormats, at);
@@ -236,7 +241,8 @@ std::int64_t XptReader::findMemberAfter(std::int64_t position) const
 /// The last card is filled up with blanks, and rows of blanks look the same. So as many rows count
 /// as fit before the last card's padding could start, and behind them those that are not blank.
 /// Version 8 may declare the count; it is believed where the rows and one padding fill the space.
-std::int64_t XptReader::countRows(const XptMember& member, std::optional<std::int64_t> declared) const
+std::int64_t XptReader::countRows(const XptMember& member,
+                                  std::optional<std::int64_t> declared) const
 {
     const std::int64_t space = member.end - member.observations;
     const std::int64_t length = member.rowLength;
@@ -249,9 +255,10 @@ std::int64_t XptReader::countRows(const XptMember& member, std::optional<std::in
     if (declared && *declared >= least && *declared <= most) {
         return *declared;
     }
-    const std::vector<char> tail
-        = m_file.bytesAt(member.observations + least * length, (most - least) * length);
-    const auto lastLetter = std::find_if(tail.rbegin(), tail.rend(), [](char byte) { return byte != ' '; });
+    const std::vector<char> tail =
+        m_file.bytesAt(member.observations + least * length, (most - least) * length);
+    const auto lastLetter =
+        std::find_if(tail.rbegin(), tail.rend(), [](char byte) { return byte != ' '; });
     const std::int64_t used = tail.rend() - lastLetter;
     return least + (used + length - 1) / length;
 }

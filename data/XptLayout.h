@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-/// One data set of a SAS transport file, as its member and variable records describe it. Texts stand
-/// as in the file, without trailing blanks.
+/// One data set of a SAS transport file, as its member and variable records describe it. Texts
+/// stand as in the file, without trailing blanks.
 struct XptMember
 {
     struct Variable

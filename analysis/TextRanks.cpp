@@ -1,0 +1,114 @@
+#include "analysis/TextRanks.h"
+
+#include "analysis/RadixSort.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace {
+
+/// Bytes of a text that go into one chunk; the eighth byte of a chunk tells how much text there
+/// was.
+constexpr std::size_t chunkBytes = 7;
+constexpr std::uint64_t moreFollows = chunkBytes + 1;
+
+/// The next seven bytes of the text, filled up with zeros, and below them how many bytes are left,
+/// eight standing for any more. Chunks compare as the texts do: where the bytes are equal, the text
+/// that ends first is the beginning of the other.
+std::uint64_t chunkAt(std::string_view text, std::size_t depth)
+{
+    const std::string_view rest = text.substr(std::min(depth, text.size()));
+    std::uint64_t chunk = 0;
+    for (std::size_t i = 0; i < chunkBytes; ++i) {
+        chunk = (chunk << 8) | (i < rest.size() ? static_cast<unsigned char>(rest[i]) : 0U);
+    }
+    return (chunk << 8) | std::min<std::uint64_t>(rest.size(), moreFollows);
+}
+
+/// A stretch of the order whose texts agree in their first `depth` bytes.
+struct Run
+{
+    std::size_t begin;
+    std::size_t end;
+    std::size_t depth;
+};
+
+/// Sorts texts chunk by chunk: first all by their first chunk, then each run that this leaves tied
+/// by the next. An explicit stack, as texts may share thousands of bytes.
+class TextSorter
+{
+public:
+    explicit TextSorter(std::span<const std::string_view> texts)
+        : m_texts(texts)
+        , m_order(texts.size())
+        , m_equalToPrevious(texts.size(), false)
+    {
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            m_order[i] = static_cast<std::uint32_t>(i);
+        }
+        m_open.push_back({0, texts.size(), 0});
+        while (!m_open.empty()) {
+            const Run run = m_open.back();
+            m_open.pop_back();
+            sortRun(run);
+        }
+    }
+
+    [[nodiscard]] TextRanks ranks() const
+    {
+        TextRanks result{std::vector<std::uint32_t>(m_order.size()), 0};
+        for (std::size_t place = 0; place < m_order.size(); ++place) {
+            result.distinct += m_equalToPrevious[place] ? 0 : 1;
+            result.ranks[m_order[place]] = result.distinct - 1;
+        }
+        return result;
+    }
+
+private:
+    void sortRun(const Run& run)
+    {
+        m_entries.clear();
+        for (std::size_t place = run.begin; place < run.end; ++place) {
+            const std::uint32_t text = m_order[place];
+            m_entries.push_back({chunkAt(m_texts[text], run.depth), text});
+        }
+        radixSort(m_entries);
+        std::size_t tieBegin = 0;
+        for (std::size_t i = 0; i < m_entries.size(); ++i) {
+            m_order[run.begin + i] = m_entries[i].row;
+            if (m_entries[i].rank != m_entries[tieBegin].rank) {
+                closeTie(run, tieBegin, i);
+                tieBegin = i;
+            }
+        }
+        closeTie(run, tieBegin, m_entries.size());
+    }
+
+    /// Settles the entries from `begin` to `end`, whose chunks are equal.
+    void closeTie(const Run& run, std::size_t begin, std::size_t end)
+    {
+        if (end - begin < 2) {
+            return;
+        }
+        if ((m_entries[begin].rank & 0xFF) == moreFollows) {
+            m_open.push_back({run.begin + begin, run.begin + end, run.depth + chunkBytes});
+            return;
+        }
+        for (std::size_t i = begin + 1; i < end; ++i) {
+            m_equalToPrevious[run.begin + i] = true;
+        }
+    }
+
+    std::span<const std::string_view> m_texts;
+    std::vector<std::uint32_t> m_order;
+    std::vector<bool> m_equalToPrevious;
+    std::vector<RankedRow> m_entries;
+    std::vector<Run> m_open;
+};
+
+}  // namespace
+
+TextRanks rankTexts(std::span<const std::string_view> texts)
+{
+    return TextSorter(texts).ranks();
+}

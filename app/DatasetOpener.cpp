@@ -1,0 +1,106 @@
+#include "app/DatasetOpener.h"
+
+#include "app/DatasetWindow.h"
+#include "app/Settings.h"
+#include "app/UserPrompts.h"
+#include "grid/WaitCursor.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMdiArea>
+
+namespace {
+
+/// The origin of a file that holds one dataset. The time is taken before the file is read, so that
+/// a change during the reading does not go unnoticed.
+DatasetOrigin originOf(const QString& path)
+{
+    const QFileInfo file(path);
+    const QString absolute = QDir::cleanPath(file.absoluteFilePath());
+    return {absolute, absolute, file.lastModified()};
+}
+
+}  // namespace
+
+DatasetOpener::DatasetOpener(Surroundings surroundings, QObject* parent)
+    : QObject(parent)
+    , m_surroundings(std::move(surroundings))
+{ }
+
+void DatasetOpener::chooseAndOpen(const QString& title, const QString& filters)
+{
+    const QString folder = m_surroundings.settings.lastFolder();
+    const QStringList paths = m_surroundings.prompts.chooseFiles(title, folder, filters);
+    for (const QString& path : paths) {
+        m_surroundings.settings.setLastFolder(QFileInfo(path).absolutePath());
+        open(path);
+    }
+}
+
+bool DatasetOpener::open(const QString& path)
+{
+    const DatasetOrigin origin = originOf(path);
+    return settleReload(origin) == Reload::Declined || load(origin);
+}
+
+/// Asks whether a file that is open is to be read again, and if so closes its window.
+DatasetOpener::Reload DatasetOpener::settleReload(const DatasetOrigin& origin)
+{
+    QMdiSubWindow* window = m_openFiles.find(origin.fileKey);
+    if (window == nullptr) {
+        return Reload::NotOpen;
+    }
+    const QString question = tr("\"%1\" is already open.\nDo you want to reload it?")
+                                 .arg(origin.filePath.section(u'/', -1));
+    if (!m_surroundings.prompts.confirm(tr("Reload Dataset"), question)) {
+        activate(window);
+        return Reload::Declined;
+    }
+    m_openFiles.remove(origin.fileKey, window);
+    if (!window->close()) {
+        m_openFiles.add(origin.fileKey, window);
+        activate(window);
+        return Reload::Declined;
+    }
+    // Not left to the event loop: the memory of the old dataset is wanted for the new one.
+    delete window;
+    return Reload::Agreed;
+}
+
+bool DatasetOpener::load(const DatasetOrigin& origin)
+{
+    QString reason;
+    {
+        const WaitCursor waitCursor;
+        Result<OpenedDataset> loaded = m_surroundings.load(origin.filePath, OpenOptions());
+        if (loaded) {
+            show(std::make_unique<DatasetWindow>(std::move(loaded.value().dataset), origin,
+                                                 &m_surroundings.mainWindow));
+            return true;
+        }
+        reason = QString::fromStdString(loaded.error());
+    }
+    m_surroundings.prompts.warn(tr("Open File"),
+                                tr("Failed to open the file: %1").arg(origin.filePath), reason);
+    return false;
+}
+
+void DatasetOpener::show(std::unique_ptr<DatasetWindow> window)
+{
+    DatasetWindow* opened = window.get();
+    emit signalOpened(opened);
+    m_surroundings.area.addSubWindow(window.release());  // which the area owns from here on
+    m_openFiles.add(opened->fileKey(), opened);
+    opened->show();
+    activate(opened);
+}
+
+void DatasetOpener::forget(DatasetWindow* window)
+{
+    m_openFiles.remove(window->fileKey(), window);
+}
+
+void DatasetOpener::activate(QMdiSubWindow* window)
+{
+    m_surroundings.area.setActiveSubWindow(window);
+}

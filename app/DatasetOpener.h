@@ -1,0 +1,70 @@
+#pragma once
+
+#include "app/OpenFilesMap.h"
+#include "data/DatasetFile.h"
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+class DatasetWindow;
+class QMdiArea;
+class QWidget;
+class Settings;
+class UserPrompts;
+struct DatasetOrigin;
+
+/// Reads a file, or says why it cannot; openDataset, or what stands in for it in a test.
+using DatasetLoader = std::function<Result<OpenedDataset>(const QString&, const OpenOptions&)>;
+
+/// Opens dataset files into sub-windows and knows which are open.
+class DatasetOpener : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All but the loader outlive the opener.
+    struct Surroundings
+    {
+        QMdiArea& area;
+        QWidget& mainWindow;
+        UserPrompts& prompts;
+        Settings& settings;
+        DatasetLoader load;
+    };
+
+    explicit DatasetOpener(Surroundings surroundings, QObject* parent = nullptr);
+
+    /// Lets the user choose files by the filters of a file dialog and opens them one by one.
+    void chooseAndOpen(const QString& title, const QString& filters);
+    /// Opens one file. One that is open already is only activated, unless the user wants it
+    /// reloaded.
+    /// @return  whether the file is open now
+    bool open(const QString& path);
+    /// Takes a window that closes out of the map.
+    void forget(DatasetWindow* window);
+
+    [[nodiscard]] const OpenFilesMap& openFiles() const { return m_openFiles; }
+
+signals:
+    /// A window has been created and is not shown yet.
+    void signalOpened(DatasetWindow* window);
+
+private:
+    enum class Reload
+    {
+        NotOpen,
+        Agreed,
+        Declined
+    };
+
+    [[nodiscard]] Reload settleReload(const DatasetOrigin& origin);
+    [[nodiscard]] bool load(const DatasetOrigin& origin);
+    void show(std::unique_ptr<DatasetWindow> window);
+    void activate(QMdiSubWindow* window);
+
+    Surroundings m_surroundings;
+    OpenFilesMap m_openFiles;
+};

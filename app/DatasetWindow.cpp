@@ -1,0 +1,72 @@
+#include "app/DatasetWindow.h"
+
+#include "data/StatDataset.h"
+#include "grid/MainTableModel.h"
+#include "grid/MainTableView.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QMenu>
+
+namespace {
+
+/// What the window's tab says: the name within a file of several datasets, else the file's.
+QString titleOf(const DatasetOrigin& origin)
+{
+    const QString path = origin.filePath + QStringLiteral("::");
+    return origin.fileKey.startsWith(path) ? origin.fileKey.mid(path.size())
+                                           : origin.filePath.section(u'/', -1);
+}
+
+}  // namespace
+
+DatasetWindow::DatasetWindow(std::unique_ptr<StatDataset> dataset, const DatasetOrigin& origin,
+                             QWidget* mainWindow)
+    : m_dataset(std::move(dataset))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setProperty("filePath", origin.filePath);
+    setProperty("fileKey", origin.fileKey);
+    setProperty("fileTimestamp", origin.fileTimestamp);
+    createGrid(mainWindow);
+    setWindowTitle(titleOf(origin));
+    dropSystemMenuShortcuts();
+}
+
+DatasetWindow::~DatasetWindow()
+{
+    // The dataset would go before the children, and the grid reads it to the last.
+    delete m_view;
+}
+
+void DatasetWindow::createGrid(QWidget* mainWindow)
+{
+    m_view = new MainTableView(m_dataset.get(), mainWindow, this);
+    m_view->setModel(new MainTableModel(m_dataset.get(), m_view));
+    m_view->setSortingEnabled(true);
+    m_view->sortByColumn(-1, Qt::AscendingOrder);
+    m_view->fitColumns();
+    m_view->setFrameShape(QFrame::NoFrame);
+    setWidget(m_view);
+}
+
+/// Its "Close" has the same keys as the main window's, and of two actions for one key Qt runs none.
+void DatasetWindow::dropSystemMenuShortcuts()
+{
+    for (QAction* action : systemMenu()->actions()) {
+        action->setShortcuts(QList<QKeySequence>());
+    }
+}
+
+QString DatasetWindow::fileKey() const
+{
+    return property("fileKey").toString();
+}
+
+void DatasetWindow::closeEvent(QCloseEvent* event)
+{
+    QMdiSubWindow::closeEvent(event);
+    if (event->isAccepted()) {
+        emit signalClosed(this);
+    }
+}

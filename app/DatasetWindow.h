@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QDateTime>
+#include <QMdiSubWindow>
+#include <QString>
+
+#include <memory>
+
+class MainTableModel;
+class MainTableView;
+class StatDataset;
+
+/// Where a dataset was read from.
+struct DatasetOrigin
+{
+    QString filePath;  ///< absolute
+    QString fileKey;  ///< of the open-files map: the path, and "::name" for one dataset of several
+    QDateTime fileTimestamp;  ///< when the file was last changed, as it was opened
+};
+
+/// The sub-window of one open dataset. It owns the dataset, the grid that shows it and the grid's
+/// model. The origin is kept in the dynamic properties "filePath", "fileKey" and "fileTimestamp".
+class DatasetWindow : public QMdiSubWindow
+{
+    Q_OBJECT
+
+public:
+    /// @param mainWindow  passed on to the grid
+    DatasetWindow(std::unique_ptr<StatDataset> dataset, const DatasetOrigin& origin,
+                  QWidget* mainWindow);
+    ~DatasetWindow() override;
+
+    [[nodiscard]] MainTableView* view() const { return m_view; }
+    [[nodiscard]] StatDataset* dataset() const { return m_dataset.get(); }
+    [[nodiscard]] QString fileKey() const;
+
+signals:
+    /// The window has agreed to close and is about to be deleted.
+    void signalClosed(DatasetWindow* window);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void createGrid(QWidget* mainWindow);
+    void dropSystemMenuShortcuts();
+
+    std::unique_ptr<StatDataset> m_dataset;
+    MainTableView* m_view = nullptr;  ///< owned by this window as its child
+};

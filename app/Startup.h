@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <exception>
+
+/// Runs the program: identity, main window, the file of the command line, event loop.
+/// @return  the exit code of the process
+[[nodiscard]] int runApplication(int argc, char** argv);
+
+namespace startup {
+
+/// Names the organisation, the application and its version, which decide where settings are kept.
+/// To be called before the application object is created.
+void setIdentity();
+
+/// What the user is told of an exception that nobody caught.
+[[nodiscard]] QString uncaughtMessage(const std::exception_ptr& exception);
+
+/// The absolute path of the file named on the command line; empty when there is none. Arguments
+/// after the first are ignored.
+[[nodiscard]] QString fileArgument(const QStringList& arguments);
+
+}  // namespace startup

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QCoreApplication>
+
+class QLabel;
+class QStatusBar;
+class QString;
+
+/// The permanent labels of the status bar that tell about the active grid.
+class StatusCounters
+{
+    Q_DECLARE_TR_FUNCTIONS(StatusCounters)
+
+public:
+    /// Adds the labels to the status bar, which owns them and outlives the counters.
+    explicit StatusCounters(QStatusBar* statusBar);
+
+    void setRows(const QString& text);
+    void setVariables(const QString& text);
+    /// What the labels say when the last grid has closed.
+    void showNothingOpen();
+
+private:
+    QLabel* m_rows;
+    QLabel* m_variables;
+};

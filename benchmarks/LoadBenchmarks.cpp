@@ -1,0 +1,177 @@
+// How long a load takes as a multiple of the format library's own parse of the same file with an
+// empty value handler, and how much memory a loaded cell takes.
+
+#include "benchmarks/BenchmarkFiles.h"
+#include "data/DatasetFile.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <map>
+#include <memory>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+int ignoreValue(int, readstat_variable_t*, readstat_value_t, void*)
+{
+    return READSTAT_HANDLER_OK;
+}
+
+/// The parser of SPSS files (ReadStat 1.1.8) crashes without a variable handler.
+int ignoreVariable(int, readstat_variable_t*, const char*, void*)
+{
+    return READSTAT_HANDLER_OK;
+}
+
+void bareParse(benchmark::State& state, const BenchmarkFile& file)
+{
+    const std::string path = pathOf(file).string();
+    for (auto _ : state) {
+        const std::unique_ptr<readstat_parser_t, decltype(&readstat_parser_free)> parser(
+            readstat_parser_init(), readstat_parser_free);
+        readstat_set_variable_handler(parser.get(), ignoreVariable);
+        readstat_set_value_handler(parser.get(), ignoreValue);
+        if (file.parse(parser.get(), path.c_str(), nullptr) != READSTAT_OK) {
+            state.SkipWithError("the bare parse failed");
+            return;
+        }
+    }
+}
+
+void load(benchmark::State& state, const BenchmarkFile& file, bool metadataOnly)
+{
+    const QString path = QString::fromStdString(pathOf(file).string());
+    for (auto _ : state) {
+        auto opened = openDataset(path, {.metadataOnly = metadataOnly});
+        if (!opened) {
+            state.SkipWithError(opened.error().c_str());
+            return;
+        }
+        benchmark::DoNotOptimize(opened.value().dataset->observationCount());
+    }
+}
+
+/// Keeps the fastest run of each benchmark: noise only ever adds.
+class FastestRuns : public benchmark::ConsoleReporter
+{
+public:
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& run : runs) {
+            if (run.run_type == Run::RT_Iteration && !run.error_occurred) {
+                const double time = run.GetAdjustedRealTime();
+                const auto place = m_times.try_emplace(run.run_name.function_name, time).first;
+                place->second = std::min(place->second, time);
+            }
+        }
+    }
+    [[nodiscard]] double ratio(const std::string& one, const std::string& other) const
+    {
+        const auto a = m_times.find(one);
+        const auto b = m_times.find(other);
+        return a == m_times.end() || b == m_times.end() ? 0 : a->second / b->second;
+    }
+    [[nodiscard]] double milliseconds(const std::string& name) const
+    {
+        const auto place = m_times.find(name);
+        return place == m_times.end() ? 0 : place->second;
+    }
+
+private:
+    std::map<std::string, double> m_times;
+};
+
+struct Memory
+{
+    double peakMegabytes = 0;
+    double bytesPerCell = 0;
+    double textMegabytes = 0;
+};
+
+std::int64_t peakKilobytes()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+/// Loads the file in a process of its own, whose peak is the load's.
+Memory memoryOf(const BenchmarkFile& file)
+{
+    const QString path = QString::fromStdString(pathOf(file).string());
+    int channel[2] = {};
+    if (pipe(channel) != 0) {
+        return {};
+    }
+    const pid_t child = fork();
+    if (child == 0) {
+        const std::int64_t before = peakKilobytes();
+        const auto opened = openDataset(path);
+        Memory memory;
+        const auto cells =
+            static_cast<double>(opened.ok() ? opened.value().dataset->cellCount() : 1);
+        const double bytes = static_cast<double>(peakKilobytes() - before) * 1024;
+        memory.peakMegabytes = bytes / 1e6;
+        memory.bytesPerCell = bytes / cells;
+        memory.textMegabytes = opened.ok()
+            ? static_cast<double>(opened.value().dataset->textPool().bytesInUse()) / 1e6
+            : 0;
+        const bool written = write(channel[1], &memory, sizeof(memory)) == sizeof(memory);
+        _exit(written ? 0 : 1);
+    }
+    close(channel[1]);
+    Memory memory;
+    if (read(channel[0], &memory, sizeof(memory)) != sizeof(memory)) {
+        memory = {};
+    }
+    close(channel[0]);
+    waitpid(child, nullptr, 0);
+    return memory;
+}
+
+void printSummary(const FastestRuns& runs)
+{
+    fmt::print("\n{} rows x 25 variables; a load as a multiple of the bare parse in this run\n\n",
+               benchmarkRows());
+    fmt::print("| file | bare, ms | load, x bare | goal | metadata only, x bare | peak, MB | bytes "
+               "a cell | texts, MB |\n");
+    fmt::print("|---|---|---|---|---|---|---|---|\n");
+    for (const BenchmarkFile& file : benchmarkFiles()) {
+        const std::string bare = "bare/" + file.name;
+        if (runs.milliseconds(bare) == 0) {
+            continue;
+        }
+        const Memory memory = memoryOf(file);
+        fmt::print("| {} | {:.0f} | {:.2f} | {} | {:.3f} | {:.0f} | {:.2f} | {:.1f} |\n", file.name,
+                   runs.milliseconds(bare), runs.ratio("load/" + file.name, bare), file.goal,
+                   runs.ratio("metadata/" + file.name, bare), memory.peakMegabytes,
+                   memory.bytesPerCell, memory.textMegabytes);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    for (const BenchmarkFile& file : benchmarkFiles()) {
+        const auto add = [&](const std::string& kind, auto function) {
+            benchmark::RegisterBenchmark((kind + '/' + file.name).c_str(), function)
+                ->Unit(benchmark::kMillisecond)
+                ->Iterations(1)
+                ->Repetitions(3);
+        };
+        add("bare", [&file](benchmark::State& state) { bareParse(state, file); });
+        add("load", [&file](benchmark::State& state) { load(state, file, false); });
+        add("metadata", [&file](benchmark::State& state) { load(state, file, true); });
+    }
+    FastestRuns runs;
+    benchmark::RunSpecifiedBenchmarks(&runs);
+    printSummary(runs);
+    return 0;
+}

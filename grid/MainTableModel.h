@@ -1,0 +1,59 @@
+#pragma once
+
+#include "analysis/RowSorter.h"
+
+#include <QAbstractTableModel>
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+class StatDataset;
+
+/// What the horizontal header shows; its tool tips show the other.
+enum class HeaderMode : std::uint32_t
+{
+    VariableNames = 0,
+    VariableLabels = 1,
+};
+
+/// The cells of one dataset: a row for each observation, in the order of the row map, and a column
+/// for each variable, in the dataset's order. Hiding and moving is left to the view. Every change
+/// is published as a full reset, and only when something has changed.
+class MainTableModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    /// @param dataset  outlives the model
+    explicit MainTableModel(const StatDataset* dataset, QObject* parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index,
+                                int role = Qt::DisplayRole) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                      int role = Qt::DisplayRole) const override;
+
+    [[nodiscard]] const StatDataset* dataset() const { return m_dataset; }
+    [[nodiscard]] HeaderMode headerMode() const { return m_headerMode; }
+    void setHeaderMode(HeaderMode mode);
+
+    /// The observation that the row shows.
+    [[nodiscard]] int observationAt(int row) const;
+    /// The observation of each row; holds every observation exactly once.
+    [[nodiscard]] std::span<const std::uint32_t> rowMap() const { return m_rowMap; }
+
+public slots:  // NOLINT(readability-redundant-access-specifiers): moc reads it
+    /// Sorts all rows by the keys; see rowsorter for their order.
+    void sortRows(const SortKeys& keys);
+    /// Returns to the dataset's order.
+    void resetSort();
+
+private:
+    void setRowMap(std::vector<std::uint32_t> rowMap);
+
+    const StatDataset* m_dataset;
+    HeaderMode m_headerMode = HeaderMode::VariableNames;
+    std::vector<std::uint32_t> m_rowMap;
+};

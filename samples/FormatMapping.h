@@ -1,0 +1,25 @@
+#pragma once
+
+#include "samples/Table.h"
+#include "samples/WriteOptions.h"
+
+namespace samples {
+
+/// The column's display format in the file's own notation: "DATE9" for SAS, "DATE11" for SPSS,
+/// "%td" for Stata. Empty where the kind needs none. A SAS7BDAT file stores width and decimals
+/// apart, so for it this is the bare name.
+[[nodiscard]] std::string fileFormat(const Column& column, FileKind kind);
+
+/// What turns a SAS number of the column into the file's: a date becomes seconds from 14 October
+/// 1582 for SPSS, a date-time milliseconds from 1960 for Stata. NaN stays NaN.
+struct NumberMapping
+{
+    double factor = 1;
+    double offset = 0;
+
+    [[nodiscard]] double operator()(double value) const { return value * factor + offset; }
+};
+
+[[nodiscard]] NumberMapping numberMapping(const Column& column, FileKind kind);
+
+}  // namespace samples

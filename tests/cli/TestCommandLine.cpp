@@ -1,0 +1,136 @@
+#include "samples/TableWriter.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <sys/wait.h>
+
+namespace {
+
+using nlohmann::json;
+
+struct Outcome
+{
+    int code;
+    std::string out;
+    std::string err;
+};
+
+class CommandLine : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        samples::Table table;
+        table.name = "AE";
+        table.label = "Adverse \"events\"";
+        samples::Column term = samples::textColumn("AETERM", "Term", 20);
+        samples::Column start = samples::numberColumn("ASTDT", "Start", "DATE", 9);
+        table.columns = {term, start, samples::numberColumn("AVAL", "Value", "F", 8, 1)};
+        table.rows = {
+            {"HEADACHE", 0.0, 0.1}, {"RASH\tred", samples::missing, 2.25}, {"NAUSEA", 1.0, -1e10}};
+        samples::writeTable(m_folder.file("ae.xpt"), table);
+    }
+
+    /// Runs the program on the file of the test.
+    Outcome run(const std::string& command, const std::string& options = {},
+                const std::string& file = "ae.xpt") const
+    {
+        const std::string errors = m_folder.file("stderr").string();
+        const std::string line = std::string(QUORLANE_CLI) + ' ' + command + " '"
+            + m_folder.file(file).string() + "' " + options + " 2>" + errors;
+        FILE* pipe = popen(line.c_str(), "r");
+        std::string out;
+        std::array<char, 4096> part{};
+        for (std::size_t got = 0; (got = fread(part.data(), 1, part.size(), pipe)) > 0;) {
+            out.append(part.data(), got);
+        }
+        return {WEXITSTATUS(pclose(pipe)), out, bytesOf(errors)};
+    }
+
+    [[nodiscard]] static std::vector<json> jsonLines(const std::string& text)
+    {
+        std::vector<json> lines;
+        std::istringstream stream(text);
+        for (std::string line; std::getline(stream, line);) {
+            lines.push_back(json::parse(line));
+        }
+        return lines;
+    }
+
+    TemporaryFolder m_folder;
+};
+
+TEST_F(CommandLine, contentsDescribesTheDataset)
+{
+    const Outcome outcome = run("contents", "--format json");
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    const json contents = json::parse(outcome.out);
+    EXPECT_EQ(contents["table"], "AE");
+    EXPECT_EQ(contents["label"], "Adverse \"events\"");
+    EXPECT_EQ(contents["rows"], 3);
+    EXPECT_EQ(contents["members"], json({"AE"}));
+    EXPECT_EQ(contents["variables"][1],
+              (json{{"name", "ASTDT"},
+                    {"type", 5},
+                    {"length", 8},
+                    {"format", "DATE"},
+                    {"width", 9},
+                    {"decimals", 0},
+                    {"informat", "DATE9."},
+                    {"label", "Start"}}));
+    EXPECT_NE(run("contents").out.find("Adverse \"events\""), std::string::npos);
+}
+
+TEST_F(CommandLine, rowsShowsCellsAsTheGridDoes)
+{
+    const auto rows = jsonLines(run("rows", "--format json").out);
+    ASSERT_EQ(rows.size(), 3U);
+    EXPECT_EQ(rows[0], (json{{"obs", 1}, {"cells", {"HEADACHE", "01Jan1960", "0.1"}}}));
+    EXPECT_EQ(rows[1]["cells"], (json{"RASH\tred", "nan", "2.2"})) << "2.25 lies midway: to even";
+}
+
+TEST_F(CommandLine, rowsShowsStoredValuesOnRequest)
+{
+    const auto rows = jsonLines(run("rows", "--raw --format json").out);
+    EXPECT_EQ(rows[0]["cells"][2].get<double>(), 0.1) << "17 digits read back";
+    EXPECT_TRUE(rows[1]["cells"][1].is_null());
+    EXPECT_EQ(run("rows", "--raw --format tsv --keep AETERM").out,
+              "Obs\tAETERM\n1\tHEADACHE\n2\tRASH\\tred\n3\tNAUSEA\n");
+}
+
+TEST_F(CommandLine, rowsChoosesSortsAndLimits)
+{
+    EXPECT_EQ(run("rows", "--format tsv --drop aval --drop ASTDT --first 1").out,
+              "Obs\tAETERM\n1\tHEADACHE\n");
+    EXPECT_EQ(run("rows", "--format tsv --keep aterm").code, 2);
+    EXPECT_EQ(run("rows", "--format tsv --keep AVAL --sort aval:desc").out,
+              "Obs\tAVAL\n2\t2.2\n1\t0.1\n3\t-1000000\n")
+        << "cut at the width, 8";
+    EXPECT_EQ(run("rows", "--format tsv --keep ASTDT --sort ASTDT").out,
+              "Obs\tASTDT\n2\tnan\n1\t01Jan1960\n3\t02Jan1960\n")
+        << "missing first when ascending";
+    EXPECT_EQ(run("rows", "--sort AVAL:down").code, 2);
+}
+
+TEST_F(CommandLine, problemsNameTheFileOrVariable)
+{
+    const Outcome variable = run("rows", "--keep AETREM");
+    EXPECT_EQ(variable.code, 2);
+    EXPECT_EQ(variable.out, "");
+    EXPECT_NE(variable.err.find("AETREM"), std::string::npos) << variable.err;
+    EXPECT_NE(variable.err.find("ae.xpt"), std::string::npos) << variable.err;
+
+    const Outcome file = run("contents", "", "missing.sav");
+    EXPECT_EQ(file.code, 2);
+    EXPECT_NE(file.err.find("missing.sav"), std::string::npos) << file.err;
+    EXPECT_EQ(run("contents", "", "ae.txt").code, 2);
+    EXPECT_EQ(run("rows", "--member DM").code, 2);
+    EXPECT_EQ(run("rows", "--format xml").code, 2);
+}
+
+}  // namespace

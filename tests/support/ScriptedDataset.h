@@ -1,0 +1,96 @@
+#pragma once
+
+#include "data/StatDataset.h"
+#include "data/Texts.h"
+
+#include <cmath>
+#include <initializer_list>
+#include <limits>
+#include <string>
+#include <utility>
+#include <variant>
+
+/// A dataset for tests that takes any type codes and claims to come from any kind of file.
+/// Variables first, then rows. Numbers show as plain text, missing ones as a point, under every
+/// type code.
+class ScriptedDataset : public StatDataset
+{
+public:
+    using Value = std::variant<double, std::string>;
+
+    static constexpr double missing = std::numeric_limits<double>::quiet_NaN();
+
+    explicit ScriptedDataset(SourceKind kind = SourceKind::Sas) { setSourceKind(kind); }
+
+    ScriptedDataset& variable(std::string name, TypeCode type, std::string label = {})
+    {
+        const auto entry = static_cast<std::size_t>(m_variableCount);
+        resizeVariables(m_variableCount + 1);
+        m_names[entry] = std::move(name);
+        m_labels[entry] = std::move(label);
+        m_typeCodes[entry] = type;
+        m_lengths[entry] = 8;
+        resizeBits();
+        return *this;
+    }
+
+    ScriptedDataset& row(std::initializer_list<Value> values)
+    {
+        for (const Value& value : values) {
+            append(value);
+        }
+        ++m_observationCount;
+        resizeBits();
+        return *this;
+    }
+
+    /// Appends rows; `value(row, column)` gives the cells.
+    template <typename ValueOf>
+    ScriptedDataset& rows(int count, ValueOf value)
+    {
+        m_cells.reserve(m_cells.size()
+                        + static_cast<std::size_t>(count)
+                            * static_cast<std::size_t>(m_variableCount));
+        for (int row = 0; row < count; ++row) {
+            for (int column = 0; column < m_variableCount; ++column) {
+                append(value(row, column));
+            }
+        }
+        m_observationCount += count;
+        resizeBits();
+        return *this;
+    }
+
+    ScriptedDataset& tableName(std::string name)
+    {
+        m_header.tableName = std::move(name);
+        return *this;
+    }
+
+    [[nodiscard]] std::string cellText(int row, int column) const override
+    {
+        if (!inRange(row, column)) {
+            return {};
+        }
+        if (isCharacter(column)) {
+            return texts::trimmed(stringValue(row, column));
+        }
+        const double number = numericValue(row, column);
+        if (std::isnan(number)) {
+            return ".";
+        }
+        std::string text = std::to_string(number);
+        text.erase(text.find_last_not_of('0') + 1);
+        return text.ends_with('.') ? text.substr(0, text.size() - 1) : text;
+    }
+
+private:
+    void append(const Value& value)
+    {
+        if (const auto* text = std::get_if<std::string>(&value)) {
+            m_cells.push_back(m_textPool.intern(*text));
+        } else {
+            m_cells.push_back(std::get<double>(value));
+        }
+    }
+};
