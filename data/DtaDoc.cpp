@@ -79,10 +79,8 @@ void DtaDoc::resolveLongStrings(const FileReader& file)
                 static_cast<std::uint32_t>(little ? reference & 0xFFFFFF : reference >> 40);
             const std::uint64_t observation = little ? reference >> 24 : reference & 0xFFFFFFFFFF;
             const auto found = strings.find({number, observation});
-            if (found != strings.end()) {
-                PooledText* record = pooled(texts::trimmedView(found->second));
-                record->addReference();
-                setCell(row, variable, record);
+            if (found != strings.end() && isColumn(variable) && isCharacter(variable)) {
+                setText(row, variable, texts::trimmedView(found->second));
             }
         }
     }

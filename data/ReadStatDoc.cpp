@@ -19,6 +19,7 @@ struct ReadStatParserDeleter
 using ReadStatParser = std::unique_ptr<readstat_parser_t, ReadStatParserDeleter>;
 
 constexpr std::int64_t mostObservations = std::numeric_limits<std::int32_t>::max();
+constexpr std::size_t recentTextsPerColumn = 128;
 constexpr double missingNumber = std::numeric_limits<double>::quiet_NaN();
 
 TypeCode typeCodeOf(readstat_type_t type)
@@ -58,6 +59,7 @@ int ReadStatDoc::load(const QString& path)
     m_observationCount = 0;
     m_variableCount = 0;
     m_rowsSeen = 0;
+    m_valuesInOrder = 0;
     m_skipped = 0;
     m_rowCountIsUnknown = false;
     m_rowsAreCounted = false;
@@ -78,6 +80,7 @@ int ReadStatDoc::load(const QString& path)
         if (code == READSTAT_OK) {
             m_refusal = complete(file);
             code = m_refusal.empty() ? READSTAT_OK : READSTAT_ERROR_PARSE;
+            settleCells();
         }
     } catch (const std::bad_alloc&) {
         m_refusal = "There is not enough memory to hold it";
@@ -112,7 +115,7 @@ readstat_error_t ReadStatDoc::runParser(const std::string& path, ParserInput& in
 
 int ReadStatDoc::finish(const QString& path, readstat_error_t code)
 {
-    m_lastTexts = {};
+    m_recentTexts = {};
     m_converted = {};
     m_skippedRows = {};
     if (code != READSTAT_OK) {
@@ -122,12 +125,31 @@ int ReadStatDoc::finish(const QString& path, readstat_error_t code)
                     static_cast<int>(code));
         return code;
     }
+    resizeBits();
+    return 0;
+}
+
+/// Cells that got no value read as empty or missing.
+void ReadStatDoc::settleCells()
+{
     if (m_rowsAreCounted) {
         m_observationCount = m_rowsSeen;
         m_cells.resize(m_valuesWanted ? cellIndex(m_observationCount, 0) : 0);
     }
-    resizeBits();
-    return 0;
+    if (m_valuesInOrder >= m_cells.size()) {
+        return;
+    }
+    for (int row = 0; row < m_observationCount; ++row) {
+        for (int column = 0; column < m_variableCount; ++column) {
+            const CellValue& value = cell(row, column);
+            const bool isText = value.index() == 0;
+            if (isCharacter(column) && (!isText || std::get<0>(value) == nullptr)) {
+                setText(row, column, "");
+            } else if (isNumeric(column) && isText) {
+                setCell(row, column, missingNumber);
+            }
+        }
+    }
 }
 
 int ReadStatDoc::refuse(std::string reason)
@@ -145,25 +167,24 @@ int ReadStatDoc::resizeDataset(std::int64_t rows, std::int64_t variables, std::i
         return refuse(fmt::format(
             "Its header promises {} observations, but it is too short to hold them", rows));
     }
+    if (rows > mostObservations) {
+        return refuse(
+            fmt::format("It has {} observations; at most {} can be shown", rows, mostObservations));
+    }
     resizeVariables(static_cast<int>(variables));
-    if (const int refused = m_valuesWanted ? reserveRows(rows) : 0; refused != 0) {
-        return refused;
+    if (m_valuesWanted) {
+        reserveRows(static_cast<int>(rows));
     }
     m_observationCount = static_cast<int>(rows);
     m_rowsAreCounted = false;
     return READSTAT_HANDLER_OK;
 }
 
-int ReadStatDoc::reserveRows(std::int64_t rows)
+void ReadStatDoc::reserveRows(int rows)
 {
-    if (rows < 0 || rows > mostObservations) {
-        return refuse(
-            fmt::format("It has {} observations; at most {} can be shown", rows, mostObservations));
-    }
     m_rowsAreCounted = true;
-    m_lastTexts.assign(static_cast<std::size_t>(m_variableCount), nullptr);
-    m_cells = CellVector(cellIndex(static_cast<int>(rows), 0));
-    return READSTAT_HANDLER_OK;
+    m_recentTexts.assign(static_cast<std::size_t>(m_variableCount) * recentTextsPerColumn, nullptr);
+    m_cells = CellVector(cellIndex(rows, 0));
 }
 
 void ReadStatDoc::copyCommonMetadata(const readstat_metadata_t& metadata)
@@ -237,7 +258,7 @@ void ReadStatDoc::acceptVariable(int index, const readstat_variable_t& variable)
 int ReadStatDoc::acceptValue(int row, const readstat_variable_t& variable,
                              const readstat_value_t& value)
 {
-    if (isSkipped(row)) {
+    if (!m_skippedRows.empty() && isSkipped(row)) {
         return READSTAT_HANDLER_OK;
     }
     const auto column = static_cast<std::size_t>(variable.index);
@@ -255,6 +276,7 @@ int ReadStatDoc::acceptValue(int row, const readstat_variable_t& variable,
         }
         growTo(at + 1);
     }
+    m_valuesInOrder += at == m_valuesInOrder ? 1 : 0;
     const bool isText =
         value.type == READSTAT_TYPE_STRING || value.type == READSTAT_TYPE_STRING_REF;
     if (m_typeCodes[column] == TypeCode::Character) {
@@ -286,14 +308,25 @@ void ReadStatDoc::growTo(std::size_t cells)
     m_cells.resize((wanted + variables - 1) / variables * variables);
 }
 
+/// The place where a text of the column is remembered, together with others that look alike.
+PooledText*& ReadStatDoc::recentText(std::size_t column, std::string_view raw)
+{
+    std::size_t letters = raw.size();
+    if (!raw.empty()) {
+        const auto at = [&](std::size_t i) { return std::size_t { static_cast<unsigned char>(raw[i]) }; };
+        letters += at(0) * 3 + at(raw.size() / 2) * 5 + at(raw.size() - 1) * 7;
+    }
+    return m_recentTexts[column * recentTextsPerColumn + letters % recentTextsPerColumn];
+}
+
 /// Texts that the pool must be asked for wait until the end of their row: see TextPool::prefetch().
 void ReadStatDoc::acceptText(std::size_t cell, std::size_t column, const char* text)
 {
     const std::string_view raw = texts::trimmedView(text == nullptr ? "" : text);
-    PooledText* last = m_lastTexts[column];
-    if (last != nullptr && last->text() == raw) {
-        last->addReference();
-        m_cells[cell] = last;
+    PooledText*& recent = recentText(column, raw);
+    if (recent != nullptr && recent->text() == raw) {
+        recent->addReference();
+        m_cells[cell] = recent;
         return;
     }
     if (!m_decoder.isUnchanged(raw)) {
@@ -301,7 +334,7 @@ void ReadStatDoc::acceptText(std::size_t cell, std::size_t column, const char* t
         record->addReference();
         m_cells[cell] = record;
         // A converted text is not remembered: other bytes of the file could read like it.
-        m_lastTexts[column] = record->text() == raw ? record : nullptr;
+        recent = record->text() == raw ? record : nullptr;
         return;
     }
     const std::uint64_t hash = TextPool::hashOf(raw);
@@ -320,7 +353,7 @@ void ReadStatDoc::resolveWaitingTexts()
         PooledText* record = m_textPool.intern(raw, waiting.hash);
         record->addReference();
         m_cells[waiting.cell] = record;
-        m_lastTexts[waiting.column] = record;
+        recentText(waiting.column, raw) = record;
     }
     m_waitingTexts.clear();
     m_waitingBytes.clear();
@@ -343,4 +376,11 @@ PooledText* ReadStatDoc::convertedText(std::string_view raw)
 void ReadStatDoc::setCell(int row, int column, CellValue value)
 {
     m_cells.at(cellIndex(row, column)) = value;
+}
+
+void ReadStatDoc::setText(int row, int column, std::string_view raw)
+{
+    PooledText* record = pooled(raw);
+    record->addReference();
+    setCell(row, column, record);
 }

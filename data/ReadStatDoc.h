@@ -57,7 +57,7 @@ protected:
     /// beyond 32 bits, or beyond what the file can hold.
     int resizeDataset(std::int64_t rows, std::int64_t variables, std::int64_t mostRows);
     /// Makes room for that many rows at first; more may come, and those that do are counted.
-    int reserveRows(std::int64_t rows);
+    void reserveRows(int rows);
     /// For prepare(): the file does not tell how many rows it has, so even without wanted values
     /// the whole of it is read to count them.
     void setRowCountUnknown() { m_rowCountIsUnknown = true; }
@@ -73,9 +73,8 @@ protected:
     /// The record of a text that the file holds in its own encoding.
     PooledText* pooled(std::string_view raw);
     void setCell(int row, int column, CellValue value);
-    [[nodiscard]] int rowsSeen() const { return m_rowsSeen; }
-    /// Counts rows that a reader adds itself.
-    void setRowsSeen(int rows) { m_rowsSeen = rows; }
+    /// Makes a cell show that text of the file.
+    void setText(int row, int column, std::string_view raw);
 
 private:
     static int onMetadata(readstat_metadata_t* metadata, void* context) noexcept;
@@ -88,8 +87,10 @@ private:
     int finish(const QString& path, readstat_error_t code);
     void acceptVariable(int index, const readstat_variable_t& variable);
     int acceptValue(int row, const readstat_variable_t& variable, const readstat_value_t& value);
+    [[nodiscard]] PooledText*& recentText(std::size_t column, std::string_view raw);
     bool isSkipped(int& row);
     void growTo(std::size_t cells);
+    void settleCells();
     void acceptText(std::size_t cell, std::size_t column, const char* text);
     void resolveWaitingTexts();
     PooledText* convertedText(std::string_view raw);
@@ -108,7 +109,9 @@ private:
     bool m_rowsAreCounted = false;  ///< the rows that come make the observation count
     bool m_variablesAreDone = false;
     int m_rowsSeen = 0;
-    std::vector<PooledText*> m_lastTexts;  ///< of each column: neighbouring rows repeat
+    std::size_t m_valuesInOrder = 0;  ///< cells filled before the first gap
+    /// Of each column the texts seen lately, by a few of their letters: most columns hold few texts.
+    std::vector<PooledText*> m_recentTexts;
     /// A text cell of the current row that waits for its look-up.
     struct WaitingText
     {

@@ -226,7 +226,7 @@ std::vector<LayoutReader::Subheader> LayoutReader::subheadersOf(const Page& page
         const std::int64_t offset = word(pointer, 0);
         const std::int64_t length = word(pointer, 1);
         const unsigned compression = pointer.u8(2 * wordSize());
-        if (offset < 0 || length < 0 || offset + length > m_pageSize) {
+        if (offset < 0 || offset > m_pageSize || length < 0 || length > m_pageSize - offset) {
             continue;
         }
         found.push_back(

@@ -20,7 +20,8 @@ int SasDoc::acceptMetadata(const readstat_metadata_t& metadata)
 {
     m_header = m_layout.header;
     copyCommonMetadata(metadata);
-    for (std::string* text : {&m_header.tableName, &m_header.fileLabel, &m_header.memberType}) {
+    for (std::string* text : {&m_header.tableName, &m_header.fileLabel, &m_header.memberType,
+                              &m_header.release, &m_header.host}) {
         *text = decoded(text->c_str());
     }
     m_header.encoding = sasEncodingName(m_layout.encodingCode);
@@ -57,7 +58,7 @@ void SasDoc::clearEmptyColumns()
         }
         m_lengths[static_cast<std::size_t>(column)] = 0;
         for (int row = 0; m_valuesWanted && row < m_observationCount; ++row) {
-            setCell(row, column, pooled(""));
+            setText(row, column, "");
         }
     }
 }

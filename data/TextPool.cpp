@@ -68,6 +68,7 @@ void TextPool::clear()
 {
     m_slots = {};
     m_size = 0;
+    m_hasTrailingBlanks = false;
     m_blocks.clear();
     m_free = nullptr;
     m_freeBytes = 0;
@@ -111,6 +112,7 @@ PooledText* TextPool::makeRecord(std::string_view text)
     auto* record = new (place) PooledText(static_cast<std::uint32_t>(text.size()));
     std::copy(text.begin(), text.end(), record->bytes());
     record->bytes()[text.size()] = '\0';
+    m_hasTrailingBlanks = m_hasTrailingBlanks || text.ends_with(' ');
     return record;
 }
 

@@ -38,6 +38,10 @@ public:
     /// How many distinct texts there are.
     [[nodiscard]] std::size_t size() const { return m_size; }
 
+    /// Whether any text ends in a blank. Without any, texts that are equal up to trailing blanks
+    /// have one record.
+    [[nodiscard]] bool hasTrailingBlanks() const { return m_hasTrailingBlanks; }
+
     /// Bytes that the records, their texts and the table take.
     [[nodiscard]] std::size_t bytesInUse() const;
 
@@ -59,6 +63,7 @@ private:
 
     Slots m_slots;
     std::size_t m_size = 0;
+    bool m_hasTrailingBlanks = false;
     std::vector<std::unique_ptr<std::byte[]>> m_blocks;
     std::byte* m_free = nullptr;
     std::size_t m_freeBytes = 0;

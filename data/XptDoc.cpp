@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <limits>
 
 namespace {
 
@@ -19,11 +18,11 @@ bool sameName(const std::string& one, const std::string& other)
 
 std::string XptDoc::prepare(const FileReader& file, ParserInput& input)
 {
+    setDecoder(TextDecoder());
     const Result<XptLayout> layout = readXptLayout(file);
     if (!layout) {
-        return layout.error();
+        return decoded(layout.error().c_str());  // it may quote the file
     }
-    setDecoder(TextDecoder());
     m_memberNames.clear();
     for (const XptMember& member : layout.value().members) {
         m_memberNames.push_back(decoded(member.name.c_str()));
@@ -74,12 +73,8 @@ int XptDoc::acceptMetadata(const readstat_metadata_t& metadata)
     m_header.release = {};
     m_header.host = {};
     m_header.observationLength = m_member.rowLength;
-    resizeVariables(static_cast<int>(metadata.var_count));
-    if (!m_valuesWanted) {
-        m_observationCount = static_cast<int>(m_member.rowCount);
-        return READSTAT_HANDLER_OK;
-    }
-    return reserveRows(m_member.rowCount);
+    // The library drops all blank rows at the end; those that cannot be padding stay empty rows here.
+    return resizeDataset(m_member.rowCount, metadata.var_count, m_member.rowCount);
 }
 
 void XptDoc::completeVariable(int index)
@@ -98,22 +93,8 @@ void XptDoc::completeVariable(int index)
 std::string XptDoc::complete(const FileReader&)
 {
     if (m_valuesWanted) {
-        addBlankRows();
         normaliseFormats();
     }
     m_member = {};
     return {};
-}
-
-/// The library drops all blank rows at the end; those that cannot be padding are observations.
-void XptDoc::addBlankRows()
-{
-    for (int row = rowsSeen(); row < m_member.rowCount; ++row) {
-        for (int column = 0; column < m_variableCount; ++column) {
-            setCell(row, column,
-                    isCharacter(column) ? CellValue(pooled(""))
-                                        : CellValue(std::numeric_limits<double>::quiet_NaN()));
-        }
-    }
-    setRowsSeen(static_cast<int>(m_member.rowCount));
 }
