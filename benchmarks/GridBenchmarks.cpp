@@ -1,15 +1,13 @@
 // Sorting the benchmark table and rendering what fits on a screen. Sorting is told as a multiple of
 // a plain comparison sort of the same values, taken in the same run.
 
-#include "benchmarks/BenchmarkFiles.h"
-
 #include "analysis/RowSorter.h"
+#include "benchmarks/BenchmarkFiles.h"
 #include "data/DatasetFile.h"
 #include "grid/MainTableModel.h"
 
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
+#include <benchmark/benchmark.h>
 #include <iostream>
 #include <numeric>
 
@@ -79,8 +77,8 @@ void renderScreen(benchmark::State& state, const StatDataset& dataset)
 void addSort(const StatDataset& dataset, const char* kind, const wchar_t* name)
 {
     const int variable = dataset.findVariable(name);
-    const std::string label
-        = std::string(kind) + '/' + dataset.names().at(static_cast<std::size_t>(variable));
+    const std::string label =
+        std::string(kind) + '/' + dataset.names().at(static_cast<std::size_t>(variable));
     const auto add = [&](const char* way, auto* function) {
         benchmark::RegisterBenchmark((way + label).c_str(),
                                      [&dataset, variable, function](benchmark::State& state) {
@@ -110,9 +108,9 @@ int main(int argc, char** argv)
     addSort(dataset, "text-few", L"TEST");
     addSort(dataset, "text-10k", L"TERM");
     addSort(dataset, "text-unique", L"USUBJID");
-    benchmark::RegisterBenchmark("render/screen",
-                                 [&](benchmark::State& state) { renderScreen(state, dataset); })
-        ->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark("render/screen", [&](benchmark::State& state) {
+        renderScreen(state, dataset);
+    })->Unit(benchmark::kMicrosecond);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -1,7 +1,10 @@
 #include "cli/CommandLine.h"
 
 #include "cli/ContentsCommand.h"
+#include "cli/FreqCommand.h"
 #include "cli/RowsCommand.h"
+#include "cli/Selection.h"
+#include "cli/StatsCommand.h"
 #include "data/FilePath.h"
 #include "data/Version.h"
 
@@ -9,7 +12,9 @@
 
 #include <CLI/CLI.hpp>
 #include <cstdio>
+#include <functional>
 #include <map>
+#include <optional>
 
 namespace cli {
 
@@ -48,6 +53,11 @@ Result<OpenedDataset> open(const Common& common, bool metadataOnly)
     return openDataset(filepath::fromBytes(common.file), {metadataOnly, common.member});
 }
 
+void addWhere(CLI::App& command, std::optional<std::string>& where)
+{
+    command.add_option("--where", where, "Only observations that meet this condition");
+}
+
 int runContents(const Common& common)
 {
     const Result<OpenedDataset> opened = open(common, true);
@@ -58,24 +68,75 @@ int runContents(const Common& common)
     return Done;
 }
 
-int runRows(const Common& common, const RowsRequest& request)
+/// Opens the file, narrows it to the condition, and lets the command print it.
+int runOnRows(const Common& common, const std::optional<std::string>& where,
+              const std::function<Result<bool>(const StatDataset&)>& print)
 {
-    const Result<OpenedDataset> opened = open(common, false);
+    Result<OpenedDataset> opened = open(common, false);
     if (!opened) {
         return fail(opened.error());
     }
-    const Result<bool> printed = printRows(*opened.value().dataset, request, common.format);
-    return printed ? Done : fail(fmt::format("{}: {}", common.file, printed.error()));
+    StatDataset& dataset = *opened.value().dataset;
+    Result<bool> done = selectWhere(dataset, where);
+    if (done) {
+        done = print(dataset);
+    }
+    return done ? Done : fail(fmt::format("{}: {}", common.file, done.error()));
 }
 
-void addRowsOptions(CLI::App& command, RowsRequest& request)
+/// The options of all commands, as CLI11 fills them.
+struct Requests
 {
-    command.add_option("--keep", request.keep, "Only these variables, in this order");
-    command.add_option("--drop", request.drop, "All variables but these");
-    command.add_option("--sort", request.sort, "Sort by V, or by V:desc in descending order");
-    command.add_option("--first", request.first, "At most so many observations")
+    Common common;
+    std::optional<std::string> where;
+    RowsRequest rows;
+    FreqRequest freq;
+    StatsRequest stats;
+};
+
+CLI::App* addContents(CLI::App& app, Requests& requests)
+{
+    CLI::App* command = app.add_subcommand("contents", "Describes a dataset and its variables");
+    addCommon(*command, requests.common);
+    return command;
+}
+
+CLI::App* addRows(CLI::App& app, Requests& requests)
+{
+    CLI::App* command = app.add_subcommand("rows", "Prints observations");
+    addCommon(*command, requests.common);
+    addWhere(*command, requests.where);
+    RowsRequest& request = requests.rows;
+    command->add_option("--keep", request.keep, "Only these variables, in this order");
+    command->add_option("--drop", request.drop, "All variables but these");
+    command->add_option("--sort", request.sort, "Sort by V, or by V:desc in descending order");
+    command->add_option("--first", request.first, "At most so many observations")
         ->check(CLI::NonNegativeNumber);
-    command.add_flag("--raw", request.raw, "The values as they are stored");
+    command->add_flag("--raw", request.raw, "The values as they are stored");
+    return command;
+}
+
+CLI::App* addFreq(CLI::App& app, Requests& requests)
+{
+    CLI::App* command = app.add_subcommand("freq", "Counts the values of variables");
+    addCommon(*command, requests.common);
+    command->add_option("VARIABLES", requests.freq.variables, "V, or V*W for combinations")
+        ->required();
+    addWhere(*command, requests.where);
+    command->add_flag("--distinct", requests.freq.distinct, "Count subjects, not observations");
+    command->add_option("--id", requests.freq.idName, "The variable that identifies a subject")
+        ->capture_default_str();
+    return command;
+}
+
+CLI::App* addStats(CLI::App& app, Requests& requests)
+{
+    CLI::App* command = app.add_subcommand("stats", "Summarises a numeric variable");
+    addCommon(*command, requests.common);
+    command->add_option("VARIABLE", requests.stats.variable, "A numeric variable")->required();
+    addWhere(*command, requests.where);
+    command->add_option("--by", requests.stats.by, "One line for each group of these");
+    return command;
 }
 
 }  // namespace
@@ -85,19 +146,25 @@ int run(int argc, char** argv)
     CLI::App app("Shows statistical datasets without a window.", "quorlane-cli");
     app.set_version_flag("--version", quorlane::version);
     app.require_subcommand(1);
-    Common common;
-    RowsRequest request;
-    CLI::App* contents = app.add_subcommand("contents", "Describes a dataset and its variables");
-    CLI::App* rows = app.add_subcommand("rows", "Prints observations");
-    for (CLI::App* command : {contents, rows}) {
-        addCommon(*command, common);
-    }
-    addRowsOptions(*rows, request);
+    Requests requests;
+    const Common& common = requests.common;
+    const OutputFormat& format = common.format;
+    CLI::App* contents = addContents(app, requests);
+    CLI::App* rows = addRows(app, requests);
+    CLI::App* freq = addFreq(app, requests);
+    addStats(app, requests);
     try {
         app.parse(argc, argv);
-        return contents->parsed() ? runContents(common) : runRows(common, request);
-    } catch (const CLI::Success& request_) {
-        return app.exit(request_);  // --help or --version
+        if (contents->parsed()) {
+            return runContents(common);
+        }
+        return runOnRows(common, requests.where, [&](const StatDataset& dataset) {
+            return rows->parsed() ? printRows(dataset, requests.rows, format)
+                : freq->parsed()  ? printFrequencies(dataset, requests.freq, format)
+                                  : printStatistics(dataset, requests.stats, format);
+        });
+    } catch (const CLI::Success& information) {
+        return app.exit(information);  // --help or --version
     } catch (const CLI::ParseError& error) {
         app.exit(error);
         return Failed;

@@ -1,6 +1,7 @@
 #include "cli/RowsCommand.h"
 
 #include "analysis/RowSorter.h"
+#include "cli/Selection.h"
 
 #include <fmt/format.h>
 
@@ -24,29 +25,6 @@ bool sameName(std::string_view one, std::string_view other)
         [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
 }
 
-std::optional<int> variableNamed(const StatDataset& dataset, std::string_view name)
-{
-    const auto& names = dataset.names();
-    const auto found = std::find_if(names.begin(), names.end(),
-                                    [&](const std::string& one) { return sameName(one, name); });
-    return found == names.end() ? std::nullopt
-                                : std::optional(static_cast<int>(found - names.begin()));
-}
-
-Result<std::vector<int>> variablesNamed(const StatDataset& dataset,
-                                        const std::vector<std::string>& names)
-{
-    std::vector<int> variables;
-    for (const std::string& name : names) {
-        const std::optional<int> variable = variableNamed(dataset, name);
-        if (!variable) {
-            return Failure{fmt::format("There is no variable named {}", name)};
-        }
-        variables.push_back(*variable);
-    }
-    return variables;
-}
-
 /// "NAME", "NAME:asc" or "NAME:desc".
 Result<SortKeys> sortKeysOf(const StatDataset& dataset, const std::vector<std::string>& texts)
 {
@@ -55,14 +33,14 @@ Result<SortKeys> sortKeysOf(const StatDataset& dataset, const std::vector<std::s
         const std::size_t colon = text.rfind(':');
         const std::string name = text.substr(0, colon);
         const std::string order = colon == std::string::npos ? "asc" : text.substr(colon + 1);
-        const std::optional<int> variable = variableNamed(dataset, name);
+        const Result<int> variable = variableNamed(dataset, name);
         if (!variable) {
-            return Failure{fmt::format("There is no variable named {}", name)};
+            return Failure{variable.error()};
         }
         if (!sameName(order, "asc") && !sameName(order, "desc")) {
             return Failure{fmt::format("{} is sorted asc or desc, not {}", name, order)};
         }
-        keys.emplace_back(*variable,
+        keys.emplace_back(variable.value(),
                           sameName(order, "asc") ? Qt::AscendingOrder : Qt::DescendingOrder);
     }
     return keys;
@@ -212,6 +190,9 @@ Result<bool> printRows(const StatDataset& dataset, const RowsRequest& request, O
     if (!keys.value().empty()) {
         rowsorter::sortObservations(dataset, keys.value(), observations);
     }
+    std::erase_if(observations, [&](std::uint32_t observation) {
+        return !dataset.datasetFilterMask()[observation];
+    });
     observations.resize(std::min(observations.size(), static_cast<std::size_t>(request.first)));
     RowPrinter(dataset, variables.value(), request.raw).print(observations, format);
     return true;

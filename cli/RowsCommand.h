@@ -19,8 +19,8 @@ struct RowsRequest
     bool raw = false;
 };
 
-/// Prints observations: number and cells, as the grid shows them or as they are stored. A failure
-/// names the variable, and nothing has been printed then.
+/// Prints the observations that the dataset's filter selects: number and cells, as the grid shows
+/// them or as they are stored. A failure names the variable, and nothing has been printed then.
 [[nodiscard]] Result<bool> printRows(const StatDataset& dataset, const RowsRequest& request,
                                      OutputFormat format);
 

@@ -20,7 +20,8 @@ protected:
     std::string complete(const FileReader& file) override;
 
 private:
-    void resolveLongStrings(const FileReader& file);
+    void resolveLongStrings(const FileReader& file, const LongStrings& strings);
+    [[nodiscard]] LongStrings::key_type longStringKey(std::uint64_t reference) const;
 
     DtaLayout m_layout;
 };

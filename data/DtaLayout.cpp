@@ -2,8 +2,10 @@
 
 #include "data/ByteView.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
-#include <optional>
+#include <charconv>
 #include <string_view>
 
 namespace {
@@ -63,33 +65,57 @@ int widthOfOldType(unsigned type, int release)
     }
 }
 
-/// Offset behind a tag, or nothing when the text lacks it.
-std::optional<std::size_t> behind(std::string_view text, std::string_view tag)
+Failure tooManyVariables(std::int64_t count)
 {
-    const std::size_t at = text.find(tag);
-    return at == std::string_view::npos ? std::nullopt : std::optional(at + tag.size());
+    return {fmt::format("It promises {} variables, but it is too short to describe them", count)};
 }
 
-void readOldLayout(const FileReader& file, const ByteView& header, DtaLayout& layout)
+Result<DtaLayout> readOldLayout(const FileReader& file, std::string_view start)
 {
-    layout.release = header.u8(0);
-    layout.littleEndian = header.u8(1) == 2;
-    const ByteView ordered(header.text(0, header.size()), layout.littleEndian);
-    const std::int64_t variables = ordered.u16(4);
+    DtaLayout layout;
+    layout.release = ByteView(start, true).u8(0);
+    layout.littleEndian = ByteView(start, true).u8(1) == 2;
+    const std::int64_t variables = ByteView(start, layout.littleEndian).u16(4);
     const std::int64_t labelSize = layout.release >= 108 ? 81 : 32;
     const std::int64_t stampSize = layout.release >= 105 ? 18 : 0;
     const std::vector<char> types = file.bytesAt(10 + labelSize + stampSize, variables);
+    if (static_cast<std::int64_t>(types.size()) < variables) {
+        return tooManyVariables(variables);
+    }
     for (const char type : types) {
         layout.rowLength += widthOfOldType(static_cast<unsigned char>(type), layout.release);
     }
+    return layout;
 }
 
-std::int64_t variableCount(const ByteView& header, std::size_t at, int release)
+/// Walks over the tags of a header in their order, as the format library does: a label may hold
+/// what looks like a tag.
+class TagReader
 {
-    return release >= 119 ? header.u32(at) : header.u16(at);
-}
+public:
+    explicit TagReader(std::string_view text)
+        : m_text(text)
+    { }
 
-void readTypes(const FileReader& file, std::int64_t offset, std::int64_t count, DtaLayout& layout)
+    /// The bytes behind a tag that must stand here; empty when it does not, or they are too few.
+    std::string_view behind(std::string_view tag, std::size_t size)
+    {
+        if (m_text.substr(m_at, tag.size()) != tag || m_text.size() - m_at < tag.size() + size) {
+            m_at = m_text.size();
+            return {};
+        }
+        const std::string_view found = m_text.substr(m_at + tag.size(), size);
+        m_at += tag.size() + size;
+        return found;
+    }
+    void skip(std::size_t size) { m_at = std::min(m_at + size, m_text.size()); }
+
+private:
+    std::string_view m_text;
+    std::size_t m_at = 0;
+};
+
+bool readTypes(const FileReader& file, std::int64_t offset, std::int64_t count, DtaLayout& layout)
 {
     const std::vector<char> bytes = file.bytesAt(offset, 2 * count);
     const ByteView types({bytes.data(), bytes.size()}, layout.littleEndian);
@@ -100,24 +126,32 @@ void readTypes(const FileReader& file, std::int64_t offset, std::int64_t count, 
         }
         layout.rowLength += widthOfType(type);
     }
+    return static_cast<std::int64_t>(bytes.size()) == 2 * count;
 }
 
-void readTaggedLayout(const FileReader& file, std::string_view start, DtaLayout& layout)
+Result<DtaLayout> readTaggedLayout(const FileReader& file, std::string_view start)
 {
-    const auto releaseAt = behind(start, "<release>");
-    const auto orderAt = behind(start, "<byteorder>");
-    const auto countAt = behind(start, "<K>");
-    const auto mapAt = behind(start, "<map>");
-    if (!releaseAt || !orderAt || !countAt || !mapAt) {
-        return;
+    DtaLayout layout;
+    TagReader tags(start);
+    const std::string_view release = tags.behind("<stata_dta><header><release>", 3);
+    std::from_chars(release.data(), release.data() + release.size(), layout.release);
+    layout.littleEndian = tags.behind("</release><byteorder>", 3) == "LSF";
+    const auto numberBehind = [&](std::string_view tag, std::size_t size) {
+        const std::string_view bytes = tags.behind(tag, size);
+        const ByteView view(bytes, layout.littleEndian);
+        return size == 1 ? view.u8(0) : size == 2 ? view.u16(0) : view.u32(0);
+    };
+    const std::int64_t variables = numberBehind("</byteorder><K>", layout.release >= 119 ? 4 : 2);
+    tags.behind("</K><N>", layout.release >= 118 ? 8 : 4);
+    tags.skip(numberBehind("</N><label>", layout.release >= 118 ? 2 : 1));
+    tags.skip(numberBehind("</label><timestamp>", 1));
+    constexpr std::size_t entries = 14;
+    const ByteView map(tags.behind("</timestamp></header><map>", 8 * entries), layout.littleEndian);
+    if (map.size() == 0) {
+        return Failure{"Its header is damaged"};
     }
-    for (const char digit : start.substr(*releaseAt, 3)) {
-        layout.release = layout.release * 10 + (digit - '0');
-    }
-    layout.littleEndian = start.substr(*orderAt, 3) == "LSF";
-    const ByteView header(start, layout.littleEndian);
     const auto mapped = [&](std::size_t entry) {
-        const auto offset = static_cast<std::int64_t>(header.u64(*mapAt + 8 * entry));
+        const auto offset = static_cast<std::int64_t>(map.u64(8 * entry));
         return std::clamp<std::int64_t>(offset, 0, file.size());
     };
     constexpr std::int64_t typesTag = sizeof("<variable_types>") - 1;
@@ -125,38 +159,37 @@ void readTaggedLayout(const FileReader& file, std::string_view start, DtaLayout&
     constexpr std::int64_t longStringsTag = sizeof("<strls>") - 1;
     layout.dataOffset = mapped(9) + dataTag;
     layout.longStringsOffset = mapped(10) + longStringsTag;
-    layout.longStringsEnd = mapped(11);
-    readTypes(file, mapped(2) + typesTag, variableCount(header, *countAt, layout.release), layout);
+    return readTypes(file, mapped(2) + typesTag, variables, layout)
+        ? Result<DtaLayout>(std::move(layout))
+        : tooManyVariables(variables);
 }
 
 }  // namespace
 
-DtaLayout readDtaLayout(const FileReader& file)
+Result<DtaLayout> readDtaLayout(const FileReader& file)
 {
-    DtaLayout layout;
     const std::vector<char> bytes = file.bytesAt(0, longestHeader);
     const std::string_view start(bytes.data(), bytes.size());
-    if (start.starts_with("<stata_dta>")) {
-        readTaggedLayout(file, start, layout);
-    } else {
-        readOldLayout(file, ByteView(start, true), layout);
-    }
-    return layout;
+    return start.starts_with("<stata_dta>") ? readTaggedLayout(file, start)
+                                            : readOldLayout(file, start);
 }
 
-LongStrings readLongStrings(const FileReader& file, const DtaLayout& layout)
+Result<LongStrings> readLongStrings(const FileReader& file, const DtaLayout& layout)
 {
     // "GSO", variable, observation (four bytes in 117, eight later), type, length, contents.
     const std::int64_t observationSize = layout.release >= 118 ? 8 : 4;
     const std::int64_t headerSize = 3 + 4 + observationSize + 1 + 4;
     LongStrings strings;
     std::int64_t position = layout.longStringsOffset;
-    while (position + headerSize <= layout.longStringsEnd) {
+    for (;;) {
         const std::vector<char> bytes = file.bytesAt(position, headerSize);
         const ByteView header({bytes.data(), bytes.size()}, layout.littleEndian);
+        if (header.text(0, 3) == "</s") {
+            return strings;
+        }
         const std::int64_t length = header.u32(static_cast<std::size_t>(headerSize - 4));
-        if (header.text(0, 3) != "GSO" || position + headerSize + length > layout.longStringsEnd) {
-            break;
+        if (header.text(0, 3) != "GSO" || position + headerSize + length > file.size()) {
+            return Failure{"Its long strings are damaged"};
         }
         const std::vector<char> contents = file.bytesAt(position + headerSize, length);
         std::string text(contents.begin(), contents.end());
@@ -165,5 +198,4 @@ LongStrings readLongStrings(const FileReader& file, const DtaLayout& layout)
         strings.emplace(std::pair(header.u32(3), observation), std::move(text));
         position += headerSize + length;
     }
-    return strings;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/FileReader.h"
+#include "data/Result.h"
 
 #include <cstdint>
 #include <map>
@@ -14,10 +15,9 @@ struct DtaLayout
 {
     int release = 0;
     bool littleEndian = true;
-    std::int64_t rowLength = 0;  ///< bytes; 0 when the header is damaged
+    std::int64_t rowLength = 0;  ///< bytes
     std::int64_t dataOffset = 0;  ///< of the first row, releases from 117 on
     std::int64_t longStringsOffset = 0;  ///< of the section, releases from 117 on
-    std::int64_t longStringsEnd = 0;
     /// The variables that refer to long strings, and where in a row they do.
     struct LongStringVariable
     {
@@ -27,11 +27,12 @@ struct DtaLayout
     std::vector<LongStringVariable> longStringVariables;
 };
 
-/// Reads the layout; what a damaged file does not tell stays 0 or empty.
-[[nodiscard]] DtaLayout readDtaLayout(const FileReader& file);
+/// Reads the layout; fails where the header is damaged, or promises more variables than the file
+/// can describe. A file that is no Stata file at all has the release 0 or an unknown one.
+[[nodiscard]] Result<DtaLayout> readDtaLayout(const FileReader& file);
 
 /// The long strings of a file by (variable, observation), both counted from 1.
 using LongStrings = std::map<std::pair<std::uint32_t, std::uint64_t>, std::string>;
 
-/// Reads all long strings, without the NUL at their end; stops at the first damaged one.
-[[nodiscard]] LongStrings readLongStrings(const FileReader& file, const DtaLayout& layout);
+/// Reads all long strings, each up to its first NUL; fails where the section is damaged.
+[[nodiscard]] Result<LongStrings> readLongStrings(const FileReader& file, const DtaLayout& layout);

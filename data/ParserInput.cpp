@@ -5,9 +5,9 @@
 
 namespace {
 
-int onOpen(const char*, void*)
+int onOpen(const char*, void* context)
 {
-    return 0;
+    return static_cast<ParserInput*>(context)->seek(0, READSTAT_SEEK_SET) == 0 ? 0 : -1;
 }
 
 int onClose(void*)
@@ -56,6 +56,13 @@ void ParserInput::replaceByte(std::int64_t offset, char byte)
     m_replacements.insert(place, {offset, byte});
 }
 
+void ParserInput::replaceBytes(std::int64_t offset, std::string_view bytes)
+{
+    for (const char byte : bytes) {
+        replaceByte(offset++, byte);
+    }
+}
+
 void ParserInput::setReadAhead(std::size_t bytes)
 {
     m_buffer.resize(bytes);
@@ -90,7 +97,7 @@ std::int64_t ParserInput::read(char* target, std::size_t count)
     if (count >= m_buffer.size()) {
         done = readPieces(m_position, target, count);
     } else {
-        const std::int64_t wanted = static_cast<std::int64_t>(count);
+        const auto wanted = static_cast<std::int64_t>(count);
         while (done < wanted) {
             const std::int64_t ahead = m_position + done - m_bufferStart;
             if (ahead < 0 || ahead >= m_bufferBytes) {

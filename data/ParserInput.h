@@ -5,6 +5,7 @@
 #include <readstat.h>
 
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 /// What the format library reads in place of the bare file: chosen pieces of it one after the
@@ -26,6 +27,8 @@ public:
 
     /// Replaces the byte at that offset of the input. Offsets may come in any order.
     void replaceByte(std::int64_t offset, char byte);
+    /// Replaces the bytes from that offset on.
+    void replaceBytes(std::int64_t offset, std::string_view bytes);
 
     /// Reads ahead that many bytes at a time. Off by default: a parser that walks backwards through
     /// the pages of a file is slower with it.

@@ -313,7 +313,9 @@ PooledText*& ReadStatDoc::recentText(std::size_t column, std::string_view raw)
 {
     std::size_t letters = raw.size();
     if (!raw.empty()) {
-        const auto at = [&](std::size_t i) { return std::size_t { static_cast<unsigned char>(raw[i]) }; };
+        const auto at = [&](std::size_t i) {
+            return std::size_t{static_cast<unsigned char>(raw[i])};
+        };
         letters += at(0) * 3 + at(raw.size() / 2) * 5 + at(raw.size() - 1) * 7;
     }
     return m_recentTexts[column * recentTextsPerColumn + letters % recentTextsPerColumn];
@@ -329,7 +331,7 @@ void ReadStatDoc::acceptText(std::size_t cell, std::size_t column, const char* t
         m_cells[cell] = recent;
         return;
     }
-    if (!m_decoder.isUnchanged(raw)) {
+    if (!TextDecoder::isUnchanged(raw)) {
         PooledText* record = convertedText(raw);
         record->addReference();
         m_cells[cell] = record;
@@ -361,7 +363,7 @@ void ReadStatDoc::resolveWaitingTexts()
 
 PooledText* ReadStatDoc::pooled(std::string_view raw)
 {
-    return m_decoder.isUnchanged(raw) ? m_textPool.intern(raw) : convertedText(raw);
+    return TextDecoder::isUnchanged(raw) ? m_textPool.intern(raw) : convertedText(raw);
 }
 
 PooledText* ReadStatDoc::convertedText(std::string_view raw)

@@ -110,7 +110,8 @@ private:
     bool m_variablesAreDone = false;
     int m_rowsSeen = 0;
     std::size_t m_valuesInOrder = 0;  ///< cells filled before the first gap
-    /// Of each column the texts seen lately, by a few of their letters: most columns hold few texts.
+    /// Of each column the texts seen lately, by a few of their letters: most columns hold few
+    /// texts.
     std::vector<PooledText*> m_recentTexts;
     /// A text cell of the current row that waits for its look-up.
     struct WaitingText

@@ -14,10 +14,55 @@ constexpr std::size_t caseCountAt = 80;
 /// No zlib stream unpacks to more than about this many times its size.
 constexpr std::int64_t largestZlibRatio = 1032;
 
+/// Texts that are longer stand in several parts.
+constexpr std::size_t longestWholeText = 252;
+
+/// A look at the variables alone, before the file is read.
+class Glance
+{
+public:
+    Glance(ParserInput& input, const char* path)
+    {
+        readstat_parser_t* parser = readstat_parser_init();
+        if (parser != nullptr) {
+            readstat_set_metadata_handler(parser, onMetadata);
+            readstat_set_variable_handler(parser, onVariable);
+            readstat_set_handler_character_encoding(parser, nullptr);
+            readstat_set_row_limit(parser, 1);
+            input.attachTo(parser);
+            readstat_parse_sav(parser, path, this);
+            readstat_parser_free(parser);
+        }
+    }
+    [[nodiscard]] bool needsOtherName() const { return m_isUtf8 && m_hasVeryLongTexts; }
+
+private:
+    static int onMetadata(readstat_metadata_t* metadata, void* context) noexcept
+    {
+        auto* self = static_cast<Glance*>(context);
+        self->m_variablesLeft = metadata->var_count;
+        self->m_isUtf8 = metadata->file_encoding != nullptr
+            && std::string_view(metadata->file_encoding) == "UTF-8";
+        return self->m_isUtf8 ? READSTAT_HANDLER_OK : READSTAT_HANDLER_ABORT;
+    }
+    static int onVariable(int, readstat_variable_t* variable, const char*, void* context) noexcept
+    {
+        auto* self = static_cast<Glance*>(context);
+        self->m_hasVeryLongTexts = readstat_variable_get_storage_width(variable) > longestWholeText;
+        const bool isEnough = self->m_hasVeryLongTexts || --self->m_variablesLeft <= 0;
+        return isEnough ? READSTAT_HANDLER_ABORT : READSTAT_HANDLER_OK;
+    }
+
+    std::int64_t m_variablesLeft = 0;
+    bool m_isUtf8 = false;
+    bool m_hasVeryLongTexts = false;
+};
+
 }  // namespace
 
 std::string SavDoc::prepare(const FileReader& file, ParserInput& input)
 {
+    m_input = &input;
     const std::vector<char> bytes = file.bytesAt(0, headerSize);
     const std::string_view start(bytes.data(), bytes.size());
     const std::uint32_t layoutCode = ByteView(start, true).u32(layoutCodeAt);
@@ -38,19 +83,29 @@ std::string SavDoc::prepare(const FileReader& file, ParserInput& input)
 
 readstat_error_t SavDoc::parse(readstat_parser_t* parser, const char* path)
 {
+    // Of UTF-8 texts the library drops NUL bytes, and where the first part of a very long text
+    // holds nothing else, it writes in front of its buffer. It knows UTF-8 by this one spelling
+    // only.
+    if (m_valuesWanted && Glance(*m_input, path).needsOtherName()) {
+        m_isRenamedUtf8 = true;
+        readstat_set_file_character_encoding(parser, "utf-8");
+    }
     return readstat_parse_sav(parser, path, this);
 }
 
 int SavDoc::acceptMetadata(const readstat_metadata_t& metadata)
 {
     copyCommonMetadata(metadata);
-    m_header.encoding = metadata.file_encoding == nullptr ? "" : metadata.file_encoding;
+    m_header.encoding = m_isRenamedUtf8     ? "UTF-8"
+        : metadata.file_encoding == nullptr ? ""
+                                            : metadata.file_encoding;
     setDecoder(TextDecoder(m_header.encoding));
     m_header.fileLabel = decoded(metadata.file_label);
     m_header.is64Bit = metadata.is64bit != 0;
     if (rowCountIsUnknown()) {
         resizeVariables(static_cast<int>(metadata.var_count));
-        return reserveRows(0);
+        reserveRows(0);
+        return READSTAT_HANDLER_OK;
     }
     // A compressed case takes a byte for each of its values at least, a plain one eight.
     const std::int64_t bytesPerValue = m_isZlib || m_isRowCompressed ? 1 : 8;

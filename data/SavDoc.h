@@ -12,6 +12,8 @@ protected:
     [[nodiscard]] bool isSuccess(readstat_error_t code) const override;
 
 private:
+    ParserInput* m_input = nullptr;  ///< only while a load runs
+    bool m_isRenamedUtf8 = false;
     bool m_isZlib = false;
     bool m_isRowCompressed = false;
 };

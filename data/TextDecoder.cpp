@@ -45,7 +45,7 @@ std::string convert(iconv_t converter, std::string_view raw)
 /// One converter for files that declare no character set; it is never closed.
 iconv_t windows1252()
 {
-    static const iconv_t converter = iconv_open("UTF-8", "WINDOWS-1252");
+    static iconv_t converter = iconv_open("UTF-8", "WINDOWS-1252");
     return converter;
 }
 
@@ -104,7 +104,7 @@ TextDecoder& TextDecoder::operator=(TextDecoder&& other) noexcept
     return *this;
 }
 
-bool TextDecoder::isUnchanged(std::string_view raw) const
+bool TextDecoder::isUnchanged(std::string_view raw)
 {
     return texts::isAscii(raw);
 }
@@ -124,8 +124,11 @@ std::string TextDecoder::decode(std::string_view raw) const
         return convert(windows1252(), raw);
     case Kind::AsciiOnly:
         return asciiOnly(raw);
-    default:
-        return convert(m_converter, raw);
+    default: {
+        // iconv writes characters beyond U+10FFFF, too.
+        std::string text = convert(m_converter, raw);
+        return texts::isUtf8(text) ? text : texts::repaired(text);
+    }
     }
 }
 

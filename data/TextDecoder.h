@@ -19,7 +19,7 @@ public:
     TextDecoder& operator=(TextDecoder&& other) noexcept;
 
     /// Whether a text converts to itself, so that nothing needs to be done.
-    [[nodiscard]] bool isUnchanged(std::string_view raw) const;
+    [[nodiscard]] static bool isUnchanged(std::string_view raw);
     [[nodiscard]] std::string decode(std::string_view raw) const;
 
 private:

@@ -64,6 +64,17 @@ bool isUtf8(std::string_view text)
     return true;
 }
 
+std::string repaired(std::string_view text)
+{
+    std::string whole;
+    while (!text.empty()) {
+        const std::size_t length = sequenceLength(text);
+        whole += length == 0 ? std::string_view("\xEF\xBF\xBD") : text.substr(0, length);
+        text.remove_prefix(std::max<std::size_t>(length, 1));
+    }
+    return whole;
+}
+
 std::string_view withoutCutCharacter(std::string_view text)
 {
     constexpr std::size_t longestCharacter = 4;

@@ -42,6 +42,9 @@ namespace texts {
 /// Whether the bytes are well-formed UTF-8 (no overlong forms, no surrogates, up to U+10FFFF).
 [[nodiscard]] bool isUtf8(std::string_view text);
 
+/// The text with U+FFFD for every byte that is no part of well-formed UTF-8.
+[[nodiscard]] std::string repaired(std::string_view text);
+
 /// The text without the start of a character at its very end, which a field's width cut off.
 [[nodiscard]] std::string_view withoutCutCharacter(std::string_view text);
 

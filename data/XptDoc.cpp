@@ -34,7 +34,21 @@ std::string XptDoc::prepare(const FileReader& file, ParserInput& input)
     input.setPieces({{0, layout.value().libraryEnd},
                      {m_member.start, m_member.observations - m_member.start + rowBytes}});
     input.setReadAhead(std::size_t{256} << 10);
+    hideDamagedTimes(layout.value(), input);
     return {};
+}
+
+/// Where a time cannot be read, the library looks for the month in memory it never set.
+void XptDoc::hideDamagedTimes(const XptLayout& layout, ParserInput& input)
+{
+    constexpr std::string_view someTime = "01JAN70:00:00:00";
+    for (const std::int64_t offset : layout.damagedTimes) {
+        input.replaceBytes(offset, someTime);
+    }
+    for (const std::int64_t offset : m_member.damagedTimes) {
+        input.replaceBytes(layout.libraryEnd + offset - m_member.start, someTime);
+    }
+    m_timesAreKnown = layout.damagedTimes.empty() && m_member.damagedTimes.empty();
 }
 
 std::string XptDoc::chooseMember(const XptLayout& layout)
@@ -66,6 +80,10 @@ int XptDoc::acceptMetadata(const readstat_metadata_t& metadata)
         return READSTAT_HANDLER_OK;  // the library tells no row count of a transport file
     }
     copyCommonMetadata(metadata);
+    if (!m_timesAreKnown) {
+        m_header.creationTime = 0;
+        m_header.modificationTime = 0;
+    }
     m_header.tableName = decoded(m_member.name.c_str());
     m_header.fileLabel = decoded(metadata.file_label);
     m_header.memberType = {};
@@ -73,7 +91,8 @@ int XptDoc::acceptMetadata(const readstat_metadata_t& metadata)
     m_header.release = {};
     m_header.host = {};
     m_header.observationLength = m_member.rowLength;
-    // The library drops all blank rows at the end; those that cannot be padding stay empty rows here.
+    // The library drops all blank rows at the end; those that cannot be padding stay empty rows
+    // here.
     return resizeDataset(m_member.rowCount, metadata.var_count, m_member.rowCount);
 }
 

@@ -25,9 +25,10 @@ protected:
 
 private:
     std::string chooseMember(const XptLayout& layout);
-    void addBlankRows();
+    void hideDamagedTimes(const XptLayout& layout, ParserInput& input);
 
     std::string m_memberName;
     std::vector<std::string> m_memberNames;
     XptMember m_member;
+    bool m_timesAreKnown = true;
 };

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <optional>
 #include <string_view>
@@ -60,13 +61,14 @@ public:
 private:
     /// The card at that offset; shorter at the end of the file.
     std::string_view cardAt(std::int64_t offset);
+    void checkTimes(std::int64_t cards, std::vector<std::int64_t>& damaged) const;
     std::optional<Failure> readMember(std::int64_t& position);
     std::optional<Failure> readVariables(XptMember& member, std::int64_t& position,
                                          std::int64_t size, std::int64_t count);
     std::optional<Failure> readLongLabels(XptMember& member, std::int64_t& position,
                                           std::string_view kind);
-    void applyLongLabel(XptMember& member, const ByteView& entry, bool withFormats,
-                        std::size_t& at);
+    static void applyLongLabel(XptMember& member, const ByteView& records, bool withFormats,
+                               std::size_t& at);
     [[nodiscard]] std::int64_t findMemberAfter(std::int64_t position) const;
     [[nodiscard]] std::int64_t countRows(const XptMember& member,
                                          std::optional<std::int64_t> declared) const;
@@ -82,6 +84,23 @@ std::string_view XptReader::cardAt(std::int64_t offset)
     return {m_card.data(), m_card.size()};
 }
 
+/// Looks at the times of creation and modification that two cards hold, "15JAN25:12:00:00".
+void XptReader::checkTimes(std::int64_t cards, std::vector<std::int64_t>& damaged) const
+{
+    for (const std::int64_t offset : {cards + 64, cards + card}) {
+        const std::vector<char> bytes = m_file.bytesAt(offset, 5);
+        const auto is = [&](std::size_t at, auto kind) {
+            return at < bytes.size() && kind(static_cast<unsigned char>(bytes[at])) != 0;
+        };
+        const auto digit = [](int letter) { return std::isdigit(letter); };
+        const auto alpha = [](int letter) { return std::isalpha(letter); };
+        if (!is(1, digit) || !is(2, alpha) || !is(3, alpha) || !is(4, alpha)
+            || !(is(0, digit) || is(0, [](int letter) { return letter == ' ' ? 1 : 0; }))) {
+            damaged.push_back(offset);
+        }
+    }
+}
+
 Result<XptLayout> XptReader::read()
 {
     const std::string library(headerKind(cardAt(0)));
@@ -90,6 +109,7 @@ Result<XptLayout> XptReader::read()
     }
     std::int64_t position = 3 * card;  // the header, the real header and the modification time
     m_layout.libraryEnd = position;
+    checkTimes(card, m_layout.damagedTimes);
     while (position < m_file.size()) {
         if (const auto failure = readMember(position)) {
             return *failure;
@@ -121,6 +141,7 @@ std::optional<Failure> XptReader::readMember(std::int64_t& position)
     member.label = texts::headerField(
         std::string_view(second).substr(std::min<std::size_t>(32, second.size()), 40));
 
+    checkTimes(position + 2 * card, member.damagedTimes);
     position += 4 * card;
     const std::string namestrs(cardAt(position));
     const auto count = digitsAt(namestrs, 53, 5);

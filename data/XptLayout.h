@@ -29,6 +29,7 @@ struct XptMember
     std::vector<Variable> variables;
     std::int64_t rowLength = 0;  ///< bytes
     std::int64_t rowCount = 0;
+    std::vector<std::int64_t> damagedTimes;  ///< offsets of times that are none
 };
 
 /// A SAS transport file of version 5 or 8: its members in the order of the file. The format library
@@ -36,6 +37,7 @@ struct XptMember
 struct XptLayout
 {
     std::int64_t libraryEnd = 0;  ///< length of the records before the first member
+    std::vector<std::int64_t> damagedTimes;  ///< offsets of its times that are none
     std::vector<XptMember> members;
 };
 

@@ -117,6 +117,44 @@ TEST_F(CommandLine, rowsChoosesSortsAndLimits)
     EXPECT_EQ(run("rows", "--sort AVAL:down").code, 2);
 }
 
+TEST_F(CommandLine, rowsKeepsTheObservationsThatMeetACondition)
+{
+    const auto observations = [this](const std::string& condition, const std::string& more = {}) {
+        const Outcome outcome = run("rows", "--format json --where \"" + condition + "\" " + more);
+        EXPECT_EQ(outcome.code, 0) << outcome.err;
+        std::vector<int> numbers;
+        for (const json& row : jsonLines(outcome.out)) {
+            numbers.push_back(row["obs"]);
+        }
+        return numbers;
+    };
+    EXPECT_EQ(observations("aval < 1"), (std::vector{1, 3}));
+    EXPECT_EQ(observations("AVAL = -1e10 or AVAL > 2"), (std::vector{2, 3}));
+    EXPECT_EQ(observations("astdt <= '02JAN1960'd"), (std::vector{1, 2, 3})) << "missing is less";
+    EXPECT_EQ(observations("ASTDT isnotnull & index(AETERM, 'A') > 2"), (std::vector{1}));
+    EXPECT_EQ(observations("AVAL > -1", "--sort AVAL:desc"), (std::vector{2, 1}));
+    EXPECT_EQ(observations("AVAL > -1", "--sort AVAL:desc --first 1"), (std::vector{2}));
+    EXPECT_EQ(observations("AVAL > 1000"), std::vector<int>());
+}
+
+TEST_F(CommandLine, rowsSaysWhatIsWrongWithACondition)
+{
+    const std::vector<std::pair<const char*, const char*>> table{
+        {"AVAL >", "expect value"},
+        {"", "expect variable name or a function"},
+        {"AVAL = 1 AVAL", "unexpected trailing text"},
+        {"AVLA > 1", "AVLA"},
+        {"AETERM > 1", "The variable types do not match."},
+        {"ASTDT > '31FEB2020'd", "'31FEB2020'd"},
+    };
+    for (const auto& [condition, problem] : table) {
+        const Outcome outcome = run("rows", std::string("--where \"") + condition + "\"");
+        EXPECT_EQ(outcome.code, 2) << condition;
+        EXPECT_EQ(outcome.out, "") << condition;
+        EXPECT_NE(outcome.err.find(problem), std::string::npos) << outcome.err;
+    }
+}
+
 TEST_F(CommandLine, problemsNameTheFileOrVariable)
 {
     const Outcome variable = run("rows", "--keep AETREM");

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "grid/filter/CompareOp.h"
+#include "grid/filter/Token.h"
+
+#include <QString>
+
+#include <variant>
+#include <vector>
+
+/// A value as a condition writes it.
+struct Literal
+{
+    TokenKind kind = TokenKind::Number;  ///< String or Number
+    QString text;  ///< with quotes and suffix
+};
+
+/// variable op value
+struct CompareTerm
+{
+    QString variable;
+    CompareOp op = CompareOp::Equal;
+    Literal value;
+};
+
+/// index(variable, needle) op value
+struct IndexTerm
+{
+    QString variable;
+    Literal needle;
+    CompareOp op = CompareOp::Equal;
+    Literal value;
+};
+
+/// variable [not] in (values)
+struct InTerm
+{
+    QString variable;
+    bool negated = false;
+    std::vector<Literal> values;
+};
+
+/// variable is [not] null
+struct NullTerm
+{
+    QString variable;
+    bool negated = false;
+};
+
+struct Condition;
+
+/// Operands, two or more, that must all hold or of which one must.
+struct Junction
+{
+    bool isAnd = true;
+    std::vector<Condition> operands;
+};
+
+/// A condition as a tree, names and values still as written.
+struct Condition
+{
+    std::variant<CompareTerm, IndexTerm, InTerm, NullTerm, Junction> node;
+};

@@ -1,0 +1,175 @@
+#include "grid/filter/ConditionParser.h"
+
+#include <utility>
+
+namespace {
+
+/// Deeper nesting is nobody's condition and would use up the stack.
+constexpr int deepestNesting = 500;
+
+Condition joined(bool isAnd, std::vector<Condition> operands)
+{
+    if (operands.size() == 1) {
+        return std::move(operands.front());
+    }
+    return {Junction{isAnd, std::move(operands)}};
+}
+
+}  // namespace
+
+ParsedCondition ConditionParser::parse(TokenStream& tokens)
+{
+    ConditionParser parser(tokens);
+    Condition tree = parser.orCondition();
+    return {parser.m_writer.text(), parser.m_hasOuterOr, std::move(tree)};
+}
+
+ParsedCondition ConditionParser::parseAll(QStringView text)
+{
+    TokenStream tokens(text, Dialect::FilterText);
+    ParsedCondition condition = parse(tokens);
+    if (!tokens.nextIs(TokenKind::End)) {
+        throw ParseError("unexpected trailing text");
+    }
+    return condition;
+}
+
+Condition ConditionParser::orCondition()
+{
+    std::vector<Condition> operands;
+    operands.push_back(andCondition());
+    while (takeJunction(TokenKind::Bar, u"or")) {
+        m_hasOuterOr = m_hasOuterOr || m_depth == 0;
+        operands.push_back(andCondition());
+    }
+    return joined(false, std::move(operands));
+}
+
+Condition ConditionParser::andCondition()
+{
+    std::vector<Condition> operands;
+    operands.push_back(primary());
+    while (takeJunction(TokenKind::Ampersand, u"and")) {
+        operands.push_back(primary());
+    }
+    return joined(true, std::move(operands));
+}
+
+Condition ConditionParser::primary()
+{
+    if (!m_tokens.nextIs(TokenKind::LeftParenthesis)) {
+        return comparison();
+    }
+    if (m_depth == deepestNesting) {
+        throw ParseError("too many parentheses");
+    }
+    m_writer.add(m_tokens.take());
+    ++m_depth;
+    Condition inner = orCondition();
+    copy(TokenKind::RightParenthesis, "expect ')'");
+    --m_depth;
+    return inner;
+}
+
+Condition ConditionParser::comparison()
+{
+    const QString name = copy(TokenKind::Identifier, "expect variable name or a function").text;
+    if (compareop::sameWord(name, u"index") && m_tokens.nextIs(TokenKind::LeftParenthesis)) {
+        return indexComparison();
+    }
+    if (m_tokens.nextIsWord(u"in")) {
+        return inList(name, false);
+    }
+    if (m_tokens.nextIsWord(u"not")) {
+        m_writer.add(m_tokens.take());
+        if (!m_tokens.nextIsWord(u"in")) {
+            throw ParseError("expect operator");
+        }
+        return inList(name, true);
+    }
+    if (m_tokens.nextIsWord(u"is") || m_tokens.nextIsWord(u"isnull")
+        || m_tokens.nextIsWord(u"isnotnull")) {
+        return nullTest(name);
+    }
+    const CompareOp op = compareOperator();
+    return {CompareTerm{name, op, value()}};
+}
+
+Condition ConditionParser::indexComparison()
+{
+    m_tokens.take();
+    m_writer.addCall();
+    const QString name = copy(TokenKind::Identifier, "expect variable name").text;
+    copy(TokenKind::Comma, "expect ','");
+    const Literal needle = copy(TokenKind::String, "expect string literal");
+    copy(TokenKind::RightParenthesis, "expect ')'");
+    const CompareOp op = compareOperator();
+    return {IndexTerm{name, needle, op, value()}};
+}
+
+Condition ConditionParser::inList(const QString& variable, bool negated)
+{
+    m_writer.add(m_tokens.take());
+    copy(TokenKind::LeftParenthesis, "expect '(' after in");
+    InTerm term{variable, negated, {}};
+    term.values.push_back(value());
+    while (m_tokens.nextIs(TokenKind::Comma)) {
+        m_writer.add(m_tokens.take());
+        term.values.push_back(value());
+    }
+    copy(TokenKind::RightParenthesis, "expect ')'");
+    return {std::move(term)};
+}
+
+Condition ConditionParser::nullTest(const QString& variable)
+{
+    const Token word = m_tokens.take();
+    m_writer.add(word);
+    bool negated = compareop::sameWord(word.text, u"isnotnull");
+    if (compareop::sameWord(word.text, u"is")) {
+        if (m_tokens.nextIsWord(u"not")) {
+            m_writer.add(m_tokens.take());
+            negated = true;
+        }
+        m_writer.add(m_tokens.takeWord(u"null", "expect null"));
+    }
+    return {NullTerm{variable, negated}};
+}
+
+CompareOp ConditionParser::compareOperator()
+{
+    // The word operators arrive as identifiers.
+    const bool mayBe =
+        m_tokens.nextIs(TokenKind::Operator) || m_tokens.nextIs(TokenKind::Identifier);
+    const auto op = mayBe ? compareop::fromText(m_tokens.next().text) : std::nullopt;
+    if (!op) {
+        throw ParseError("expect operator");
+    }
+    m_writer.add(m_tokens.take());
+    return *op;
+}
+
+Literal ConditionParser::value()
+{
+    const TokenKind kind =
+        m_tokens.nextIs(TokenKind::String) ? TokenKind::String : TokenKind::Number;
+    return copy(kind, "expect value");
+}
+
+/// Takes a token of this kind and writes it as it stands.
+Literal ConditionParser::copy(TokenKind kind, const char* message)
+{
+    const Token token = m_tokens.take(kind, message);
+    m_writer.add(token);
+    return {token.kind, token.text.toString()};
+}
+
+bool ConditionParser::takeJunction(TokenKind symbol, QStringView word)
+{
+    if (!m_tokens.nextIs(symbol) && !m_tokens.nextIsWord(word)) {
+        return false;
+    }
+    m_tokens.take();
+    m_writer.addWord(word);
+    return true;
+}

@@ -1,0 +1,79 @@
+#include "grid/filter/LiteralValue.h"
+
+#include "grid/filter/DateLiteral.h"
+
+#include <fmt/format.h>
+
+#include <charconv>
+#include <optional>
+#include <string_view>
+
+namespace {
+
+using Kind = LiteralValue::Kind;
+
+Result<LiteralValue> numberOf(const std::string& text)
+{
+    if (text == ".") {
+        return LiteralValue{Kind::Missing, 0, {}};
+    }
+    LiteralValue value{Kind::Number, 0, {}};
+    const char* first = text.data() + (text.starts_with('+') ? 1 : 0);
+    const auto [end, error] = std::from_chars(first, text.data() + text.size(), value.number);
+    if (error != std::errc() || end != text.data() + text.size()) {
+        return Failure{fmt::format("The number {} is out of range", text)};
+    }
+    return value;
+}
+
+Result<LiteralValue> dateOrTime(Kind kind, const std::string& literal, std::string_view content)
+{
+    std::optional<double> number;
+    const char* meaning = "";
+    switch (kind) {
+    case Kind::Date:
+        number = dateliteral::parseDate(content);
+        meaning = "date";
+        break;
+    case Kind::Time:
+        number = dateliteral::parseTime(content);
+        meaning = "time";
+        break;
+    default:
+        number = dateliteral::parseDateTime(content);
+        meaning = "date-time";
+        break;
+    }
+    if (!number) {
+        return Failure{fmt::format("{} is not a valid {}", literal, meaning)};
+    }
+    return LiteralValue{kind, *number, {}};
+}
+
+Kind kindOfSuffix(QStringView suffix)
+{
+    if (suffix.isEmpty()) {
+        return Kind::Text;
+    }
+    if (suffix.size() == 2) {
+        return Kind::DateTime;
+    }
+    return compareop::sameWord(suffix, u"d") ? Kind::Date : Kind::Time;
+}
+
+}  // namespace
+
+Result<LiteralValue> valueOf(const Literal& literal)
+{
+    std::string text = literal.text.toStdString();
+    if (literal.kind == TokenKind::Number) {
+        return numberOf(text);
+    }
+    const qsizetype quote = literal.text.lastIndexOf(literal.text.front());
+    const Kind kind = kindOfSuffix(QStringView(literal.text).sliced(quote + 1));
+    std::string content = literal.text.mid(1, quote - 1).toStdString();
+    if (kind == Kind::Text) {
+        return LiteralValue{kind, 0, std::move(content)};
+    }
+    return dateOrTime(kind, text, content);
+}

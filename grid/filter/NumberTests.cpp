@@ -1,0 +1,92 @@
+#include "grid/filter/NumberTests.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace numbertests {
+
+namespace {
+
+/// @tparam Holds  asked with each number, NaN for all missing ones
+template <MissingMark mark, typename Holds>
+class NumberTest : public RowTest
+{
+public:
+    NumberTest(const CellColumn& cells, Holds holds)
+        : m_cells(cells)
+        , m_holds(std::move(holds))
+    { }
+
+    [[nodiscard]] std::uint64_t word(std::size_t first, unsigned count) const override
+    {
+        return m_cells.word(first, count, [this](const CellValue& cell) {
+            const double number = cells::number(cell);
+            if constexpr (mark != MissingMark::NanOnly) {
+                if (missingnumbers::isMissing(number, mark)) {
+                    return m_holds(std::numeric_limits<double>::quiet_NaN());
+                }
+            }
+            return m_holds(number);
+        });
+    }
+
+private:
+    CellColumn m_cells;
+    Holds m_holds;
+};
+
+template <typename Holds>
+RowTestPointer make(const NumberColumn& column, Holds holds)
+{
+    switch (column.mark) {
+    case MissingMark::MinusInfinity:
+        return std::make_unique<NumberTest<MissingMark::MinusInfinity, Holds>>(column.cells, holds);
+    case MissingMark::SmallestInteger:
+        return std::make_unique<NumberTest<MissingMark::SmallestInteger, Holds>>(column.cells,
+                                                                                 holds);
+    case MissingMark::NanOnly:
+        break;
+    }
+    return std::make_unique<NumberTest<MissingMark::NanOnly, Holds>>(column.cells, holds);
+}
+
+}  // namespace
+
+RowTestPointer isMissing(const NumberColumn& column)
+{
+    return make(column, [](double number) { return std::isnan(number); });
+}
+
+RowTestPointer compare(const NumberColumn& column, CompareOp op, double number)
+{
+    // NaN is less than the number here: "less" is the opposite of "greater or equal", which NaN
+    // never is.
+    switch (op) {
+    case CompareOp::Equal:
+        return make(column, [number](double value) { return value == number; });
+    case CompareOp::NotEqual:
+        return make(column, [number](double value) { return value != number; });
+    case CompareOp::Less:
+        return make(column, [number](double value) { return !(value >= number); });
+    case CompareOp::LessOrEqual:
+        return make(column, [number](double value) { return !(value > number); });
+    case CompareOp::Greater:
+        return make(column, [number](double value) { return value > number; });
+    case CompareOp::GreaterOrEqual:
+        return make(column, [number](double value) { return value >= number; });
+    case CompareOp::Contains:
+        break;
+    }
+    return rowtests::constant(false);
+}
+
+RowTestPointer isOneOf(const NumberColumn& column, std::vector<double> numbers)
+{
+    std::sort(numbers.begin(), numbers.end());
+    return make(column, [numbers = std::move(numbers)](double value) {
+        // NaN would be found everywhere, as it is not less than anything.
+        return !std::isnan(value) && std::binary_search(numbers.begin(), numbers.end(), value);
+    });
+}
+
+}  // namespace numbertests

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <stdexcept>
+
+/// The user's command text is wrong; what() says why, in one of the fixed English messages.
+class ParseError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};

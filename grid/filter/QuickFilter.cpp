@@ -1,0 +1,204 @@
+#include "grid/filter/QuickFilter.h"
+
+#include "data/NumberText.h"
+#include "data/Texts.h"
+#include "grid/filter/DateLiteral.h"
+#include "grid/filter/DateScale.h"
+#include "grid/filter/Lexer.h"
+#include "grid/filter/MissingNumbers.h"
+#include "grid/filter/ParseError.h"
+#include "grid/filter/TextTests.h"
+
+#include <fmt/format.h>
+
+#include <QStringList>
+
+#include <cmath>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Kind = LiteralValue::Kind;
+
+bool isIdentifier(QStringView name)
+{
+    try {
+        const Token token = Lexer(name).next();
+        return token.kind == TokenKind::Identifier && token.text.size() == name.size();
+    } catch (const ParseError&) {
+        return false;
+    }
+}
+
+bool isBlank(const QuickFilter::Value& value)
+{
+    const auto* text = std::get_if<std::string>(&value);
+    return text != nullptr && texttests::withoutTrailingBlanks(*text).empty();
+}
+
+Result<QString> quoted(std::string_view text)
+{
+    text = texttests::withoutTrailingBlanks(text);
+    const bool hasDouble = text.find('"') != std::string_view::npos;
+    if (hasDouble && text.find('\'') != std::string_view::npos) {
+        return Failure{fmt::format(
+            "A text with both kinds of quotes cannot be written in a filter: {}", text)};
+    }
+    if (!texts::isUtf8(text)) {
+        return Failure{"A text with invalid characters cannot be written in a filter"};
+    }
+    const QChar quote = hasDouble ? u'\'' : u'"';
+    return quote + QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())) + quote;
+}
+
+struct DateText
+{
+    std::string text;
+    const char* suffix;
+};
+
+/// A SAS count as the content of a literal and its suffix.
+std::optional<DateText> dateText(Kind content, double count)
+{
+    std::optional<std::string> text;
+    const char* suffix = "";
+    switch (content) {
+    case Kind::Date:
+        text = dateliteral::formatDate(count);
+        suffix = "d";
+        break;
+    case Kind::Time:
+        text = dateliteral::formatTime(count);
+        suffix = "t";
+        break;
+    case Kind::DateTime:
+        text = dateliteral::formatDateTime(count);
+        suffix = "dt";
+        break;
+    default:
+        break;
+    }
+    return text ? std::optional(DateText{*text, suffix}) : std::nullopt;
+}
+
+/// The literal of a date or time; nothing when no literal reads back to the same number.
+std::optional<QString> dateLiteral(const DateScale& scale, double stored)
+{
+    const auto written = dateText(scale.content(), scale.sasCount(stored));
+    if (!written) {
+        return std::nullopt;
+    }
+    const QString text =
+        QString::fromStdString(fmt::format("\"{}\"{}", written->text, written->suffix));
+    const Result<LiteralValue> read = valueOf({TokenKind::String, text});
+    const bool isSame = read && scale.storedCount(read.value()) == stored;
+    return isSame ? std::optional(text) : std::nullopt;
+}
+
+}  // namespace
+
+QuickFilter::Value QuickFilter::valueAt(int observation) const
+{
+    if (m_dataset.isNumeric(m_variable)) {
+        return m_dataset.numericValue(observation, m_variable);
+    }
+    return m_dataset.stringValue(observation, m_variable);
+}
+
+Result<QString> QuickFilter::compare(CompareOp op, const Value& value) const
+{
+    if (op == CompareOp::Contains) {
+        return contains(value);
+    }
+    const Result<QString> variable = name();
+    if (!variable) {
+        return variable;
+    }
+    if (isBlank(value) && op == CompareOp::Equal) {
+        return variable.value() + u" is null"_s;
+    }
+    if (isBlank(value) && op == CompareOp::NotEqual) {
+        return variable.value() + u" is not null"_s;
+    }
+    const Result<QString> written = literal(value);
+    if (!written) {
+        return written;
+    }
+    return variable.value() + u' ' + compareop::textOf(op).toString() + u' ' + written.value();
+}
+
+Result<QString> QuickFilter::isIn(std::span<const Value> values) const
+{
+    const Result<QString> variable = name();
+    if (!variable) {
+        return variable;
+    }
+    QStringList list;
+    for (const Value& value : values) {
+        const Result<QString> written = literal(value);
+        if (!written) {
+            return written;
+        }
+        list << written.value();
+    }
+    if (list.isEmpty()) {
+        return Failure{"There is no value to filter by"};
+    }
+    list.removeDuplicates();
+    return variable.value() + u" in ("_s + list.join(u", ") + u')';
+}
+
+Result<QString> QuickFilter::contains(const Value& value) const
+{
+    const Result<QString> variable = name();
+    if (!variable) {
+        return variable;
+    }
+    if (isBlank(value)) {
+        return compare(CompareOp::Equal, value);
+    }
+    const auto* text = std::get_if<std::string>(&value);
+    if (text == nullptr) {
+        return Failure{
+            fmt::format("{} holds numbers, which contain no text", variable.value().toStdString())};
+    }
+    const Result<QString> written = quoted(*text);
+    if (!written) {
+        return written;
+    }
+    return u"index("_s + variable.value() + u", "_s + written.value() + u") > 0"_s;
+}
+
+Result<QString> QuickFilter::name() const
+{
+    const std::string& name = m_dataset.names()[static_cast<std::size_t>(m_variable)];
+    const QString text = QString::fromStdString(name);
+    if (!isIdentifier(text)) {
+        return Failure{fmt::format(
+            "The variable {} cannot be filtered: its name is more than letters, digits and _",
+            name)};
+    }
+    return text;
+}
+
+Result<QString> QuickFilter::literal(const Value& value) const
+{
+    const auto* text = std::get_if<std::string>(&value);
+    return text == nullptr ? number(std::get<double>(value)) : quoted(*text);
+}
+
+Result<QString> QuickFilter::number(double value) const
+{
+    if (missingnumbers::isMissing(value, missingnumbers::markOf(m_dataset, m_variable))) {
+        return QString(u'.');
+    }
+    if (std::isinf(value)) {
+        return Failure{"An infinite number cannot be written in a filter"};
+    }
+    if (const auto date = dateLiteral(DateScale::of(m_dataset, m_variable), value)) {
+        return *date;
+    }
+    return QString::fromStdString(numbertext::shortest(value));
+}
