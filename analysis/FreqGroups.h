@@ -45,7 +45,8 @@ public:
 private:
     using Numbers = std::vector<std::uint32_t>;
 
-    /// The codes of each group's values, one for each variable, group after group.
+    // `codes` and `ranks` hold those of each group's values, one for each variable, group after
+    // group.
     void groupBy(const FreqColumn& column, Numbers& codes);
     void refineBy(const FreqColumn& column, Numbers& codes);
     void rank(Numbers& codes) const;

@@ -16,7 +16,8 @@ FileReader::~FileReader()
 
 bool FileReader::open(const std::string& path)
 {
-    m_handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    // Without blocking: to open a pipe would wait for its other end.
+    m_handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     struct stat status
     { };
     if (m_handle < 0 || fstat(m_handle, &status) != 0) {

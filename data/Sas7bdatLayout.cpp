@@ -170,7 +170,8 @@ void LayoutReader::readHeaderTexts(const ByteView& header, std::size_t a1, std::
 }
 
 /// The library refuses encodings that it does not know, though its text conversion is off anyway,
-/// and releases of another form than "9.0401M3".
+/// and releases of another form than "9.0401M3". It takes the release for a text that ends in a NUL
+/// somewhere behind it, so the host, which it does not use, is shown as one.
 void LayoutReader::repairForLibrary(const ByteView& header, std::size_t a1, std::size_t a2)
 {
     if (!libraryKnows(m_layout.encodingCode)) {
@@ -186,6 +187,7 @@ void LayoutReader::repairForLibrary(const ByteView& header, std::size_t a1, std:
     if (!fits) {
         replace(static_cast<std::int64_t>(216 + a1 + a2), "9.0401M0");
     }
+    replace(static_cast<std::int64_t>(224 + a1 + a2), std::string(1, '\0'));
 }
 
 void LayoutReader::replace(std::int64_t offset, std::string_view bytes)

@@ -224,6 +224,18 @@ TEST(FilterCondition, knowsTheMissingValuesOfBuiltDatasets)
     EXPECT_EQ(selected(*dataset, "index(T, 'x') = 0"), (Rows{1, 2}));
 }
 
+TEST(FilterCondition, findsBlankTextsByLongLists)
+{
+    InMemoryDatasetBuilder builder;
+    builder.addVariable({.name = "T", .type = TypeCode::Character}).addNullText();
+    for (const char* text : {"", "a", "b", "c", "d", "e", "f"}) {
+        builder.addText(text);
+    }
+    const auto dataset = builder.build();
+    EXPECT_EQ(selected(*dataset, "T in ('a', 'b', 'c', 'd', 'e')"), (Rows{3, 4, 5, 6, 7}));
+    EXPECT_EQ(selected(*dataset, "T in ('a', 'b', ' ', 'd', 'e')"), (Rows{1, 2, 3, 4, 6, 7}));
+}
+
 TEST(FilterCondition, takesAnInfinityOfOtherDatasetsForANumber)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();

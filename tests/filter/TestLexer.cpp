@@ -55,6 +55,7 @@ const std::vector<Case> commands{
     {"Comparison", u"age>60", "0:age 3:> 2:60"},
     {"IdentifierWithDigits", u"_x9 a_B", "0:_x9 0:a_B"},
     {"OtherAlphabets", u"größe Ж1", "0:größe 0:Ж1"},
+    {"AccentOfItsOwn", u"e\u0301t=1", "0:e\u0301t 3:= 2:1"},
     {"LetterBeyondBmp", u"\U0001D4B3x=1", "0:\U0001D4B3x 3:= 2:1"},
     {"TwoPoints", u"1.2.3", "2:1.2 2:.3"},
     {"PointAlone", u". 5.", "2:. 2:5."},

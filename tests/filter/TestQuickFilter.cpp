@@ -4,6 +4,7 @@
 
 #include <bit>
 #include <cmath>
+#include <ostream>
 #include <random>
 
 namespace {
@@ -190,9 +191,15 @@ bool sameText(std::string a, std::string b)
 
 struct Format
 {
+    const char* test;
     SourceKind kind;
     const char* name;
 };
+
+std::ostream& operator<<(std::ostream& stream, const Format& format)
+{
+    return stream << format.name;
+}
 
 class QuickFilterOfRandomValues : public testing::TestWithParam<Format>
 { };
@@ -242,11 +249,17 @@ TEST_P(QuickFilterOfRandomValues, selectsExactlyTheRowsWithThatValue)
     EXPECT_EQ(literals > 20, hasDates) << literals << " of the values are dates";
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Formats, QuickFilterOfRandomValues,
-    testing::Values(Format{SourceKind::Sas, "BEST"}, Format{SourceKind::Sas, "DATE"},
-                    Format{SourceKind::Sas, "DATETIME"}, Format{SourceKind::Sas, "TIME"},
-                    Format{SourceKind::Spss, "DATETIME"}, Format{SourceKind::R, "%d%b%Y"},
-                    Format{SourceKind::Stata, "%td"}));
+const std::vector<Format> formats{
+    {"Number", SourceKind::Sas, "BEST"},
+    {"SasDate", SourceKind::Sas, "DATE"},
+    {"SasDateTime", SourceKind::Sas, "DATETIME"},
+    {"SasTime", SourceKind::Sas, "TIME"},
+    {"SpssDateTime", SourceKind::Spss, "DATETIME"},
+    {"RDate", SourceKind::R, "%d%b%Y"},
+    {"StataDate", SourceKind::Stata, "%td"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Formats, QuickFilterOfRandomValues, testing::ValuesIn(formats),
+                         [](const auto& row) { return row.param.test; });
 
 }  // namespace
