@@ -2,7 +2,7 @@
 
 #include "data/ByteView.h"
 
-#include <limits>
+#include <memory>
 
 namespace {
 
@@ -23,15 +23,14 @@ class Glance
 public:
     Glance(ParserInput& input, const char* path)
     {
-        readstat_parser_t* parser = readstat_parser_init();
+        const std::unique_ptr<readstat_parser_t, decltype(&readstat_parser_free)> parser(
+            readstat_parser_init(), readstat_parser_free);
         if (parser != nullptr) {
-            readstat_set_metadata_handler(parser, onMetadata);
-            readstat_set_variable_handler(parser, onVariable);
-            readstat_set_handler_character_encoding(parser, nullptr);
-            readstat_set_row_limit(parser, 1);
-            input.attachTo(parser);
-            readstat_parse_sav(parser, path, this);
-            readstat_parser_free(parser);
+            readstat_set_metadata_handler(parser.get(), onMetadata);
+            readstat_set_variable_handler(parser.get(), onVariable);
+            readstat_set_handler_character_encoding(parser.get(), nullptr);
+            input.attachTo(parser.get());
+            readstat_parse_sav(parser.get(), path, this);
         }
     }
     [[nodiscard]] bool needsOtherName() const { return m_isUtf8 && m_hasVeryLongTexts; }
@@ -86,7 +85,7 @@ readstat_error_t SavDoc::parse(readstat_parser_t* parser, const char* path)
     // Of UTF-8 texts the library drops NUL bytes, and where the first part of a very long text
     // holds nothing else, it writes in front of its buffer. It knows UTF-8 by this one spelling
     // only.
-    if (m_valuesWanted && Glance(*m_input, path).needsOtherName()) {
+    if (Glance(*m_input, path).needsOtherName()) {
         m_isRenamedUtf8 = true;
         readstat_set_file_character_encoding(parser, "utf-8");
     }
