@@ -3,6 +3,7 @@
 #include "app/DatasetWindow.h"
 #include "app/Settings.h"
 #include "app/UserPrompts.h"
+#include "grid/MainTableView.h"
 #include "grid/WaitCursor.h"
 
 #include <QDir>
@@ -75,7 +76,7 @@ bool DatasetOpener::load(const DatasetOrigin& origin)
         Result<OpenedDataset> loaded = m_surroundings.load(origin.filePath, OpenOptions());
         if (loaded) {
             show(std::make_unique<DatasetWindow>(std::move(loaded.value().dataset), origin,
-                                                 &m_surroundings.mainWindow));
+                                                 m_surroundings.gridHost));
             return true;
         }
         reason = QString::fromStdString(loaded.error());
@@ -93,6 +94,7 @@ void DatasetOpener::show(std::unique_ptr<DatasetWindow> window)
     m_openFiles.add(opened->fileKey(), opened);
     opened->show();
     activate(opened);
+    opened->view()->setFocus();
 }
 
 void DatasetOpener::forget(DatasetWindow* window)

@@ -10,8 +10,8 @@
 #include <memory>
 
 class DatasetWindow;
+class GridHost;
 class QMdiArea;
-class QWidget;
 class Settings;
 class UserPrompts;
 struct DatasetOrigin;
@@ -29,7 +29,7 @@ public:
     struct Surroundings
     {
         QMdiArea& area;
-        QWidget& mainWindow;
+        GridHost& gridHost;
         UserPrompts& prompts;
         Settings& settings;
         DatasetLoader load;

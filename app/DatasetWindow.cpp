@@ -21,14 +21,14 @@ QString titleOf(const DatasetOrigin& origin)
 }  // namespace
 
 DatasetWindow::DatasetWindow(std::unique_ptr<StatDataset> dataset, const DatasetOrigin& origin,
-                             QWidget* mainWindow)
+                             GridHost& gridHost)
     : m_dataset(std::move(dataset))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setProperty("filePath", origin.filePath);
     setProperty("fileKey", origin.fileKey);
     setProperty("fileTimestamp", origin.fileTimestamp);
-    createGrid(mainWindow);
+    createGrid(gridHost);
     setWindowTitle(titleOf(origin));
     dropSystemMenuShortcuts();
 }
@@ -39,9 +39,9 @@ DatasetWindow::~DatasetWindow()
     delete m_view;
 }
 
-void DatasetWindow::createGrid(QWidget* mainWindow)
+void DatasetWindow::createGrid(GridHost& host)
 {
-    m_view = new MainTableView(m_dataset.get(), mainWindow, this);
+    m_view = new MainTableView(m_dataset.get(), &host, this);
     m_view->setModel(new MainTableModel(m_dataset.get(), m_view));
     m_view->setSortingEnabled(true);
     m_view->sortByColumn(-1, Qt::AscendingOrder);

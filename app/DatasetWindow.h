@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class GridHost;
 class MainTableModel;
 class MainTableView;
 class StatDataset;
@@ -25,9 +26,9 @@ class DatasetWindow : public QMdiSubWindow
     Q_OBJECT
 
 public:
-    /// @param mainWindow  passed on to the grid
+    /// @param gridHost  passed on to the grid; outlives the window
     DatasetWindow(std::unique_ptr<StatDataset> dataset, const DatasetOrigin& origin,
-                  QWidget* mainWindow);
+                  GridHost& gridHost);
     ~DatasetWindow() override;
 
     [[nodiscard]] MainTableView* view() const { return m_view; }
@@ -42,7 +43,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void createGrid(QWidget* mainWindow);
+    void createGrid(GridHost& host);
     void dropSystemMenuShortcuts();
 
     std::unique_ptr<StatDataset> m_dataset;

@@ -13,6 +13,7 @@ public:
 
     [[nodiscard]] bool confirm(const QString& title, const QString& question) override;
     void warn(const QString& title, const QString& text, const QString& reason) override;
+    void inform(const QString& title, const QString& text) override;
     [[nodiscard]] QStringList chooseFiles(const QString& title, const QString& folder,
                                           const QString& filters) override;
 

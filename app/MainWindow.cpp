@@ -2,6 +2,8 @@
 
 #include "app/DatasetWindow.h"
 #include "app/DialogPrompts.h"
+#include "app/FilterBar.h"
+#include "app/GridServices.h"
 #include "app/MainMenus.h"
 #include "app/Settings.h"
 #include "app/StatusCounters.h"
@@ -27,18 +29,18 @@ MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
     DatasetLoader load = std::move(services.load);
     createServices(std::move(services));
     createMdiArea();
-    createOpener(std::move(load));
     createStatusBar();
+    createOpener(std::move(load));
+    createFilterBar();
     createMenus();
 }
 
 MainWindow::~MainWindow()
 {
-    // The sub-windows would outlive the members that hear of their end.
+    // The sub-windows, those that are closed and about to go included, would outlive the members
+    // that hear of their end and serve them.
     disconnect(m_mdiArea, nullptr, this, nullptr);
-    for (QMdiSubWindow* window : m_mdiArea->subWindowList()) {
-        delete window;
-    }
+    delete m_mdiArea;
 }
 
 void MainWindow::createServices(MainWindowServices services)
@@ -76,7 +78,7 @@ void MainWindow::createMdiArea()
 void MainWindow::createOpener(DatasetLoader load)
 {
     m_opener = new DatasetOpener(
-        DatasetOpener::Surroundings{*m_mdiArea, *this, *m_prompts, *m_settings,
+        DatasetOpener::Surroundings{*m_mdiArea, *m_gridServices, *m_prompts, *m_settings,
                                     load ? std::move(load) : DatasetLoader(&openDataset)},
         this);
     connect(m_opener, &DatasetOpener::signalOpened, this, &MainWindow::connectWindow);
@@ -86,6 +88,15 @@ void MainWindow::createStatusBar()
 {
     statusBar()->setObjectName(QStringLiteral("statusbar"));
     m_counters = std::make_unique<StatusCounters>(statusBar());
+    m_gridServices = std::make_unique<GridServices>(*m_prompts, *statusBar());
+}
+
+void MainWindow::createFilterBar()
+{
+    m_filterBar = new FilterBar(this);
+    addToolBar(m_filterBar);
+    connect(m_filterBar, &FilterBar::signalSubmitted, this, &MainWindow::submitCommand);
+    connect(m_filterBar, &FilterBar::signalLeft, this, &MainWindow::focusGrid);
 }
 
 void MainWindow::createMenus()
@@ -113,6 +124,9 @@ void MainWindow::connectGrid(MainTableView* view)
 {
     connect(view, &MainTableView::signalObsNo, this, &MainWindow::setLabelStatusBarRow);
     connect(view, &MainTableView::signalVarNo, this, &MainWindow::setLabelStatusBarVar);
+    connect(view, &MainTableView::signalAddByVar, this, &MainWindow::setLabelStatusBarBy);
+    connect(view, &MainTableView::signalLibraryFilter, this, &MainWindow::setLabelStatusBarLf);
+    connect(view, &MainTableView::signalFilter, this, &MainWindow::setLabelStatusBarDf);
 }
 
 bool MainWindow::openDatasetFile(const QString& path)
@@ -139,6 +153,8 @@ void MainWindow::activeWindow(QMdiSubWindow* window)
     m_activeView = active->view();
     connectGrid(m_activeView);
     m_activeView->publishCounters();
+    m_activeView->publishFilters();
+    setLabelStatusBarBy();
 }
 
 void MainWindow::subWindowClosed(DatasetWindow* closedWindow)
@@ -150,6 +166,7 @@ void MainWindow::subWindowClosed(DatasetWindow* closedWindow)
     }
     if (openFiles().isEmpty()) {
         m_counters->showNothingOpen();
+        m_filterBar->setText(QString());
     }
 }
 
@@ -161,6 +178,41 @@ void MainWindow::setLabelStatusBarRow(const QString& text)
 void MainWindow::setLabelStatusBarVar(const QString& text)
 {
     m_counters->setVariables(text);
+}
+
+void MainWindow::setLabelStatusBarBy()
+{
+    if (m_activeView != nullptr) {
+        m_counters->setByVariables(m_activeView->byVariables());
+    }
+}
+
+void MainWindow::setLabelStatusBarLf(const QString& filter)
+{
+    if (m_activeView != nullptr) {
+        m_counters->setLibraryFilter(filter, m_activeView->libraryFilterProblem());
+    }
+}
+
+void MainWindow::setLabelStatusBarDf(const QString& filter)
+{
+    m_counters->setDatasetFilter(filter);
+    m_filterBar->setText(filter);
+}
+
+void MainWindow::submitCommand(const QString& command)
+{
+    if (m_activeView != nullptr && m_gridServices->runCommand(*m_activeView, command)) {
+        m_filterBar->remember(command);
+        m_filterBar->setText(m_activeView->datasetFilterText());
+    }
+}
+
+void MainWindow::focusGrid()
+{
+    if (m_activeView != nullptr) {
+        m_activeView->setFocus();
+    }
 }
 
 void MainWindow::on_actionOpenSasData_triggered()

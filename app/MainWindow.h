@@ -8,6 +8,8 @@
 #include <memory>
 
 class DatasetWindow;
+class FilterBar;
+class GridServices;
 class MainMenus;
 class MainTableView;
 class QMdiArea;
@@ -55,21 +57,29 @@ public slots:  // NOLINT(readability-redundant-access-specifiers): moc reads it
     void subWindowClosed(DatasetWindow* closedWindow);
     void setLabelStatusBarRow(const QString& text);
     void setLabelStatusBarVar(const QString& text);
+    void setLabelStatusBarBy();
+    void setLabelStatusBarLf(const QString& filter);
+    void setLabelStatusBarDf(const QString& filter);
 
 private:
     void createServices(MainWindowServices services);
     void createMdiArea();
     void createStatusBar();
+    void createFilterBar();
     void createMenus();
     void createOpener(DatasetLoader load);
     void connectWindow(DatasetWindow* window);
     void connectGrid(MainTableView* view);
+    void submitCommand(const QString& command);
+    void focusGrid();
 
     std::unique_ptr<QSettings> m_store;
     std::unique_ptr<Settings> m_settings;
     std::unique_ptr<UserPrompts> m_prompts;
     std::unique_ptr<MainMenus> m_menus;
     std::unique_ptr<StatusCounters> m_counters;
+    std::unique_ptr<GridServices> m_gridServices;
+    FilterBar* m_filterBar = nullptr;
     QMdiArea* m_mdiArea = nullptr;
     DatasetOpener* m_opener = nullptr;
     QPointer<MainTableView> m_activeView;

@@ -2,6 +2,9 @@
 
 #include <QCoreApplication>
 
+#include <string>
+#include <vector>
+
 class QLabel;
 class QStatusBar;
 class QString;
@@ -17,10 +20,18 @@ public:
 
     void setRows(const QString& text);
     void setVariables(const QString& text);
+    void setByVariables(const std::vector<std::string>& names);
+    /// @param filter   empty when none is in force
+    /// @param problem  why it does not filter the active dataset; empty if it does
+    void setLibraryFilter(const QString& filter, const QString& problem);
+    void setDatasetFilter(const QString& filter);
     /// What the labels say when the last grid has closed.
     void showNothingOpen();
 
 private:
     QLabel* m_rows;
     QLabel* m_variables;
+    QLabel* m_by;
+    QLabel* m_libraryFilter;
+    QLabel* m_datasetFilter;
 };

@@ -14,6 +14,8 @@ public:
     /// Tells that something failed.
     /// @param reason  why, in a sentence; may be empty
     virtual void warn(const QString& title, const QString& text, const QString& reason) = 0;
+    /// Tells something that is no failure.
+    virtual void inform(const QString& title, const QString& text) = 0;
     /// Lets the user choose existing files.
     /// @param filters  patterns as Qt's file dialogs take them, separated by ";;"
     /// @return         the paths; none when the user cancels

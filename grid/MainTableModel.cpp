@@ -4,6 +4,7 @@
 
 #include <spdlog/spdlog.h>
 
+#include <algorithm>
 #include <new>
 #include <numeric>
 
@@ -81,6 +82,13 @@ void MainTableModel::setHeaderMode(HeaderMode mode)
 int MainTableModel::observationAt(int row) const
 {
     return static_cast<int>(m_rowMap[static_cast<std::size_t>(row)]);
+}
+
+int MainTableModel::rowOf(int observation) const
+{
+    const auto found =
+        std::find(m_rowMap.begin(), m_rowMap.end(), static_cast<std::uint32_t>(observation));
+    return found == m_rowMap.end() ? -1 : static_cast<int>(found - m_rowMap.begin());
 }
 
 void MainTableModel::sortRows(const SortKeys& keys)

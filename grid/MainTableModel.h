@@ -41,6 +41,8 @@ public:
 
     /// The observation that the row shows.
     [[nodiscard]] int observationAt(int row) const;
+    /// The row that shows the observation, -1 for one that does not exist. Linear in the rows.
+    [[nodiscard]] int rowOf(int observation) const;
     /// The observation of each row; holds every observation exactly once.
     [[nodiscard]] std::span<const std::uint32_t> rowMap() const { return m_rowMap; }
 

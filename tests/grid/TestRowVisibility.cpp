@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -19,13 +20,14 @@ protected:
         m_rows.reset(5);
     }
 
-    /// Updates and says what was changed: "3-" for row 3 hidden, "3+" for row 3 shown.
+    /// Updates and says what was changed: "3-" for row 3 hidden, "3+" for row 3 shown, "*" for all.
     std::string update(const std::vector<std::uint32_t>& rowMap)
     {
         std::string changes;
-        m_rows.update(m_dataset, rowMap, [&](int row, bool shown) {
-            changes += std::to_string(row) + (shown ? "+" : "-");
-        });
+        m_rows.update(
+            m_dataset, rowMap,
+            [&](int row, bool shown) { changes += std::to_string(row) + (shown ? "+" : "-"); },
+            [&] { changes += "*"; });
         return changes;
     }
 
@@ -62,6 +64,61 @@ TEST_F(RowVisibilityTest, followsObservationsToTheirNewRows)
     EXPECT_EQ(update(m_forward), "0-1-");
     EXPECT_EQ(update(m_backward), "0+1+3-4-");
     EXPECT_EQ(m_rows.shownCount(), 3U);
+}
+
+TEST_F(RowVisibilityTest, findsTheNearestShownRow)
+{
+    EXPECT_EQ(m_rows.nearestShown(4), 4);
+    m_dataset.datasetFilterMask().reset(1).reset(2).reset(4);
+    update(m_forward);
+    EXPECT_EQ(m_rows.nearestShown(0), 0);
+    EXPECT_EQ(m_rows.nearestShown(1), 0);
+    EXPECT_EQ(m_rows.nearestShown(2), 3);
+    EXPECT_EQ(m_rows.nearestShown(4), 3);
+    m_dataset.datasetFilterMask().reset(0);
+    update(m_forward);
+    EXPECT_EQ(m_rows.nearestShown(0), 3);
+    m_dataset.datasetFilterMask().reset();
+    update(m_forward);
+    EXPECT_EQ(m_rows.nearestShown(2), -1);
+}
+
+TEST(RowVisibilityOfManyRows, startsOverWhereThatTouchesFarFewerRows)
+{
+    constexpr int count = 40'000;
+    ScriptedDataset dataset;
+    dataset.variable("X", TypeCode::Double);
+    dataset.rows(count, [](int row, int) { return ScriptedDataset::Value(double(row)); });
+    std::vector<std::uint32_t> rowMap(count);
+    std::iota(rowMap.begin(), rowMap.end(), 0U);
+    RowVisibility rows;
+    rows.reset(count);
+    int touched = 0;
+    int startedOver = 0;
+    const auto update = [&] {
+        touched = 0;
+        startedOver = 0;
+        rows.update(
+            dataset, rowMap, [&](int, bool) { ++touched; }, [&] { ++startedOver; });
+    };
+
+    dataset.datasetFilterMask().reset().set(17);
+    update();
+    EXPECT_EQ(touched, count - 1);
+    EXPECT_EQ(startedOver, 0);
+
+    dataset.datasetFilterMask().set(18);
+    update();
+    EXPECT_EQ(touched, 1);
+    EXPECT_EQ(startedOver, 0);
+
+    dataset.datasetFilterMask().set().reset(5).reset(6);
+    update();
+    EXPECT_EQ(touched, 2) << "in a grid that shows all rows, only the hidden ones are news";
+    EXPECT_EQ(startedOver, 1);
+    EXPECT_EQ(rows.shownCount(), std::size_t{count - 2});
+    EXPECT_FALSE(rows.isShown(5));
+    EXPECT_TRUE(rows.isShown(7));
 }
 
 }  // namespace

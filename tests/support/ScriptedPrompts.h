@@ -29,6 +29,10 @@ public:
     {
         m_script.notes << QStringList({"warn", title, text, reason}).join('|');
     }
+    void inform(const QString& title, const QString& text) override
+    {
+        m_script.notes << QStringList({"inform", title, text}).join('|');
+    }
     [[nodiscard]] QStringList chooseFiles(const QString& title, const QString& folder,
                                           const QString& filters) override
     {

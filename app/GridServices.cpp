@@ -1,0 +1,46 @@
+#include "app/GridServices.h"
+
+#include "app/UserPrompts.h"
+#include "grid/filter/ParseError.h"
+#include "grid/MainTableView.h"
+
+#include <spdlog/spdlog.h>
+
+#include <QStatusBar>
+
+#include <new>
+
+GridServices::GridServices(UserPrompts& prompts, QStatusBar& statusBar)
+    : m_prompts(prompts)
+    , m_statusBar(statusBar)
+{ }
+
+void GridServices::reportCommandError(const QString& message, const QString& command)
+{
+    m_prompts.warn(tr("Command"), message, command);
+}
+
+void GridServices::inform(const QString& title, const QString& text)
+{
+    m_prompts.inform(title, text);
+}
+
+void GridServices::showMessage(const QString& text)
+{
+    constexpr int milliseconds = 4000;
+    spdlog::info("{}", text.toStdString());
+    m_statusBar.showMessage(text, milliseconds);
+}
+
+bool GridServices::runCommand(MainTableView& view, const QString& command)
+{
+    try {
+        view.cmdRunCommand(command);
+        return true;
+    } catch (const ParseError& error) {
+        reportCommandError(QString::fromUtf8(error.what()), command);
+    } catch (const std::bad_alloc&) {
+        reportCommandError(tr("There is not enough memory."), command);
+    }
+    return false;
+}

@@ -1,0 +1,270 @@
+#include "grid/GridTable.h"
+
+#include "data/StatDataset.h"
+#include "grid/MainTableModel.h"
+
+#include <QFontInfo>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QScopeGuard>
+#include <QSignalBlocker>
+#include <QStyle>
+
+#include <algorithm>
+
+GridTable::GridTable(StatDataset* dataset, QWidget* parent)
+    : QTableView(parent)
+    , m_dataset(dataset)
+{
+    setWordWrap(false);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setTabKeyNavigation(false);
+    // Nothing is typed into the cells, and an input method would keep the accent keys to itself,
+    // some of which are commands.
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    setUpColumnHeader();
+    setUpRowHeader(*verticalHeader());
+}
+
+void GridTable::setUpColumnHeader()
+{
+    QHeaderView* columnHeader = horizontalHeader();
+    columnHeader->setHighlightSections(false);
+    columnHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    columnHeader->setSectionsClickable(true);
+    columnHeader->setMinimumSectionSize(24);
+}
+
+/// One height for all rows: measuring a million of them, or only asking for it, is out of question.
+void GridTable::setUpRowHeader(QHeaderView& header) const
+{
+    const int rowHeight = fontMetrics().height() + 6;
+    header.setMinimumSectionSize(rowHeight);
+    header.setDefaultSectionSize(rowHeight);
+    header.setSectionResizeMode(QHeaderView::Fixed);
+    header.setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    header.setHighlightSections(false);
+    header.setSectionsClickable(true);
+    header.setMinimumWidth(rowHeaderWidth());
+}
+
+/// Room for the largest number, whichever rows are shown: the columns would jump from one filter to
+/// the next otherwise.
+int GridTable::rowHeaderWidth() const
+{
+    const int largest = m_dataset == nullptr ? 0 : m_dataset->observationCount();
+    return fontMetrics().horizontalAdvance(QString::number(largest) + u'0')
+        + 2 * style()->pixelMetric(QStyle::PM_HeaderMargin);
+}
+
+void GridTable::setModel(QAbstractItemModel* model)
+{
+    Q_ASSERT(m_model == nullptr);
+    QTableView::setModel(model);
+    m_model = qobject_cast<MainTableModel*>(model);
+    if (m_model == nullptr) {
+        return;
+    }
+    Q_ASSERT(m_model->dataset() == m_dataset);
+    m_columns.emplace(*this, *m_dataset);
+    m_columns->followBits();
+    m_rows.reset(m_model->rowMap().size());
+    applyRowVisibility();
+}
+
+int GridTable::shownRowCount() const
+{
+    return static_cast<int>(m_rows.shownCount());
+}
+
+std::vector<int> GridTable::hiddenVariables() const
+{
+    return m_columns ? m_columns->hidden() : std::vector<int>();
+}
+
+std::vector<int> GridTable::variableOrder() const
+{
+    return m_columns ? m_columns->order() : std::vector<int>();
+}
+
+GridSelection GridTable::selected() const
+{
+    return {selectionModel()->selection(), *m_columns, m_rows};
+}
+
+bool GridTable::isCurrentVariableShown() const
+{
+    return m_columns && m_columns->isShown(m_currentVariable);
+}
+
+void GridTable::fitColumns()
+{
+    // The header measures this many rows of every column. Never 0, which stands for all rows as
+    // long as the view is hidden; and fewer in a wide table, so that the whole stays a blink.
+    constexpr int cellsToMeasure = 10'000;
+    constexpr int widest = 400;
+    QHeaderView* columnHeader = horizontalHeader();
+    columnHeader->setResizeContentsPrecision(
+        std::clamp(cellsToMeasure / std::max(columnHeader->count(), 1), 10, 300));
+    resizeColumnsToContents();
+    for (int column = 0; column < columnHeader->count(); ++column) {
+        if (columnHeader->sectionSize(column) > widest) {
+            columnHeader->resizeSection(column, widest);
+        }
+    }
+}
+
+void GridTable::changeFontSize(int step)
+{
+    constexpr int smallestToShrink = 6;
+    QFont changed = font();
+    const int size = QFontInfo(changed).pointSize();
+    if (step < 0 && size < smallestToShrink) {
+        return;
+    }
+    changed.setPointSize(size + step);
+    setFont(changed);
+    if (isReady()) {
+        // Hidden rows would keep the height that they had.
+        const Place before = place();
+        startRowHeaderOver();
+        m_rows.reset(m_model->rowMap().size());
+        showRows(before, Scrolling::FollowCurrent);
+        fitColumns();
+    }
+}
+
+void GridTable::setHeaderMode(HeaderMode mode)
+{
+    if (isReady()) {
+        const Place before = place();
+        m_model->setHeaderMode(mode);
+        showRows(before, Scrolling::Stay);
+    }
+}
+
+void GridTable::applyRowVisibility()
+{
+    if (isReady()) {
+        showRows(place(), Scrolling::FollowCurrent);
+    }
+}
+
+void GridTable::keyboardSearch(const QString& /*search*/) { }
+
+GridTable::Place GridTable::place() const
+{
+    const QModelIndex current = currentIndex();
+    const QItemSelection& selection = selectionModel()->selection();
+    return {current.isValid() ? m_model->observationAt(current.row()) : m_lostObservation,
+            m_currentVariable, gridselection::wholeColumns(selection, m_rows),
+            !selection.isEmpty() || m_lostObservation >= 0};
+}
+
+void GridTable::showRows(const Place& place, Scrolling scrolling)
+{
+    // Every hidden row would be cut out of such a selection, at a cost that grows with the rows.
+    if (!place.wholeColumns.empty()) {
+        clearSelection();
+    }
+    hideAndShowRows();
+
+    const QModelIndex currentBefore = currentIndex();
+    const bool scrollsToCurrent = hasAutoScroll();
+    setAutoScroll(false);
+    restoreCurrent(place);
+    restoreSelection(place, currentBefore);
+    setAutoScroll(scrollsToCurrent);
+    if (scrolling == Scrolling::FollowCurrent && currentIndex().isValid()) {
+        scrollTo(currentIndex());
+    }
+}
+
+/// Hiding a row makes the view lay itself out again unless updates are off, and the header tell the
+/// view of each row unless its signals are blocked: a million rows would take minutes. What the
+/// signals would have brought about is done once at the end.
+void GridTable::hideAndShowRows()
+{
+    const bool updated = updatesEnabled();
+    setUpdatesEnabled(false);
+    const auto enableUpdates = qScopeGuard([&] { setUpdatesEnabled(updated); });
+    std::optional<QSignalBlocker> blocker(verticalHeader());
+    m_rows.update(
+        *m_dataset, m_model->rowMap(), [this](int row, bool shown) { setRowHidden(row, !shown); },
+        [&] {
+            blocker.reset();
+            startRowHeaderOver();
+            blocker.emplace(verticalHeader());
+        });
+    blocker.reset();
+    updateGeometries();
+}
+
+/// Puts a row header in the place of the old one, which shows all rows: showing a million of them
+/// one by one takes the old one ten times as long.
+void GridTable::startRowHeaderOver()
+{
+    const bool shown = !verticalHeader()->isHidden();
+    auto* header = new QHeaderView(Qt::Vertical, this);
+    setUpRowHeader(*header);
+    setVerticalHeader(header);  // which deletes the old one
+    header->setVisible(shown);
+}
+
+void GridTable::restoreCurrent(const Place& place)
+{
+    if (place.observation < 0) {
+        return;
+    }
+    const int row = m_rows.nearestShown(m_model->rowOf(place.observation));
+    m_lostObservation = row < 0 ? place.observation : -1;
+    selectionModel()->setCurrentIndex(row < 0 ? QModelIndex() : model()->index(row, place.variable),
+                                      QItemSelectionModel::NoUpdate);
+}
+
+void GridTable::restoreSelection(const Place& place, const QModelIndex& currentBefore)
+{
+    if (!place.hasSelection) {
+        return;
+    }
+    if (!place.wholeColumns.empty()) {
+        selectionModel()->select(gridselection::ofWholeColumns(*model(), place.wholeColumns),
+                                 QItemSelectionModel::ClearAndSelect);
+    } else if (currentIndex() != currentBefore || !selectionModel()->hasSelection()) {
+        clearSelection();
+        if (currentIndex().isValid()) {
+            selectionModel()->select(currentIndex(), QItemSelectionModel::Select);
+        }
+    }
+}
+
+void GridTable::makeCurrent(int variable)
+{
+    m_currentVariable = variable;
+    int row = currentIndex().row();
+    if (row < 0) {
+        row = m_rows.nearestShown(0);
+    }
+    if (row >= 0) {
+        setCurrentIndex(model()->index(row, variable));
+    }
+}
+
+void GridTable::leaveHiddenColumn()
+{
+    if (m_currentVariable < 0 || m_columns->isShown(m_currentVariable)) {
+        return;
+    }
+    const int replacement = m_columns->neighbour(m_currentVariable);
+    if (replacement >= 0) {
+        makeCurrent(replacement);
+    }
+}
+
+void GridTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (current.isValid()) {
+        m_currentVariable = current.column();
+    }
+}

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "grid/MainTableModel.h"
+#include "grid/MainTableView.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/ScriptedDataset.h"
+#include "tests/support/ScriptedGridHost.h"
+
+#include <QHeaderView>
+#include <QTest>
+
+#include <memory>
+
+/// A grid in its own window, over six observations:
+///
+///     USUBJID  S1 S2 S3 S1 S4 S2
+///     SEX      F  M  F  M     F
+///     AGE      34 51 .  34 47 51
+///     SITE     X-1 X-2 Y-1 X-1 y-1 X-2
+class GridFixture
+{
+public:
+    enum Variable
+    {
+        Usubjid,
+        Sex,
+        Age,
+        Site
+    };
+
+    GridFixture()
+    {
+        fill(dataset);
+        view = open(dataset);
+    }
+    ~GridFixture() { view.reset(); }
+    GridFixture(const GridFixture&) = delete;
+    GridFixture& operator=(const GridFixture&) = delete;
+
+    static void fill(ScriptedDataset& dataset)
+    {
+        dataset.variable("USUBJID", TypeCode::Character).variable("SEX", TypeCode::Character);
+        dataset.variable("AGE", TypeCode::Double).variable("SITE", TypeCode::Character);
+        dataset.row({"S1", "F", 34.0, "X-1"}).row({"S2", "M", 51.0, "X-2"});
+        dataset.row({"S3", "F", ScriptedDataset::missing, "Y-1"}).row({"S1", "M", 34.0, "X-1"});
+        dataset.row({"S4", "", 47.0, "y-1"}).row({"S2", "F", 51.0, "X-2"});
+    }
+
+    std::unique_ptr<MainTableView> open(ScriptedDataset& shown)
+    {
+        auto grid = std::make_unique<MainTableView>(&shown, &host);
+        grid->setModel(new MainTableModel(&shown, grid.get()));
+        return grid;
+    }
+
+    /// Makes the view able to take keys.
+    [[nodiscard]] bool activate() const
+    {
+        view->show();
+        view->setFocus();
+        return QTest::qWaitForWindowActive(view.get());
+    }
+
+    void goTo(int row, int variable) const
+    {
+        view->setCurrentIndex(view->model()->index(row, variable));
+    }
+    /// The observation of the current cell, counted from 1, and 0 without one.
+    [[nodiscard]] int currentNumber() const
+    {
+        const QModelIndex current = view->currentIndex();
+        return current.isValid() ? view->tableModel()->observationAt(current.row()) + 1 : 0;
+    }
+    /// The numbers of the rows shown, from top to bottom: "1 4".
+    [[nodiscard]] QString shown() const { return shown(*view); }
+    [[nodiscard]] static QString shown(const MainTableView& grid)
+    {
+        QStringList numbers;
+        for (int row = 0; row < grid.model()->rowCount(); ++row) {
+            if (!grid.isRowHidden(row)) {
+                numbers << grid.model()->headerData(row, Qt::Vertical).toString();
+            }
+        }
+        return numbers.join(' ');
+    }
+    /// The names of the columns shown, from left to right.
+    [[nodiscard]] QString columns() const
+    {
+        QStringList names;
+        for (int place = 0; place < view->horizontalHeader()->count(); ++place) {
+            const int variable = view->horizontalHeader()->logicalIndex(place);
+            if (!view->isColumnHidden(variable)) {
+                names << view->model()->headerData(variable, Qt::Horizontal).toString();
+            }
+        }
+        return names.join(' ');
+    }
+
+    LogCapture log;
+    ScriptedDataset dataset;
+    ScriptedGridHost host;
+    std::unique_ptr<MainTableView> view;
+};
