@@ -138,9 +138,16 @@ void filterBySelection(benchmark::State& state, StatDataset& dataset)
 
 std::unique_ptr<StatDataset> wideDataset(int columns)
 {
-    auto builder = InMemoryDataset::builder();
+    constexpr int rows = 20;
+    InMemoryDatasetBuilder builder;
     for (int column = 0; column < columns; ++column) {
-        builder.number("V" + std::to_string(column), std::vector<double>(20, column));
+        VariableDescription variable;
+        variable.name = "V" + std::to_string(column);
+        variable.type = TypeCode::Double;
+        builder.addVariable(std::move(variable));
+    }
+    for (int cell = 0; cell < rows * columns; ++cell) {
+        builder.addNumber(cell);
     }
     return builder.build();
 }

@@ -112,7 +112,7 @@ Result<QString> QuickFilter::compare(CompareOp op, const Value& value) const
     if (op == CompareOp::Contains) {
         return contains(value);
     }
-    const Result<QString> variable = name();
+    Result<QString> variable = name();
     if (!variable) {
         return variable;
     }
@@ -122,7 +122,7 @@ Result<QString> QuickFilter::compare(CompareOp op, const Value& value) const
     if (isBlank(value) && op == CompareOp::NotEqual) {
         return variable.value() + u" is not null"_s;
     }
-    const Result<QString> written = literal(value);
+    Result<QString> written = literal(value);
     if (!written) {
         return written;
     }
@@ -131,13 +131,13 @@ Result<QString> QuickFilter::compare(CompareOp op, const Value& value) const
 
 Result<QString> QuickFilter::isIn(std::span<const Value> values) const
 {
-    const Result<QString> variable = name();
+    Result<QString> variable = name();
     if (!variable) {
         return variable;
     }
     QStringList list;
     for (const Value& value : values) {
-        const Result<QString> written = literal(value);
+        Result<QString> written = literal(value);
         if (!written) {
             return written;
         }
@@ -152,7 +152,7 @@ Result<QString> QuickFilter::isIn(std::span<const Value> values) const
 
 Result<QString> QuickFilter::contains(const Value& value) const
 {
-    const Result<QString> variable = name();
+    Result<QString> variable = name();
     if (!variable) {
         return variable;
     }
@@ -164,7 +164,7 @@ Result<QString> QuickFilter::contains(const Value& value) const
         return Failure{
             fmt::format("{} holds numbers, which contain no text", variable.value().toStdString())};
     }
-    const Result<QString> written = quoted(*text);
+    Result<QString> written = quoted(*text);
     if (!written) {
         return written;
     }

@@ -19,7 +19,7 @@ public:
         if (m_size == 0) {
             return std::nullopt;
         }
-        const std::uintptr_t entry = m_entries[slotOf(record)];
+        const std::uintptr_t entry = m_entries[slotOf(addressOf(record))];
         return entry == free ? std::nullopt : std::optional((entry & truth) != 0);
     }
 
@@ -30,7 +30,8 @@ public:
         if (2 * (m_size + 1) > m_entries.size()) {
             grow();
         }
-        m_entries[slotOf(record)] = std::bit_cast<std::uintptr_t>(record) | (value ? truth : 0U);
+        const std::uintptr_t address = addressOf(record);
+        m_entries[slotOf(address)] = address | (value ? truth : 0U);
         ++m_size;
     }
 
@@ -41,10 +42,14 @@ private:
     static constexpr std::uintptr_t truth = 1;
     static_assert(alignof(PooledText) > truth, "the lowest bit of an address is taken");
 
-    /// The slot that holds the record, or the free one where it belongs.
-    [[nodiscard]] std::size_t slotOf(const PooledText* record) const
+    [[nodiscard]] static std::uintptr_t addressOf(const PooledText* record)
     {
-        const auto address = std::bit_cast<std::uintptr_t>(record);
+        return reinterpret_cast<std::uintptr_t>(record);
+    }
+
+    /// The slot that holds the record of that address, or the free one where it belongs.
+    [[nodiscard]] std::size_t slotOf(std::uintptr_t address) const
+    {
         std::size_t slot = (address * 0x9E3779B97F4A7C15U) >> m_shift;
         while (m_entries[slot] != free && (m_entries[slot] & ~truth) != address) {
             slot = (slot + 1) & (m_entries.size() - 1);
@@ -61,7 +66,7 @@ private:
         m_shift = 64 - std::countr_zero(size);
         for (const std::uintptr_t entry : old) {
             if (entry != free) {
-                m_entries[slotOf(std::bit_cast<const PooledText*>(entry & ~truth))] = entry;
+                m_entries[slotOf(entry & ~truth)] = entry;
             }
         }
     }
