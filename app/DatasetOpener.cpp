@@ -77,6 +77,7 @@ bool DatasetOpener::load(const DatasetOrigin& origin)
         if (loaded) {
             show(std::make_unique<DatasetWindow>(std::move(loaded.value().dataset), origin,
                                                  m_surroundings.gridHost));
+            emit signalRead(origin.filePath);
             return true;
         }
         reason = QString::fromStdString(loaded.error());

@@ -51,6 +51,8 @@ public:
 signals:
     /// A window has been created and is not shown yet.
     void signalOpened(DatasetWindow* window);
+    /// A file has been opened.
+    void signalRead(const QString& path);
 
 private:
     enum class Reload

@@ -6,7 +6,9 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QMenu>
+#include <QShortcut>
 
 namespace {
 
@@ -31,6 +33,7 @@ DatasetWindow::DatasetWindow(std::unique_ptr<StatDataset> dataset, const Dataset
     createGrid(gridHost);
     setWindowTitle(titleOf(origin));
     dropSystemMenuShortcuts();
+    addCloseKey();
 }
 
 DatasetWindow::~DatasetWindow()
@@ -56,6 +59,21 @@ void DatasetWindow::dropSystemMenuShortcuts()
     for (QAction* action : systemMenu()->actions()) {
         action->setShortcuts(QList<QKeySequence>());
     }
+}
+
+void DatasetWindow::addCloseKey()
+{
+    auto* shortcut = new QShortcut(Qt::Key_W, m_view);
+    shortcut->setContext(Qt::WidgetShortcut);
+    shortcut->setAutoRepeat(false);
+    connect(shortcut, &QShortcut::activated, this, &QWidget::close);
+}
+
+QString DatasetWindow::datasetName() const
+{
+    const QString title = windowTitle();
+    const bool isFileName = title == property("filePath").toString().section(u'/', -1);
+    return isFileName ? QFileInfo(title).completeBaseName() : title;
 }
 
 QString DatasetWindow::fileKey() const

@@ -34,6 +34,9 @@ public:
     [[nodiscard]] MainTableView* view() const { return m_view; }
     [[nodiscard]] StatDataset* dataset() const { return m_dataset.get(); }
     [[nodiscard]] QString fileKey() const;
+    /// What the user calls the dataset: its name within a file of several, else the file's without
+    /// its suffix.
+    [[nodiscard]] QString datasetName() const;
 
 signals:
     /// The window has agreed to close and is about to be deleted.
@@ -45,6 +48,7 @@ protected:
 private:
     void createGrid(GridHost& host);
     void dropSystemMenuShortcuts();
+    void addCloseKey();
 
     std::unique_ptr<StatDataset> m_dataset;
     MainTableView* m_view = nullptr;  ///< owned by this window as its child

@@ -1,19 +1,40 @@
 #include "app/DialogPrompts.h"
 
+#include "app/DataFilterDialog.h"
+#include "workspace/OptionsDialog.h"
+
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QMessageBox>
 
 namespace {
 
-/// Makes room for the title, which a box as narrow as a short text would cut.
-void widen(const QMessageBox& box)
+/// A message box that shows its texts as they are: file names, commands and what comes over the
+/// network may contain what looks like markup.
+class PlainBox : public QMessageBox
 {
-    constexpr int pixels = 320;
-    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
-        grid->addItem(new QSpacerItem(pixels, 0), grid->rowCount(), 0, 1, grid->columnCount());
+public:
+    PlainBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons,
+             QWidget* parent)
+        : QMessageBox(icon, title, text, buttons, parent)
+    {
+        setTextFormat(Qt::PlainText);
+        makeRoomForTitle();
     }
-}
+    PlainBox(Icon icon, const QString& title, const QString& text, QWidget* parent)
+        : PlainBox(icon, title, text, Ok, parent)
+    { }
+
+private:
+    /// A box as narrow as a short text would cut the title.
+    void makeRoomForTitle()
+    {
+        constexpr int pixels = 320;
+        if (auto* grid = qobject_cast<QGridLayout*>(layout())) {
+            grid->addItem(new QSpacerItem(pixels, 0), grid->rowCount(), 0, 1, grid->columnCount());
+        }
+    }
+};
 
 }  // namespace
 
@@ -23,28 +44,52 @@ DialogPrompts::DialogPrompts(QWidget* parent)
 
 bool DialogPrompts::confirm(const QString& title, const QString& question)
 {
-    return QMessageBox::question(m_parent, title, question, QMessageBox::Yes | QMessageBox::No,
-                                 QMessageBox::No)
-        == QMessageBox::Yes;
+    PlainBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No,
+                 m_parent);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 void DialogPrompts::warn(const QString& title, const QString& text, const QString& reason)
 {
-    QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, m_parent);
-    // Paths and reasons come from outside and may contain what looks like markup.
-    box.setTextFormat(Qt::PlainText);
+    PlainBox box(QMessageBox::Warning, title, text, m_parent);
     box.setInformativeText(reason);
-    widen(box);
     box.exec();
+}
+
+void DialogPrompts::critical(const QString& title, const QString& text)
+{
+    PlainBox(QMessageBox::Critical, title, text, m_parent).exec();
 }
 
 void DialogPrompts::inform(const QString& title, const QString& text)
 {
-    QMessageBox::information(m_parent, title, text, QMessageBox::Ok);
+    PlainBox(QMessageBox::Information, title, text, m_parent).exec();
+}
+
+bool DialogPrompts::offerToOpen(const QString& title, const QString& text)
+{
+    PlainBox box(QMessageBox::Information, title, text, QMessageBox::Open | QMessageBox::Ok,
+                 m_parent);
+    box.setDefaultButton(QMessageBox::Ok);
+    box.setEscapeButton(QMessageBox::Ok);
+    return box.exec() == QMessageBox::Open;
 }
 
 QStringList DialogPrompts::chooseFiles(const QString& title, const QString& folder,
                                        const QString& filters)
 {
     return QFileDialog::getOpenFileNames(m_parent, title, folder, filters);
+}
+
+std::optional<QString> DialogPrompts::editDataFilter(const QString& condition)
+{
+    DataFilterDialog dialog(condition, m_parent);
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.condition()) : std::nullopt;
+}
+
+QString DialogPrompts::editOptions(const QString& uniqueVarName)
+{
+    OptionsDialog dialog(uniqueVarName, m_parent);
+    return dialog.exec() == QDialog::Accepted ? dialog.uniqueVarName() : uniqueVarName;
 }

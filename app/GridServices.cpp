@@ -25,6 +25,11 @@ void GridServices::inform(const QString& title, const QString& text)
     m_prompts.inform(title, text);
 }
 
+void GridServices::fontSizeChanged(int points)
+{
+    emit signalFontSizeChanged(points);
+}
+
 void GridServices::showMessage(const QString& text)
 {
     constexpr int milliseconds = 4000;
@@ -32,15 +37,27 @@ void GridServices::showMessage(const QString& text)
     m_statusBar.showMessage(text, milliseconds);
 }
 
-bool GridServices::runCommand(MainTableView& view, const QString& command)
+bool GridServices::runCommand(MainTableView& grid, const QString& command)
+{
+    return attempt(command, [&] { grid.cmdRunCommand(command); });
+}
+
+bool GridServices::replaceDatasetFilter(MainTableView& grid, const QString& condition)
+{
+    const QString statement = QStringLiteral("if ") + condition;
+    return attempt(statement, [&] { grid.restoreFilters(grid.libraryFilterText(), statement); });
+}
+
+template <typename Command>
+bool GridServices::attempt(const QString& text, Command command)
 {
     try {
-        view.cmdRunCommand(command);
+        command();
         return true;
     } catch (const ParseError& error) {
-        reportCommandError(QString::fromUtf8(error.what()), command);
+        reportCommandError(QString::fromUtf8(error.what()), text);
     } catch (const std::bad_alloc&) {
-        reportCommandError(tr("There is not enough memory."), command);
+        reportCommandError(tr("There is not enough memory."), text);
     }
     return false;
 }

@@ -3,7 +3,7 @@
 #include "grid/GridHost.h"
 #include "grid/LibraryFilter.h"
 
-#include <QCoreApplication>
+#include <QObject>
 #include <QString>
 
 class MainTableView;
@@ -11,9 +11,9 @@ class QStatusBar;
 class UserPrompts;
 
 /// What the main window does for its grids.
-class GridServices final : public GridHost
+class GridServices final : public QObject, public GridHost
 {
-    Q_DECLARE_TR_FUNCTIONS(GridServices)
+    Q_OBJECT
 
 public:
     /// Both outlive the services.
@@ -24,13 +24,23 @@ public:
     void setUniqueVarName(const QString& name) { m_uniqueVarName = name; }
     void reportCommandError(const QString& message, const QString& command) override;
     void inform(const QString& title, const QString& text) override;
+    void fontSizeChanged(int points) override;
     void showMessage(const QString& text) override;
 
     /// Runs a typed command on a grid and tells what goes wrong.
     /// @return  whether nothing did
-    bool runCommand(MainTableView& view, const QString& command);
+    bool runCommand(MainTableView& grid, const QString& command);
+    /// Puts a condition in the place of a grid's dataset filter, which stays when it is wrong.
+    /// @return  whether nothing went wrong
+    bool replaceDatasetFilter(MainTableView& grid, const QString& condition);
+
+signals:
+    void signalFontSizeChanged(int points);
 
 private:
+    template <typename Command>
+    bool attempt(const QString& text, Command command);
+
     UserPrompts& m_prompts;
     QStatusBar& m_statusBar;
     LibraryFilter m_libraryFilter;

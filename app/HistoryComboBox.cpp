@@ -7,6 +7,7 @@ HistoryComboBox::HistoryComboBox(const QString& title, QWidget* parent)
     : QComboBox(parent)
 {
     constexpr int linesToRemember = 20;
+    constexpr int narrowest = 90;
     setEditable(true);
     setInsertPolicy(NoInsert);
     setMaxCount(linesToRemember);
@@ -14,6 +15,7 @@ HistoryComboBox::HistoryComboBox(const QString& title, QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(20);
+    setMinimumWidth(narrowest);
     lineEdit()->setPlaceholderText(title);
     lineEdit()->setClearButtonEnabled(true);
     setAccessibleName(title);

@@ -1,59 +1,79 @@
 #include "app/MainMenus.h"
 
-#include <QAction>
-#include <QKeySequence>
+#include "app/MainActions.h"
+
+#include <QActionGroup>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 
-MainMenus::MainMenus(QMainWindow* window)
+MainMenus::MainMenus(QMainWindow* window, const MainActions& actions)
     : m_window(window)
 {
     window->menuBar()->setObjectName(QStringLiteral("menubar"));
-    createFileActions();
-    fillFileMenu();
+    fillFileMenu(actions);
+    fillEditMenu(actions);
+    fillViewMenu(actions);
+    fillToolsMenu(actions);
+    fillRunMenu(actions);
+    fillHelpMenu(actions);
 }
 
-void MainMenus::createFileActions()
+void MainMenus::fillFileMenu(const MainActions& actions)
 {
-    m_openSasData = addAction(QStringLiteral("actionOpenSasData"), tr("Open &SAS Datasets"), {});
-    m_openSpssData = addAction(QStringLiteral("actionOpenSpssData"), tr("Open S&PSS Datasets"), {});
-    m_openStataData =
-        addAction(QStringLiteral("actionOpenStataData"), tr("Open S&tata Datasets"), {});
-    m_close = addAction(QStringLiteral("actionClose"), tr("&Close\tCtrl+W"),
-                        QKeySequence(Qt::CTRL | Qt::Key_W));
-    m_closeAll = addAction(QStringLiteral("actionCloseAll"), tr("Close &All"),
-                           QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_W));
-    m_exit =
-        addAction(QStringLiteral("actionExit"), tr("E&xit"), QKeySequence(Qt::CTRL | Qt::Key_Q));
-    m_exit->setMenuRole(QAction::QuitRole);
+    m_file = addMenu("menuFile", tr("&File"));
+    m_file->addActions({actions.openSasData, actions.openDatasetJson, actions.openRData,
+                        actions.openSpssData, actions.openStataData, actions.openCsv});
+    m_file->addSeparator();
+    m_file->addActions({actions.openFolder, actions.manageLibraries, actions.saveSession});
+    m_file->addSeparator();
+    m_file->addAction(actions.newSasProgram);
+    m_file->addSeparator();
+    m_file->addActions({actions.close, actions.closeAll});
+    m_file->addSeparator();
+    m_file->addAction(actions.exit);
 }
 
-void MainMenus::fillFileMenu()
+void MainMenus::fillEditMenu(const MainActions& actions)
 {
-    QMenu* file = addMenu(QStringLiteral("menuFile"), tr("&File"));
-    file->addAction(m_openSasData);
-    file->addAction(m_openSpssData);
-    file->addAction(m_openStataData);
-    file->addSeparator();
-    file->addAction(m_close);
-    file->addAction(m_closeAll);
-    file->addSeparator();
-    file->addAction(m_exit);
+    QMenu* edit = addMenu("menuEdit", tr("&Edit"));
+    edit->addActions({actions.find, actions.editDataFilter});
 }
 
-QMenu* MainMenus::addMenu(const QString& name, const QString& title)
+void MainMenus::fillViewMenu(const MainActions& actions)
+{
+    QMenu* view = addMenu("menuView", tr("&View"));
+    m_dockWindows = view->addMenu(tr("Dock Windows"));
+    m_dockWindows->setObjectName(QStringLiteral("menuDockWindows"));
+    view->addSeparator();
+    view->addActions(actions.layoutGroup->actions());
+    view->addSeparator();
+    view->addActions({actions.nextDataset, actions.toggleDarkMode});
+}
+
+void MainMenus::fillToolsMenu(const MainActions& actions)
+{
+    QMenu* tools = addMenu("menuTools", tr("&Tools"));
+    tools->addActions({actions.quickOpen, actions.compare});
+    tools->addSeparator();
+    tools->addAction(actions.options);
+}
+
+void MainMenus::fillRunMenu(const MainActions& actions)
+{
+    addMenu("menuRun", tr("&Run"))->addAction(actions.submit);
+}
+
+void MainMenus::fillHelpMenu(const MainActions& actions)
+{
+    // Alt+H hides variables in a grid, so the menu opens by another letter.
+    QMenu* help = addMenu("menuHelp", tr("Hel&p"));
+    help->addActions({actions.documentation, actions.checkForUpdates, actions.about});
+}
+
+QMenu* MainMenus::addMenu(const char* name, const QString& title)
 {
     QMenu* menu = m_window->menuBar()->addMenu(title);
-    menu->setObjectName(name);
+    menu->setObjectName(QLatin1String(name));
     return menu;
-}
-
-QAction* MainMenus::addAction(const QString& name, const QString& text,
-                              const QKeySequence& shortcut)
-{
-    auto* action = new QAction(text, m_window);
-    action->setObjectName(name);
-    action->setShortcut(shortcut);
-    return action;
 }

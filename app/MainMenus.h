@@ -2,40 +2,35 @@
 
 #include <QCoreApplication>
 
-class QAction;
-class QKeySequence;
 class QMainWindow;
 class QMenu;
 class QString;
+struct MainActions;
 
-/// The menu bar of the main window and its actions. What they do is connected by the main window.
+/// The menu bar of the main window.
 class MainMenus
 {
     Q_DECLARE_TR_FUNCTIONS(MainMenus)
 
 public:
     /// Fills the menu bar of the window, which owns the menus and outlives this object.
-    explicit MainMenus(QMainWindow* window);
+    MainMenus(QMainWindow* window, const MainActions& actions);
 
-    [[nodiscard]] QAction* openSasData() const { return m_openSasData; }
-    [[nodiscard]] QAction* openSpssData() const { return m_openSpssData; }
-    [[nodiscard]] QAction* openStataData() const { return m_openStataData; }
-    [[nodiscard]] QAction* close() const { return m_close; }
-    [[nodiscard]] QAction* closeAll() const { return m_closeAll; }
-    [[nodiscard]] QAction* exit() const { return m_exit; }
+    /// The File menu, at whose end the recently opened files stand.
+    [[nodiscard]] QMenu* fileMenu() const { return m_file; }
+    /// The list of the dock windows' toggle actions.
+    [[nodiscard]] QMenu* dockWindowsMenu() const { return m_dockWindows; }
 
 private:
-    void createFileActions();
-    void fillFileMenu();
-    [[nodiscard]] QMenu* addMenu(const QString& name, const QString& title);
-    [[nodiscard]] QAction* addAction(const QString& name, const QString& text,
-                                     const QKeySequence& shortcut);
+    void fillFileMenu(const MainActions& actions);
+    void fillEditMenu(const MainActions& actions);
+    void fillViewMenu(const MainActions& actions);
+    void fillToolsMenu(const MainActions& actions);
+    void fillRunMenu(const MainActions& actions);
+    void fillHelpMenu(const MainActions& actions);
+    [[nodiscard]] QMenu* addMenu(const char* name, const QString& title);
 
     QMainWindow* m_window;
-    QAction* m_openSasData = nullptr;
-    QAction* m_openSpssData = nullptr;
-    QAction* m_openStataData = nullptr;
-    QAction* m_close = nullptr;
-    QAction* m_closeAll = nullptr;
-    QAction* m_exit = nullptr;
+    QMenu* m_file = nullptr;
+    QMenu* m_dockWindows = nullptr;
 };

@@ -1,20 +1,50 @@
 #include "app/MainWindow.h"
 
+#include "app/CommandBar.h"
+#include "app/CommandBoxes.h"
+#include "app/DatasetsArea.h"
 #include "app/DatasetWindow.h"
 #include "app/DialogPrompts.h"
-#include "app/FilterBar.h"
+#include "app/DockWindows.h"
+#include "app/EmptyState.h"
 #include "app/GridServices.h"
+#include "app/LogView.h"
+#include "app/MainActions.h"
 #include "app/MainMenus.h"
+#include "app/MainToolBars.h"
+#include "app/PaneLayout.h"
+#include "app/ProgramEditor.h"
+#include "app/ProgramRunner.h"
+#include "app/RecentFiles.h"
 #include "app/Settings.h"
+#include "app/ShortcutKeysWindow.h"
 #include "app/StatusCounters.h"
+#include "app/Theme.h"
+#include "app/UpdateCheck.h"
+#include "app/WebSite.h"
+#include "app/WorkspaceTree.h"
+#include "grid/MainTableModel.h"
 #include "grid/MainTableView.h"
+#include "workspace/OptionsDialog.h"
+#include "workspace/WorkspaceStore.h"
 
+#include <spdlog/spdlog.h>
+
+#include <QAbstractButton>
 #include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDockWidget>
+#include <QDropEvent>
 #include <QMdiArea>
+#include <QMenu>
+#include <QMimeData>
+#include <QPlainTextEdit>
 #include <QSettings>
 #include <QStatusBar>
-#include <QTabBar>
-#include <QVBoxLayout>
+#include <QTableWidget>
+#include <QTimer>
 
 MainWindow::MainWindow(QWidget* parent)
     : MainWindow(MainWindowServices(), parent)
@@ -25,98 +55,203 @@ MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(tr("Quorlane"));
-    resize(1200, 760);
+    setAcceptDrops(true);
+    resize(1280, 800);
     DatasetLoader load = std::move(services.load);
+    std::unique_ptr<WorkspaceStore> store = std::move(services.store);
     createServices(std::move(services));
-    createMdiArea();
-    createStatusBar();
+    applyTheme();
+    createActions();
+    createCentralArea();
     createOpener(std::move(load));
-    createFilterBar();
+    createToolBars();
+    createDocks();
     createMenus();
+    connectActions();
+    openWorkspace(std::move(store));
 }
 
 MainWindow::~MainWindow()
 {
     // The sub-windows, those that are closed and about to go included, would outlive the members
     // that hear of their end and serve them.
-    disconnect(m_mdiArea, nullptr, this, nullptr);
-    delete m_mdiArea;
+    disconnect(&m_area->mdiArea(), nullptr, this, nullptr);
+    delete m_area;
 }
+
+// Construction
 
 void MainWindow::createServices(MainWindowServices services)
 {
-    m_store = services.store ? std::move(services.store) : std::make_unique<QSettings>();
-    m_settings = std::make_unique<Settings>(*m_store);
+    m_settingsStore =
+        services.settings ? std::move(services.settings) : std::make_unique<QSettings>();
+    m_settings = std::make_unique<Settings>(*m_settingsStore);
     m_prompts =
         services.prompts ? std::move(services.prompts) : std::make_unique<DialogPrompts>(this);
+    m_openUrl = services.openUrl ? std::move(services.openUrl)
+                                 : [](const QUrl& url) { QDesktopServices::openUrl(url); };
+    statusBar()->setObjectName(QStringLiteral("statusbar"));
+    m_counters = std::make_unique<StatusCounters>(statusBar());
+    m_gridServices = std::make_unique<GridServices>(*m_prompts, *statusBar());
+    m_recentFiles = std::make_unique<RecentFiles>(*m_settings);
+    m_updateCheck = new UpdateCheck({.webSite = QString::fromUtf8(quorlane::webSite),
+                                     .version = QCoreApplication::applicationVersion(),
+                                     .openPage = m_openUrl},
+                                    *m_prompts, this);
+    connect(m_gridServices.get(), &GridServices::signalFontSizeChanged, this,
+            &MainWindow::applyFontSize);
 }
 
-void MainWindow::createMdiArea()
+void MainWindow::createActions()
 {
-    auto* central = new QWidget(this);
-    central->setObjectName(QStringLiteral("centralwidget"));
-    m_mdiArea = new QMdiArea(central);
-    m_mdiArea->setObjectName(QStringLiteral("mdiArea"));
-    m_mdiArea->setViewMode(QMdiArea::TabbedView);
-    m_mdiArea->setTabsClosable(true);
-    m_mdiArea->setTabsMovable(true);
-    m_mdiArea->setDocumentMode(true);
-    // The background follows the palette instead of a brush of its own.
-    m_mdiArea->setBackground(Qt::NoBrush);
-    m_mdiArea->viewport()->setBackgroundRole(QPalette::Window);
-    if (auto* tabs = m_mdiArea->findChild<QTabBar*>()) {
-        tabs->setExpanding(false);
-        tabs->setElideMode(Qt::ElideNone);
-    }
-    auto* layout = new QVBoxLayout(central);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_mdiArea);
-    setCentralWidget(central);
-    connect(m_mdiArea, &QMdiArea::subWindowActivated, this, &MainWindow::activeWindow);
+    m_actions = std::make_unique<MainActions>(this);
+    addActions({m_actions->nextDataset});
+}
+
+void MainWindow::createCentralArea()
+{
+    m_area = new DatasetsArea(this);
+    auto* empty = new EmptyState(m_area);
+    empty->setActions({m_actions->openSasData, m_actions->openSpssData, m_actions->openStataData});
+    empty->setRecentFiles(m_recentFiles->paths());
+    m_area->setEmptyState(empty);
+    setCentralWidget(m_area);
+    connect(empty, &EmptyState::signalOpenRequested, m_recentFiles.get(), &RecentFiles::request);
+    connect(m_recentFiles.get(), &RecentFiles::signalChanged, empty,
+            [this, empty] { empty->setRecentFiles(m_recentFiles->paths()); });
+    connect(&m_area->mdiArea(), &QMdiArea::subWindowActivated, this, &MainWindow::activeWindow);
+    connect(m_area, &DatasetsArea::signalTabSwitched, this, &MainWindow::handleTabSwitch);
 }
 
 void MainWindow::createOpener(DatasetLoader load)
 {
     m_opener = new DatasetOpener(
-        DatasetOpener::Surroundings{*m_mdiArea, *m_gridServices, *m_prompts, *m_settings,
+        DatasetOpener::Surroundings{m_area->mdiArea(), *m_gridServices, *m_prompts, *m_settings,
                                     load ? std::move(load) : DatasetLoader(&openDataset)},
         this);
-    connect(m_opener, &DatasetOpener::signalOpened, this, &MainWindow::connectWindow);
+    connect(m_opener, &DatasetOpener::signalOpened, this, &MainWindow::prepareWindow);
+    connect(m_opener, &DatasetOpener::signalRead, m_recentFiles.get(), &RecentFiles::add);
 }
 
-void MainWindow::createStatusBar()
+void MainWindow::createToolBars()
 {
-    statusBar()->setObjectName(QStringLiteral("statusbar"));
-    m_counters = std::make_unique<StatusCounters>(statusBar());
-    m_gridServices = std::make_unique<GridServices>(*m_prompts, *statusBar());
+    m_toolBars = new MainToolBars(*this, *m_actions);
+    m_boxes = new CommandBoxes(*this, *m_gridServices);
+    m_boxes->datasetFilterBar()->addAction(m_actions->editDataFilter);
+    m_toolBars->addRightBars(*m_actions);
+    m_toolBars->showHeaderMode(m_settings->headersShowLabels() ? HeaderMode::VariableLabels
+                                                               : HeaderMode::VariableNames);
+    connect(m_toolBars, &MainToolBars::signalHeaderModeClicked, this,
+            &MainWindow::onColumnHeaderLabelChanged);
 }
 
-void MainWindow::createFilterBar()
+void MainWindow::createDocks()
 {
-    m_filterBar = new FilterBar(this);
-    addToolBar(m_filterBar);
-    connect(m_filterBar, &FilterBar::signalSubmitted, this, &MainWindow::submitCommand);
-    connect(m_filterBar, &FilterBar::signalLeft, this, &MainWindow::focusGrid);
+    m_docks = std::make_unique<DockWindows>(*this);
+    m_paneLayout = std::make_unique<PaneLayout>(*this);
+    fillDocks();
+}
+
+void MainWindow::fillDocks()
+{
+    m_docks->workspace()->setWidget(new WorkspaceTree(m_docks->workspace()));
+    m_program = new ProgramEditor(m_docks->code());
+    m_docks->code()->setWidget(m_program);
+    connect(m_program, &ProgramEditor::signalLeft, this, &MainWindow::handleTabSwitch);
+    m_docks->log()->setWidget(new LogView(spdlog::default_logger(), m_docks->log()));
+    auto* output = new QPlainTextEdit(m_docks->output());
+    output->setObjectName(QStringLiteral("textOutput"));
+    output->setReadOnly(true);
+    output->setAccessibleName(tr("Output"));
+    m_docks->output()->setWidget(output);
+    m_docks->shortcutKeys()->setWidget(new ShortcutKeysWindow(m_docks->shortcutKeys()));
 }
 
 void MainWindow::createMenus()
 {
-    m_menus = std::make_unique<MainMenus>(this);
+    m_menus = std::make_unique<MainMenus>(this, *m_actions);
+    m_docks->fillMenu(*m_menus->dockWindowsMenu());
+    m_recentFiles->showIn(m_menus->fileMenu());
+    connect(m_recentFiles.get(), &RecentFiles::signalOpenRequested, this,
+            &MainWindow::openDatasetFile);
+}
+
+void MainWindow::connectActions()
+{
     const auto run = [this](QAction* action, void (MainWindow::*slot)()) {
         connect(action, &QAction::triggered, this, slot);
     };
-    run(m_menus->openSasData(), &MainWindow::on_actionOpenSasData_triggered);
-    run(m_menus->openSpssData(), &MainWindow::on_actionOpenSpssData_triggered);
-    run(m_menus->openStataData(), &MainWindow::on_actionOpenStataData_triggered);
-    run(m_menus->close(), &MainWindow::on_actionClose_triggered);
-    run(m_menus->closeAll(), &MainWindow::on_actionCloseAll_triggered);
-    run(m_menus->exit(), &MainWindow::on_actionExit_triggered);
+    run(m_actions->openSasData, &MainWindow::on_actionOpenSasData_triggered);
+    run(m_actions->openDatasetJson, &MainWindow::on_actionOpenDatasetJson_triggered);
+    run(m_actions->openRData, &MainWindow::on_actionOpenRData_triggered);
+    run(m_actions->openSpssData, &MainWindow::on_actionOpenSpssData_triggered);
+    run(m_actions->openStataData, &MainWindow::on_actionOpenStataData_triggered);
+    run(m_actions->openCsv, &MainWindow::on_actionOpenCsv_triggered);
+    run(m_actions->newSasProgram, &MainWindow::on_actionNewSasProgram_triggered);
+    run(m_actions->close, &MainWindow::on_actionClose_triggered);
+    run(m_actions->closeAll, &MainWindow::on_actionCloseAll_triggered);
+    run(m_actions->exit, &MainWindow::on_actionExit_triggered);
+    run(m_actions->about, &MainWindow::on_actionAbout_triggered);
+    run(m_actions->checkForUpdates, &MainWindow::on_actionCheckForUpdates_triggered);
+    run(m_actions->documentation, &MainWindow::on_actionDocumentation_triggered);
+    run(m_actions->options, &MainWindow::on_actionOptions_triggered);
+    run(m_actions->submit, &MainWindow::submitProgram);
+    run(m_actions->toggleDarkMode, &MainWindow::toggleDarkMode);
+    run(m_actions->editDataFilter, &MainWindow::editDataFilter);
+    run(m_actions->nextDataset, &MainWindow::onSwitchWindow);
+    for (std::size_t layout = 0; layout < m_actions->layouts.size(); ++layout) {
+        connect(m_actions->layouts[layout], &QAction::triggered, this,
+                [this, layout] { applyLayout(layout); });
+    }
 }
 
-// What it connects changes the window. NOLINTNEXTLINE(readability-make-member-function-const)
-void MainWindow::connectWindow(DatasetWindow* window)
+/// Without its workspace the program ends as soon as its event loop begins, and what it remembers
+/// stays as it is.
+void MainWindow::openWorkspace(std::unique_ptr<WorkspaceStore> store)
+{
+    m_store = store ? std::move(store) : std::make_unique<WorkspaceStore>();
+    if (!m_store->initDatabase()) {
+        m_store.reset();
+        m_prompts->critical(tr("Database Initialization Failed"),
+                            tr("The application will now exit."));
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        return;
+    }
+    m_gridServices->setUniqueVarName(
+        m_store->loadOption(QStringLiteral("uniqueVarName"), QStringLiteral("USUBJID")));
+    restoreArrangement();
+}
+
+void MainWindow::restoreArrangement()
+{
+    restoreGeometry(m_settings->geometry());
+    restoreState(m_settings->state());
+    const std::size_t layout = PaneLayout::fromText(m_settings->lastLayout());
+    m_actions->layouts.at(layout)->setChecked(true);
+    m_paneLayout->apply(layout);
+}
+
+// Datasets
+
+bool MainWindow::openDatasetFile(const QString& path)
+{
+    return m_opener->open(path);
+}
+
+MainTableView* MainWindow::activeView() const
+{
+    return m_activeView;
+}
+
+/// Gives a new window what all windows share, before it is shown.
+void MainWindow::prepareWindow(DatasetWindow* window)
 {
     connect(window, &DatasetWindow::signalClosed, this, &MainWindow::subWindowClosed);
+    m_area->showDatasets(true);
+    window->view()->setHeaderMode(m_toolBars->headerMode());
+    if (m_settings->fontSize() > 0) {
+        window->view()->setFontSize(m_settings->fontSize());
+    }
 }
 
 // What it connects changes the window. NOLINTNEXTLINE(readability-make-member-function-const)
@@ -127,16 +262,9 @@ void MainWindow::connectGrid(MainTableView* view)
     connect(view, &MainTableView::signalAddByVar, this, &MainWindow::setLabelStatusBarBy);
     connect(view, &MainTableView::signalLibraryFilter, this, &MainWindow::setLabelStatusBarLf);
     connect(view, &MainTableView::signalFilter, this, &MainWindow::setLabelStatusBarDf);
-}
-
-bool MainWindow::openDatasetFile(const QString& path)
-{
-    return m_opener->open(path);
-}
-
-MainTableView* MainWindow::activeView() const
-{
-    return m_activeView;
+    connect(view, &MainTableView::signalShowDockFreq, this, &MainWindow::showDockFreq);
+    connect(view, &MainTableView::signalShowDockDesc, this, &MainWindow::showDockDesc);
+    connect(view, &MainTableView::signalShowDockVar, this, &MainWindow::showDockVar);
 }
 
 void MainWindow::activeWindow(QMdiSubWindow* window)
@@ -152,9 +280,11 @@ void MainWindow::activeWindow(QMdiSubWindow* window)
     }
     m_activeView = active->view();
     connectGrid(m_activeView);
-    m_activeView->publishCounters();
-    m_activeView->publishFilters();
-    setLabelStatusBarBy();
+    m_boxes->setGrid(m_activeView);
+    m_docks->showTitlesOf(active->datasetName());
+    m_docks->univariate()->setWidget(m_activeView->statisticsTable());
+    updateStatus();
+    showWhatIsOpen();
 }
 
 void MainWindow::subWindowClosed(DatasetWindow* closedWindow)
@@ -163,10 +293,54 @@ void MainWindow::subWindowClosed(DatasetWindow* closedWindow)
     if (closedWindow->view() == m_activeView) {
         disconnect(m_activeView, nullptr, this, nullptr);
         m_activeView = nullptr;
+        m_boxes->setGrid(nullptr);
     }
-    if (openFiles().isEmpty()) {
+    showWhatIsOpen();
+}
+
+/// Brings what depends on whether there is a dataset up to date.
+void MainWindow::showWhatIsOpen()
+{
+    const bool isAny = !openFiles().isEmpty();
+    m_actions->setDatasetOpen(isAny);
+    m_area->showDatasets(isAny);
+    if (!isAny) {
         m_counters->showNothingOpen();
-        m_filterBar->setText(QString());
+        m_docks->showTitlesOf(QString());
+    }
+}
+
+void MainWindow::forEachGrid(const std::function<void(MainTableView&)>& visit) const
+{
+    for (QMdiSubWindow* window : m_area->mdiArea().subWindowList()) {
+        if (auto* dataset = qobject_cast<DatasetWindow*>(window)) {
+            visit(*dataset->view());
+        }
+    }
+}
+
+void MainWindow::onSwitchWindow()
+{
+    m_area->mdiArea().activateNextSubWindow();
+    handleTabSwitch();
+}
+
+/// The keys of the grid are to work as soon as its tab is chosen.
+void MainWindow::handleTabSwitch()
+{
+    if (m_activeView != nullptr) {
+        m_activeView->setFocus();
+    }
+}
+
+// Status bar and docks
+
+void MainWindow::updateStatus()
+{
+    if (m_activeView != nullptr) {
+        m_activeView->publishCounters();
+        m_activeView->publishFilters();
+        setLabelStatusBarBy();
     }
 }
 
@@ -184,6 +358,7 @@ void MainWindow::setLabelStatusBarBy()
 {
     if (m_activeView != nullptr) {
         m_counters->setByVariables(m_activeView->byVariables());
+        m_boxes->showByVariables();
     }
 }
 
@@ -191,34 +366,88 @@ void MainWindow::setLabelStatusBarLf(const QString& filter)
 {
     if (m_activeView != nullptr) {
         m_counters->setLibraryFilter(filter, m_activeView->libraryFilterProblem());
+        m_boxes->showLibraryFilter(filter);
     }
 }
 
 void MainWindow::setLabelStatusBarDf(const QString& filter)
 {
     m_counters->setDatasetFilter(filter);
-    m_filterBar->setText(filter);
+    m_boxes->showDatasetFilter(filter);
 }
 
-void MainWindow::submitCommand(const QString& command)
+void MainWindow::showDockFreq()
 {
-    if (m_activeView != nullptr && m_gridServices->runCommand(*m_activeView, command)) {
-        m_filterBar->remember(command);
-        m_filterBar->setText(m_activeView->datasetFilterText());
-    }
+    m_paneLayout->makeRoomFor(*m_docks->frequency());
+    DockWindows::bringUp(*m_docks->frequency());
 }
 
-void MainWindow::focusGrid()
+void MainWindow::showDockDesc(QTableWidget* tableWidget)
 {
-    if (m_activeView != nullptr) {
-        m_activeView->setFocus();
-    }
+    m_docks->univariate()->setWidget(tableWidget);
+    m_paneLayout->makeRoomFor(*m_docks->univariate());
+    DockWindows::bringUp(*m_docks->univariate());
 }
+
+void MainWindow::showDockVar()
+{
+    m_paneLayout->makeRoomFor(*m_docks->variables());
+    DockWindows::bringUp(*m_docks->variables());
+}
+
+// Looks
+
+void MainWindow::applyLayout(std::size_t layout)
+{
+    m_actions->layouts.at(layout)->setChecked(true);
+    m_settings->setLastLayout(PaneLayout::text(layout));
+    m_paneLayout->apply(layout);
+}
+
+void MainWindow::onColumnHeaderLabelChanged(QAbstractButton* /*button*/)
+{
+    const HeaderMode mode = m_toolBars->headerMode();
+    m_settings->setHeadersShowLabels(mode == HeaderMode::VariableLabels);
+    forEachGrid([mode](MainTableView& view) { view.setHeaderMode(mode); });
+    handleTabSwitch();
+}
+
+void MainWindow::applyTheme()
+{
+    theme::apply(m_settings->darkMode());
+}
+
+void MainWindow::toggleDarkMode()
+{
+    m_settings->setDarkMode(!m_settings->darkMode());
+    applyTheme();
+}
+
+void MainWindow::applyFontSize(int points)
+{
+    m_settings->setFontSize(points);
+    forEachGrid([points](MainTableView& view) { view.setFontSize(points); });
+}
+
+// Actions
 
 void MainWindow::on_actionOpenSasData_triggered()
 {
     m_opener->chooseAndOpen(tr("Open SAS Datasets"),
                             tr("SAS Data Files (*.sas7bdat);; SAS Transport Files (*.xpt)"));
+}
+
+void MainWindow::on_actionOpenDatasetJson_triggered()
+{
+    m_opener->chooseAndOpen(tr("Open Dataset-JSON Files"),
+                            tr("Dataset-JSON Files (*.json *.ndjson)"));
+}
+
+void MainWindow::on_actionOpenRData_triggered()
+{
+    m_opener->chooseAndOpen(
+        tr("Open R Datasets"),
+        tr("R Data Files (*.rds);; R Data Files (*.rdata);; R Data Files (*.rda)"));
 }
 
 void MainWindow::on_actionOpenSpssData_triggered()
@@ -231,19 +460,123 @@ void MainWindow::on_actionOpenStataData_triggered()
     m_opener->chooseAndOpen(tr("Open Stata Datasets"), tr("Stata Data Files (*.dta)"));
 }
 
+void MainWindow::on_actionOpenCsv_triggered()
+{
+    m_opener->chooseAndOpen(tr("Open CSV Files"), tr("CSV (Comma delimited) (*.csv)"));
+}
+
+void MainWindow::on_actionNewSasProgram_triggered()
+{
+    const bool isEmpty = m_program->toPlainText().trimmed().isEmpty();
+    if (isEmpty
+        || m_prompts->confirm(tr("New SAS Program"),
+                              tr("The program in the Code window will be cleared. Go on?"))) {
+        m_program->clear();
+    }
+    DockWindows::bringUp(*m_docks->code());
+    m_program->setFocus();
+}
+
 void MainWindow::on_actionClose_triggered()
 {
-    if (QMdiSubWindow* window = m_mdiArea->currentSubWindow()) {
+    if (QMdiSubWindow* window = m_area->mdiArea().currentSubWindow()) {
         window->close();
     }
 }
 
 void MainWindow::on_actionCloseAll_triggered()
 {
-    m_mdiArea->closeAllSubWindows();
+    m_area->mdiArea().closeAllSubWindows();
 }
 
 void MainWindow::on_actionExit_triggered()
 {
     close();
+}
+
+void MainWindow::on_actionAbout_triggered()
+{
+    m_prompts->inform(tr("About Quorlane"),
+                      tr("Quorlane %1\nA viewer for statistical and clinical-trial datasets.\n"
+                         "Data files are only ever read.")
+                          .arg(QCoreApplication::applicationVersion()));
+}
+
+void MainWindow::on_actionCheckForUpdates_triggered()
+{
+    m_updateCheck->check();
+}
+
+void MainWindow::on_actionDocumentation_triggered()
+{
+    m_openUrl(QUrl(QString::fromUtf8(quorlane::webSite) + QStringLiteral("/documentation/")));
+}
+
+void MainWindow::on_actionOptions_triggered()
+{
+    const QString before = m_gridServices->uniqueVarName();
+    const QString name = m_prompts->editOptions(before);
+    if (name != before) {
+        m_gridServices->setUniqueVarName(name);
+        m_store->saveOption(QStringLiteral("uniqueVarName"), name);
+    }
+}
+
+void MainWindow::editDataFilter()
+{
+    if (m_activeView == nullptr) {
+        return;
+    }
+    const std::optional<QString> text =
+        m_prompts->editDataFilter(CommandBoxes::conditionOf(m_activeView->datasetFilterText()));
+    if (text) {
+        m_boxes->applyDataFilter(*text);
+    } else {
+        spdlog::info("Filter canceled");
+    }
+}
+
+void MainWindow::submitProgram()
+{
+    if (m_activeView != nullptr) {
+        programrunner::run(m_program->toPlainText(), *m_activeView, *m_gridServices);
+    }
+}
+
+// Window
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_store != nullptr) {
+        m_settings->setGeometryAndState(saveGeometry(), saveState());
+    }
+    QMainWindow::closeEvent(event);
+}
+
+/// The docks take their widths only from a window that has its own.
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (!m_isArranged) {
+        m_isArranged = true;
+        m_paneLayout->apply(PaneLayout::fromText(m_settings->lastLayout()));
+    }
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); })) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (url.isLocalFile()) {
+            openDatasetFile(url.toLocalFile());
+        }
+    }
 }

@@ -5,26 +5,42 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 
+class CommandBoxes;
 class DatasetWindow;
-class FilterBar;
+class DatasetsArea;
+class DockWindows;
 class GridServices;
+class LogView;
 class MainMenus;
 class MainTableView;
-class QMdiArea;
+class MainToolBars;
+class PaneLayout;
+class ProgramEditor;
+class QAbstractButton;
+class QAction;
 class QMdiSubWindow;
 class QSettings;
+class QTableWidget;
+class QUrl;
+class RecentFiles;
 class Settings;
 class StatusCounters;
+class UpdateCheck;
 class UserPrompts;
+class WorkspaceStore;
+struct MainActions;
 
 /// What the main window takes from outside, so that tests can put something else in its place.
 struct MainWindowServices
 {
-    std::unique_ptr<QSettings> store;  ///< the user's settings when null
+    std::unique_ptr<QSettings> settings;  ///< the user's settings when null
+    std::unique_ptr<WorkspaceStore> store;  ///< the user's workspace when null
     std::unique_ptr<UserPrompts> prompts;  ///< dialogs over the main window when null
     DatasetLoader load;  ///< the readers when empty
+    std::function<void(const QUrl&)> openUrl;  ///< the desktop's browser when empty
 };
 
 /// The one top-level window: owns the sub-windows of the open datasets and everything round them,
@@ -48,11 +64,22 @@ public:
 
 public slots:  // NOLINT(readability-redundant-access-specifiers): moc reads it
     void on_actionOpenSasData_triggered();
+    void on_actionOpenDatasetJson_triggered();
+    void on_actionOpenRData_triggered();
     void on_actionOpenSpssData_triggered();
     void on_actionOpenStataData_triggered();
+    void on_actionOpenCsv_triggered();
+    void on_actionNewSasProgram_triggered();
     void on_actionClose_triggered();
     void on_actionCloseAll_triggered();
     void on_actionExit_triggered();
+    void on_actionAbout_triggered();
+    void on_actionCheckForUpdates_triggered();
+    void on_actionDocumentation_triggered();
+    void on_actionOptions_triggered();
+    void onColumnHeaderLabelChanged(QAbstractButton* button);
+    void onSwitchWindow();
+    void handleTabSwitch();
     void activeWindow(QMdiSubWindow* window);
     void subWindowClosed(DatasetWindow* closedWindow);
     void setLabelStatusBarRow(const QString& text);
@@ -60,27 +87,59 @@ public slots:  // NOLINT(readability-redundant-access-specifiers): moc reads it
     void setLabelStatusBarBy();
     void setLabelStatusBarLf(const QString& filter);
     void setLabelStatusBarDf(const QString& filter);
+    void showDockFreq();
+    void showDockDesc(QTableWidget* tableWidget);
+    void showDockVar();
+    void updateStatus();
+    void editDataFilter();
+    void submitProgram();
+    void toggleDarkMode();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void createServices(MainWindowServices services);
-    void createMdiArea();
-    void createStatusBar();
-    void createFilterBar();
-    void createMenus();
+    void createActions();
+    void createCentralArea();
     void createOpener(DatasetLoader load);
-    void connectWindow(DatasetWindow* window);
+    void createToolBars();
+    void createDocks();
+    void fillDocks();
+    void createMenus();
+    void connectActions();
+    void connectFileActions();
     void connectGrid(MainTableView* view);
-    void submitCommand(const QString& command);
-    void focusGrid();
+    void prepareWindow(DatasetWindow* window);
+    void openWorkspace(std::unique_ptr<WorkspaceStore> store);
+    void restoreArrangement();
+    void applyLayout(std::size_t layout);
+    void applyTheme();
+    void applyFontSize(int points);
+    void forEachGrid(const std::function<void(MainTableView&)>& visit) const;
+    void showWhatIsOpen();
 
-    std::unique_ptr<QSettings> m_store;
+    std::unique_ptr<QSettings> m_settingsStore;
     std::unique_ptr<Settings> m_settings;
     std::unique_ptr<UserPrompts> m_prompts;
+    std::unique_ptr<WorkspaceStore> m_store;
+    std::function<void(const QUrl&)> m_openUrl;
+    std::unique_ptr<MainActions> m_actions;
     std::unique_ptr<MainMenus> m_menus;
     std::unique_ptr<StatusCounters> m_counters;
     std::unique_ptr<GridServices> m_gridServices;
-    FilterBar* m_filterBar = nullptr;
-    QMdiArea* m_mdiArea = nullptr;
+    std::unique_ptr<DockWindows> m_docks;
+    std::unique_ptr<PaneLayout> m_paneLayout;
+    std::unique_ptr<RecentFiles> m_recentFiles;
+    MainToolBars* m_toolBars = nullptr;
+    CommandBoxes* m_boxes = nullptr;
+    DatasetsArea* m_area = nullptr;
     DatasetOpener* m_opener = nullptr;
+    ProgramEditor* m_program = nullptr;
+    UpdateCheck* m_updateCheck = nullptr;
     QPointer<MainTableView> m_activeView;
+    bool m_isArranged = false;  ///< whether the window has been shown with its layout
 };

@@ -1,10 +1,19 @@
 #include "app/Startup.h"
 
+#include "app/DialogPrompts.h"
+#include "app/Icons.h"
 #include "app/MainWindow.h"
+#include "app/SingleInstance.h"
+#include "app/Translations.h"
+#include "app/WebSite.h"
+#include "app/WindowsCheck.h"
 #include "data/Version.h"
+
+#include <spdlog/spdlog.h>
 
 #include <QApplication>
 #include <QDir>
+#include <QLocale>
 #include <QMessageBox>
 
 #include <cstdio>
@@ -30,15 +39,39 @@ int runApplication(int argc, char** argv)
 {
     std::set_terminate(onTerminate);
     startup::setIdentity();
-    QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    // What is declared here ends in the opposite order: the window, the translator, the channel.
+    const QApplication application(argc, argv);
+    if (!isSupportedSystem()) {
+        DialogPrompts(nullptr).critical(QCoreApplication::translate("Startup", "Unsupported OS"),
+                                        startup::unsupportedSystemMessage());
+        return EXIT_FAILURE;
+    }
+
+    const QString file = startup::fileArgument(QCoreApplication::arguments());
+    SingleInstance instance;
+    if (!file.isEmpty() && instance.handOver(file)) {
+        return EXIT_SUCCESS;
+    }
+    if (!instance.listen()) {
+        spdlog::critical("Failed to start server: {}", instance.errorString().toStdString());
+        return EXIT_FAILURE;
+    }
+
+    QApplication::setWindowIcon(icons::application());
+    const auto translator =
+        translations::load(QLocale::system().uiLanguages(), QStringLiteral(":/i18n/"));
+    if (translator) {
+        QCoreApplication::installTranslator(translator.get());
+    }
 
     MainWindow window;
     window.show();
-    const QString file = startup::fileArgument(QCoreApplication::arguments());
     if (!file.isEmpty()) {
         window.openDatasetFile(file);
     }
+    QObject::connect(&instance, &SingleInstance::signalFileReceived, &window,
+                     &MainWindow::openDatasetFile);
+    instance.serve();
     return QApplication::exec();
 }
 
@@ -67,9 +100,18 @@ QString uncaughtMessage(const std::exception_ptr& exception)
     return QCoreApplication::translate("Startup", "Unknown exception, the application will quit.");
 }
 
+QString unsupportedSystemMessage()
+{
+    return QCoreApplication::translate("Startup",
+                                       "This application does not run on Windows Server edition. "
+                                       "Please download the server edition from the website: %1")
+        .arg(QString::fromUtf8(quorlane::webSite) + QStringLiteral("/download/"));
+}
+
 QString fileArgument(const QStringList& arguments)
 {
-    return arguments.size() < 2 ? QString() : QDir::current().absoluteFilePath(arguments.at(1));
+    const QString file = arguments.value(1);
+    return file.isEmpty() ? QString() : QDir::current().absoluteFilePath(file);
 }
 
 }  // namespace startup

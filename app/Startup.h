@@ -1,12 +1,14 @@
 #pragma once
 
+#include <QIcon>
 #include <QString>
 #include <QStringList>
 
 #include <exception>
 
-/// Runs the program: identity, main window, the file of the command line, event loop.
-/// @return  the exit code of the process
+/// Runs the program: identity, hand-over to an instance that runs, translation, main window, the
+/// file of the command line, event loop.
+/// @return  the exit code of the process; 0 also when the file was handed over
 [[nodiscard]] int runApplication(int argc, char** argv);
 
 namespace startup {
@@ -17,6 +19,9 @@ void setIdentity();
 
 /// What the user is told of an exception that nobody caught.
 [[nodiscard]] QString uncaughtMessage(const std::exception_ptr& exception);
+
+/// What the user is told on a system on which the program does not run.
+[[nodiscard]] QString unsupportedSystemMessage();
 
 /// The absolute path of the file named on the command line; empty when there is none. Arguments
 /// after the first are ignored.

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 /// Everything that asks the user something or tells them something. Tests answer in their place.
 class UserPrompts
 {
@@ -14,11 +16,24 @@ public:
     /// Tells that something failed.
     /// @param reason  why, in a sentence; may be empty
     virtual void warn(const QString& title, const QString& text, const QString& reason) = 0;
+    /// Tells that the program cannot go on.
+    virtual void critical(const QString& title, const QString& text) = 0;
     /// Tells something that is no failure.
     virtual void inform(const QString& title, const QString& text) = 0;
+    /// Tells something that is no failure and offers to open what it speaks of, the answers being
+    /// Open and OK, and OK what Return and Escape give.
+    /// @return  whether the user wants it opened
+    [[nodiscard]] virtual bool offerToOpen(const QString& title, const QString& text) = 0;
     /// Lets the user choose existing files.
     /// @param filters  patterns as Qt's file dialogs take them, separated by ";;"
     /// @return         the paths; none when the user cancels
     [[nodiscard]] virtual QStringList chooseFiles(const QString& title, const QString& folder,
                                                   const QString& filters) = 0;
+    /// Lets the user edit the condition of a dataset filter.
+    /// @return  nothing when the user cancels
+    [[nodiscard]] virtual std::optional<QString> editDataFilter(const QString& condition) = 0;
+    /// Lets the user edit the options, which are the name of the variable that identifies a
+    /// subject.
+    /// @return  the name as it is to be; the same one when the user cancels
+    [[nodiscard]] virtual QString editOptions(const QString& uniqueVarName) = 0;
 };

@@ -16,6 +16,8 @@ public:
     virtual void reportCommandError(const QString& message, const QString& command) = 0;
     /// Tells something that the user has to read.
     virtual void inform(const QString& title, const QString& text) = 0;
+    /// Tells that the user has given the grid's letters another size, which all grids share.
+    virtual void fontSizeChanged(int points) = 0;
     /// Tells something in passing.
     virtual void showMessage(const QString& text) = 0;
 

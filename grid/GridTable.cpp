@@ -117,12 +117,24 @@ void GridTable::fitColumns()
 void GridTable::changeFontSize(int step)
 {
     constexpr int smallestToShrink = 6;
-    QFont changed = font();
-    const int size = QFontInfo(changed).pointSize();
-    if (step < 0 && size < smallestToShrink) {
+    const int points = fontSize();
+    if (step > 0 || points >= smallestToShrink) {
+        setFontSize(points + step);
+    }
+}
+
+int GridTable::fontSize() const
+{
+    return QFontInfo(font()).pointSize();
+}
+
+void GridTable::setFontSize(int points)
+{
+    if (points == fontSize()) {
         return;
     }
-    changed.setPointSize(size + step);
+    QFont changed = font();
+    changed.setPointSize(points);
     setFont(changed);
     if (isReady()) {
         // Hidden rows would keep the height that they had.

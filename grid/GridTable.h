@@ -46,6 +46,8 @@ public:
     void fitColumns();
     /// Makes the letters that many points larger; below 6 points they get no smaller.
     void changeFontSize(int step);
+    void setFontSize(int points);
+    [[nodiscard]] int fontSize() const;
     /// What the horizontal header shows, names or labels.
     void setHeaderMode(HeaderMode mode);
     /// Shows exactly the rows that the dataset's filter masks select. To be called after every

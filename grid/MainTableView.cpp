@@ -382,6 +382,28 @@ void MainTableView::cmdAddByVar(const std::string& variable)
     }
 }
 
+bool MainTableView::setByVariables(const QString& names)
+{
+    if (!isReady()) {
+        return false;
+    }
+    QStringList words =
+        QString(names).replace(u';', u' ').simplified().split(u' ', Qt::SkipEmptyParts);
+    if (words.size() > 1 && words.front().compare(u"by", Qt::CaseInsensitive) == 0) {
+        words.removeFirst();
+    }
+    const bool areVariables = std::all_of(words.begin(), words.end(), [this](const QString& word) {
+        return variablenames::find(*dataset(), word).has_value();
+    });
+    if (areVariables) {
+        cmdClearByVar();
+        for (const QString& word : words) {
+            cmdAddByVar(word.toStdString());
+        }
+    }
+    return areVariables;
+}
+
 void MainTableView::addCurrentByVariable()
 {
     if (isCurrentVariableShown()) {
@@ -491,10 +513,10 @@ bool MainTableView::runColumnCommand(GridCommand command)
         cmdGotoVariable();
         return true;
     case GridCommand::LargerFont:
-        changeFontSize(1);
+        stepFontSize(1);
         return true;
     case GridCommand::SmallerFont:
-        changeFontSize(-1);
+        stepFontSize(-1);
         return true;
     default:
         return false;
@@ -527,6 +549,15 @@ bool MainTableView::runOtherCommand(GridCommand command)
         return true;
     default:
         return false;
+    }
+}
+
+void MainTableView::stepFontSize(int step)
+{
+    const int before = fontSize();
+    changeFontSize(step);
+    if (fontSize() != before) {
+        m_host->fontSizeChanged(fontSize());
     }
 }
 

@@ -65,6 +65,12 @@ public:
     /// Filters by a value that another view shows, as a quick filter on it would.
     void filterByValue(int variable, CompareOp op, const QuickFilter::Value& value);
     void filterByValues(int variable, std::span<const QuickFilter::Value> values);
+    /// Makes the named variables the BY list; an empty text clears it.
+    /// @param names  separated by blanks, "by" in front and a semicolon behind being allowed
+    /// @return       whether all are variables of the dataset; the list stays as it is otherwise
+    bool setByVariables(const QString& names);
+    /// The statistics made last, owned by this view wherever they are shown; null before any.
+    [[nodiscard]] QTableWidget* statisticsTable() const { return m_statistics.table(); }
     /// Sets the filters that texts say, as libraryFilterText() and datasetFilterText() gave them;
     /// empty for none. A library filter in force stays. Throws ParseError.
     void restoreFilters(const QString& libraryFilterText, const QString& datasetFilterText);
@@ -129,6 +135,7 @@ private:
     bool runOtherCommand(GridCommand command);
     void announceColumns();
     void shiftVariable(int step);
+    void stepFontSize(int step);
     void addCurrentByVariable();
     [[nodiscard]] std::variant<statistics::Table, statistics::Problem> describeSelection() const;
     void showStatistics();

@@ -12,6 +12,7 @@ public:
     [[nodiscard]] QString uniqueVarName() const override;
     void reportCommandError(const QString& message, const QString& command) override;
     void inform(const QString& title, const QString& text) override;
+    void fontSizeChanged(int /*points*/) override { }
     void showMessage(const QString& text) override;
 
 private:

@@ -3,7 +3,7 @@
 #include "grid/MainTableView.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/ScriptedDataset.h"
-#include "tests/support/ScriptedPrompts.h"
+#include "tests/support/TemporaryServices.h"
 
 #include <QComboBox>
 #include <QFileInfo>
@@ -91,9 +91,7 @@ void TestGridsInWindow::init()
     m_folder = std::make_unique<QTemporaryDir>();
     m_log = std::make_unique<LogCapture>();
     m_script = {};
-    MainWindowServices services;
-    services.store = std::make_unique<QSettings>(m_folder->filePath("s.ini"), QSettings::IniFormat);
-    services.prompts = std::make_unique<ScriptedPrompts>(m_script);
+    MainWindowServices services = temporaryServices(m_folder->path(), m_script);
     services.load = load;
     m_window = std::make_unique<MainWindow>(std::move(services));
     m_window->show();

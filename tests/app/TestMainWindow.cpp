@@ -4,7 +4,7 @@
 #include "grid/MainTableView.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/ScriptedDataset.h"
-#include "tests/support/ScriptedPrompts.h"
+#include "tests/support/TemporaryServices.h"
 
 #include <QAction>
 #include <QDir>
@@ -84,9 +84,7 @@ void TestMainWindow::init()
     m_script = {};
     m_loaded.clear();
     m_failing = false;
-    MainWindowServices services;
-    services.store = std::make_unique<QSettings>(path("settings.ini"), QSettings::IniFormat);
-    services.prompts = std::make_unique<ScriptedPrompts>(m_script);
+    MainWindowServices services = temporaryServices(m_folder->path(), m_script);
     services.load = [this](const QString& file, const OpenOptions&) { return load(file); };
     m_window = std::make_unique<MainWindow>(std::move(services));
     m_window->show();
@@ -142,16 +140,41 @@ DatasetWindow* TestMainWindow::activeDataset() const
 
 void TestMainWindow::actionsHaveTheirNamesTextsAndShortcuts()
 {
+    const QString open = QKeySequence::keyBindings(QKeySequence::Open).value(0).toString();
+    const QString find = QKeySequence::keyBindings(QKeySequence::Find).value(0).toString();
     const QStringList expected{
-        "actionOpenSasData|Open SAS Datasets|",     "actionOpenSpssData|Open SPSS Datasets|",
-        "actionOpenStataData|Open Stata Datasets|", "actionClose|Close\tCtrl+W|Ctrl+W",
-        "actionCloseAll|Close All|Ctrl+Shift+W",    "actionExit|Exit|Ctrl+Q",
+        "actionOpenSasData|Open SAS Datasets|" + open,
+        "actionOpenDatasetJson|Open Dataset-JSON Files|",
+        "actionOpenFolder|Open Folder|",
+        "actionManageLibraries|Manage Libraries|",
+        "actionSaveSession|Save Session...|",
+        "actionOpenRData|Open R Datasets|",
+        "actionOpenSpssData|Open SPSS Datasets|",
+        "actionOpenStataData|Open Stata Datasets|",
+        "actionOpenCsv|Open CSV Files|",
+        "actionNewSasProgram|New SAS Program|",
+        "actionClose|Close\tCtrl+W|Ctrl+W",
+        "actionCloseAll|Close All|Ctrl+Shift+W",
+        "actionExit|Exit|Ctrl+Q",
+        "actionFind|Find|" + find,
+        "actionOptions|Options|",
+        "actionAbout|About|",
+        "actionCheckForUpdates|Check for Updates|",
+        "actionDocumentation|Documentaiton|",  // sic
+        "actionCompare|Compare Datasets|",
+        "actionSubmit|Submit|Ctrl+R",
+        "actionToggleDarkMode|Toggle Dark Mode|Ctrl+D",
+        "actionQuickOpen|Quick Open|Ctrl+P",
+        "actionEditDataFilter|Edit Data Filter|",
+        "actionNextDataset|Next Dataset Tab|Ctrl+Tab",
+        "actionLayout1|Layout 1|Ctrl+1",
+        "actionLayout4|Layout 4|Ctrl+4",
     };
     QStringList found;
     for (const QString& line : expected) {
         const auto* action = m_window->findChild<QAction*>(line.section('|', 0, 0));
         QVERIFY2(action != nullptr, qPrintable(line));
-        found << QStringList({action->objectName(), action->text().remove('&'),
+        found << QStringList({action->objectName(), action->text(),
                               action->shortcut().toString(QKeySequence::PortableText)})
                      .join('|');
     }

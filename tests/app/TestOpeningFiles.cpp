@@ -3,7 +3,7 @@
 #include "data/StatDataset.h"
 #include "grid/MainTableView.h"
 #include "samples/TableWriter.h"
-#include "tests/support/ScriptedPrompts.h"
+#include "tests/support/TemporaryServices.h"
 
 #include <QFile>
 #include <QMdiArea>
@@ -38,10 +38,7 @@ private:
 void TestOpeningFiles::init()
 {
     m_script = {};
-    MainWindowServices services;
-    services.store =
-        std::make_unique<QSettings>(m_folder.filePath("settings.ini"), QSettings::IniFormat);
-    services.prompts = std::make_unique<ScriptedPrompts>(m_script);
+    MainWindowServices services = temporaryServices(m_folder.path(), m_script);
     m_window = std::make_unique<MainWindow>(std::move(services));
 }
 

@@ -1,9 +1,13 @@
+#include "app/Icons.h"
 #include "app/Startup.h"
+#include "app/WindowsCheck.h"
 
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QGuiApplication>
+#include <QSize>
 
 #include <stdexcept>
 
@@ -31,6 +35,30 @@ TEST(Startup, takesTheFirstArgumentAsAFileAndMakesItAbsolute)
 {
     const QString here = QDir::currentPath();
     EXPECT_EQ(startup::fileArgument({"quorlane"}), QString());
+    EXPECT_EQ(startup::fileArgument({"quorlane", ""}), QString());
     EXPECT_EQ(startup::fileArgument({"quorlane", "ae.xpt", "dm.xpt"}), here + "/ae.xpt");
     EXPECT_EQ(startup::fileArgument({"quorlane", "/data/ae.xpt"}), QString("/data/ae.xpt"));
+}
+
+TEST(Startup, sendsUsersOfServerSystemsToTheWebSite)
+{
+    EXPECT_EQ(startup::unsupportedSystemMessage().toStdString(),
+              "This application does not run on Windows Server edition. Please download the server "
+              "edition from the website: https://quorlane.brindlework.example/download/");
+}
+
+TEST(Startup, runsOnEverySystemButServerEditionsOfWindows)
+{
+    EXPECT_TRUE(isSupportedSystem());
+}
+
+TEST(Startup, hasAnIconForSmallAndLargePlaces)
+{
+    int count = 1;
+    char name[] = "test";
+    char* arguments[] = {name, nullptr};
+    const QGuiApplication application(count, arguments);
+    const QList<QSize> sizes = icons::application().availableSizes();
+    EXPECT_TRUE(sizes.contains(QSize(16, 16)));
+    EXPECT_TRUE(sizes.contains(QSize(256, 256)));
 }

@@ -3,6 +3,7 @@
 
 #include <QClipboard>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QShortcut>
 #include <QSignalSpy>
 
@@ -313,6 +314,7 @@ void TestGridKeys::fontKeysStopBelowSix()
     for (int i = 0; i < 12; ++i) {
         press(Qt::Key_Plus, Qt::ControlModifier);
     }
+    QCOMPARE(m_grid->host.takeNotes().last(), "font|22");
     QCOMPARE(m_grid->shown(), "1 4");
     m_grid->view->cmdRunCommand("cdf");
     QVERIFY(m_grid->view->rowHeight(0) > rowHeight);
@@ -322,6 +324,9 @@ void TestGridKeys::fontKeysStopBelowSix()
         press(Qt::Key_Minus, Qt::ControlModifier);
     }
     QCOMPARE(size(), 5);
+    const QStringList told = m_grid->host.takeNotes();
+    QCOMPARE(told.last(), "font|5");
+    QCOMPARE(told.count("font|5"), 1);
     QVERIFY(m_grid->view->columnWidth(GridFixture::Usubjid) < width);
 }
 
@@ -387,6 +392,7 @@ void TestGridKeys::keysDoNothingWithoutCells()
     }
     QCOMPARE(m_grid->columns(), "A B");
     QCOMPARE(m_grid->view->datasetFilterText(), "");
+    QCOMPARE(m_grid->host.takeNotes().filter(QRegularExpression("^(?!font)")), QStringList());
 
     m_grid->view->onHeaderClicked(1);  // which tells the variable where no cell can
     press(Qt::Key_H);

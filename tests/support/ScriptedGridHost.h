@@ -19,6 +19,7 @@ public:
     {
         notes << QStringList({"inform", title, text}).join('|');
     }
+    void fontSizeChanged(int points) override { notes << "font|" + QString::number(points); }
     void showMessage(const QString& text) override { notes << "message|" + text; }
 
     /// What was told since the last call.

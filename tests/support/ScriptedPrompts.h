@@ -12,7 +12,10 @@ public:
     struct Script
     {
         bool confirmation = false;
+        bool opening = false;
         QStringList chosenFiles{};
+        std::optional<QString> dataFilter{};
+        QString uniqueVarName{};  ///< kept as it is when empty
         QStringList notes{};  ///< one line "kind|title|text|..." for each prompt, in order
     };
 
@@ -29,15 +32,34 @@ public:
     {
         m_script.notes << QStringList({"warn", title, text, reason}).join('|');
     }
+    void critical(const QString& title, const QString& text) override
+    {
+        m_script.notes << QStringList({"critical", title, text}).join('|');
+    }
     void inform(const QString& title, const QString& text) override
     {
         m_script.notes << QStringList({"inform", title, text}).join('|');
+    }
+    [[nodiscard]] bool offerToOpen(const QString& title, const QString& text) override
+    {
+        m_script.notes << QStringList({"offer", title, text}).join('|');
+        return m_script.opening;
     }
     [[nodiscard]] QStringList chooseFiles(const QString& title, const QString& folder,
                                           const QString& filters) override
     {
         m_script.notes << QStringList({"files", title, folder, filters}).join('|');
         return m_script.chosenFiles;
+    }
+    [[nodiscard]] std::optional<QString> editDataFilter(const QString& condition) override
+    {
+        m_script.notes << QStringList({"data filter", condition}).join('|');
+        return m_script.dataFilter;
+    }
+    [[nodiscard]] QString editOptions(const QString& uniqueVarName) override
+    {
+        m_script.notes << QStringList({"options", uniqueVarName}).join('|');
+        return m_script.uniqueVarName.isEmpty() ? uniqueVarName : m_script.uniqueVarName;
     }
 
 private:

@@ -1,0 +1,146 @@
+#include "app/CommandBoxes.h"
+
+#include "app/CommandBar.h"
+#include "app/GridServices.h"
+#include "grid/MainTableView.h"
+
+#include <QMainWindow>
+
+namespace {
+
+/// The statement form of a condition for the dataset filter.
+QString statementOf(const QString& condition)
+{
+    return QStringLiteral("if ") + condition;
+}
+
+}  // namespace
+
+CommandBoxes::CommandBoxes(QMainWindow& window, GridServices& services)
+    : QObject(&window)
+    , m_window(window)
+    , m_services(services)
+    , m_datasetFilter(
+          addBar(tr("Dataset Filter"), QStringLiteral("toolBarDf"), QStringLiteral("comboBoxDf")))
+    , m_libraryFilter(
+          addBar(tr("Library Filter"), QStringLiteral("toolBarLf"), QStringLiteral("comboBoxLf")))
+    , m_byVariables(
+          addBar(tr("By Variables"), QStringLiteral("toolBarBy"), QStringLiteral("comboBoxBy")))
+{
+    connect(m_datasetFilter, &CommandBar::signalSubmitted, this,
+            &CommandBoxes::submitDatasetFilter);
+    connect(m_libraryFilter, &CommandBar::signalSubmitted, this,
+            &CommandBoxes::submitLibraryFilter);
+    connect(m_byVariables, &CommandBar::signalSubmitted, this, &CommandBoxes::submitByVariables);
+}
+
+CommandBar* CommandBoxes::addBar(const QString& title, const QString& barName,
+                                 const QString& boxName)
+{
+    auto* bar = new CommandBar(title, barName, boxName, &m_window);
+    m_window.addToolBar(bar);
+    connect(bar, &CommandBar::signalLeft, this, &CommandBoxes::focusGrid);
+    return bar;
+}
+
+void CommandBoxes::setGrid(MainTableView* grid)
+{
+    m_grid = grid;
+    showDatasetFilter(grid == nullptr ? QString() : grid->datasetFilterText());
+    showLibraryFilter(m_services.libraryFilter().text());
+    showByVariables();
+}
+
+void CommandBoxes::showDatasetFilter(const QString& text)
+{
+    m_datasetFilter->setText(text);
+}
+
+void CommandBoxes::showLibraryFilter(const QString& text)
+{
+    m_libraryFilter->setText(text);
+}
+
+void CommandBoxes::showByVariables()
+{
+    QStringList names;
+    if (m_grid != nullptr) {
+        for (const std::string& name : m_grid->byVariables()) {
+            names << QString::fromStdString(name);
+        }
+    }
+    m_byVariables->setText(names.join(u' '));
+}
+
+/// An empty line takes the filter away, as it leaves the box the way it is without one.
+void CommandBoxes::submitDatasetFilter(const QString& line)
+{
+    if (m_grid == nullptr) {
+        return;
+    }
+    if (line.trimmed().isEmpty()) {
+        m_grid->run(GridCommand::ClearDatasetFilter);
+    } else if (run(line)) {
+        m_datasetFilter->remember(line);
+        showDatasetFilter(m_grid->datasetFilterText());
+    }
+}
+
+void CommandBoxes::submitLibraryFilter(const QString& line)
+{
+    if (m_grid == nullptr) {
+        return;
+    }
+    if (line.trimmed().isEmpty()) {
+        m_grid->run(GridCommand::ClearLibraryFilter);
+    } else if (run(line)) {
+        m_libraryFilter->remember(line);
+        showLibraryFilter(m_grid->libraryFilterText());
+    }
+}
+
+/// Names of variables become the list, "by" in front of them or not; any other line is a command.
+void CommandBoxes::submitByVariables(const QString& line)
+{
+    if (m_grid == nullptr) {
+        return;
+    }
+    if (m_grid->setByVariables(line) || run(line)) {
+        m_byVariables->remember(line);
+        showByVariables();
+    }
+}
+
+void CommandBoxes::applyDataFilter(const QString& condition)
+{
+    if (m_grid == nullptr) {
+        return;
+    }
+    const QString plain = conditionOf(condition.simplified());
+    if (plain.isEmpty()) {
+        m_grid->run(GridCommand::ClearDatasetFilter);
+    } else if (m_services.replaceDatasetFilter(*m_grid, plain)) {
+        m_datasetFilter->remember(statementOf(plain));
+        showDatasetFilter(m_grid->datasetFilterText());
+    }
+}
+
+QString CommandBoxes::conditionOf(const QString& datasetFilterText)
+{
+    const QString keyword = statementOf(QString());
+    return datasetFilterText.startsWith(keyword, Qt::CaseInsensitive)
+        ? datasetFilterText.mid(keyword.size())
+        : datasetFilterText;
+}
+
+bool CommandBoxes::run(const QString& command)
+{
+    return m_services.runCommand(*m_grid, command);
+}
+
+void CommandBoxes::focusGrid()
+{
+    if (m_grid != nullptr) {
+        m_grid->setFocus();
+    }
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+class CommandBar;
+class GridServices;
+class MainTableView;
+class QMainWindow;
+
+/// The three boxes in which commands, the library filter and the BY variables of the active grid
+/// are typed, and what happens to what is typed there.
+class CommandBoxes : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Adds its toolbars to the window. Both outlive the boxes.
+    CommandBoxes(QMainWindow& window, GridServices& services);
+
+    /// Lets the boxes show and serve a grid; null for none. It has to be taken away before it goes.
+    void setGrid(MainTableView* grid);
+
+    [[nodiscard]] CommandBar* datasetFilterBar() const { return m_datasetFilter; }
+
+    /// Shows what is in force for the grid.
+    void showDatasetFilter(const QString& text);
+    void showLibraryFilter(const QString& text);
+    void showByVariables();
+
+    /// Puts a condition in the place of the grid's dataset filter; an empty one clears it.
+    void applyDataFilter(const QString& condition);
+    /// What stands behind the "if" of a dataset filter's text.
+    [[nodiscard]] static QString conditionOf(const QString& datasetFilterText);
+
+private:
+    [[nodiscard]] CommandBar* addBar(const QString& title, const QString& barName,
+                                     const QString& boxName);
+    void submitDatasetFilter(const QString& line);
+    void submitLibraryFilter(const QString& line);
+    void submitByVariables(const QString& line);
+    [[nodiscard]] bool run(const QString& command);
+    void focusGrid();
+
+    QMainWindow& m_window;
+    GridServices& m_services;
+    CommandBar* m_datasetFilter;
+    CommandBar* m_libraryFilter;
+    CommandBar* m_byVariables;
+    QPointer<MainTableView> m_grid;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QWidget>
+
+class QMdiArea;
+class QStackedLayout;
+
+/// The middle of the main window: the open datasets as tabs, or, while there are none, what says
+/// how to open one.
+class DatasetsArea : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DatasetsArea(QWidget* parent = nullptr);
+
+    [[nodiscard]] QMdiArea& mdiArea() const { return *m_mdiArea; }
+    /// Takes over what is shown while no dataset is open.
+    void setEmptyState(QWidget* widget);
+    void showDatasets(bool areOpen);
+
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+signals:
+    /// Another tab has been chosen.
+    void signalTabSwitched();
+
+private:
+    void createMdiArea();
+
+    QStackedLayout* m_pages;
+    QMdiArea* m_mdiArea;
+};

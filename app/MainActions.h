@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QCoreApplication>
+
+#include <array>
+
+class QAction;
+class QActionGroup;
+class QKeySequence;
+class QObject;
+class QString;
+
+/// The actions of the main window. What they do is connected by the window, which owns them.
+struct MainActions
+{
+    Q_DECLARE_TR_FUNCTIONS(MainActions)
+
+public:
+    static constexpr int layoutCount = 4;
+
+    explicit MainActions(QObject* window);
+
+    /// Switches off what has nothing to work on while no dataset is open.
+    void setDatasetOpen(bool isOpen);
+
+    QAction* openSasData = nullptr;
+    QAction* openDatasetJson = nullptr;
+    QAction* openFolder = nullptr;
+    QAction* manageLibraries = nullptr;
+    QAction* saveSession = nullptr;
+    QAction* openRData = nullptr;
+    QAction* openSpssData = nullptr;
+    QAction* openStataData = nullptr;
+    QAction* openCsv = nullptr;
+    QAction* newSasProgram = nullptr;
+    QAction* close = nullptr;
+    QAction* closeAll = nullptr;
+    QAction* exit = nullptr;
+    QAction* find = nullptr;
+    QAction* options = nullptr;
+    QAction* about = nullptr;
+    QAction* checkForUpdates = nullptr;
+    QAction* documentation = nullptr;
+    QAction* compare = nullptr;
+    QAction* submit = nullptr;
+    QAction* toggleDarkMode = nullptr;
+
+    QAction* quickOpen = nullptr;
+    QAction* editDataFilter = nullptr;
+    QAction* nextDataset = nullptr;
+    QActionGroup* layoutGroup = nullptr;
+    std::array<QAction*, layoutCount> layouts{};
+
+private:
+    void createOpeningActions();
+    void createFileActions();
+    void createOtherActions();
+    void createBarActions();
+    void createLayoutActions();
+    void drawIcons();
+    [[nodiscard]] QAction* add(const char* name, const QString& text);
+
+    QObject* m_window;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QStringList>
+#include <QTranslator>
+
+#include <memory>
+
+/// The texts of the user interface in other languages: "quorlane_de_DE.qm" and so on.
+namespace translations {
+
+/// Loads the first translation there is for one of the languages.
+/// @param uiLanguages  as QLocale::uiLanguages() lists them, the preferred one first
+/// @return             null when there is none, and the texts stay English
+[[nodiscard]] std::unique_ptr<QTranslator> load(const QStringList& uiLanguages,
+                                                const QString& folder);
+
+}  // namespace translations

@@ -1,0 +1,6 @@
+#include "app/WindowsCheck.h"
+
+bool isSupportedSystem()
+{
+    return true;
+}

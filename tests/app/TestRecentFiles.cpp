@@ -1,0 +1,257 @@
+#include "app/EmptyState.h"
+#include "app/RecentFiles.h"
+#include "app/Settings.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QMenu>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+class TestRecentFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void lastOpenedIsFirstAndNoneIsThereTwice();
+    void pathsAreAbsoluteAndClean();
+    void onlyTenAreKept();
+    void listOutlivesTheProgram();
+    void nothingIsAnnouncedWhenNothingChanges();
+    void menuListsTheFilesWithTheirKeys();
+    void menuKeepsWhatItHeldBefore();
+    void chosenFileIsAskedFor();
+    void fileThatHasGoneLeavesTheList();
+    void emptyStateOffersActionsAndFiles();
+    void emptyStateIsOperatedByKeys();
+    void emptyStateCoversItsParent();
+    void fileClickedMayReplaceTheList();
+
+private:
+    [[nodiscard]] QString path(const QString& name) const { return m_folder->filePath(name); }
+    [[nodiscard]] static QStringList texts(const QMenu& menu);
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QSettings> m_store;
+    std::unique_ptr<Settings> m_settings;
+    std::unique_ptr<RecentFiles> m_files;
+};
+
+void TestRecentFiles::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_store = std::make_unique<QSettings>(path("settings.ini"), QSettings::IniFormat);
+    m_settings = std::make_unique<Settings>(*m_store);
+    m_files = std::make_unique<RecentFiles>(*m_settings);
+}
+
+void TestRecentFiles::cleanup()
+{
+    m_files.reset();
+    m_settings.reset();
+    m_store.reset();
+}
+
+/// The menu's entries, separators as "-".
+QStringList TestRecentFiles::texts(const QMenu& menu)
+{
+    QStringList result;
+    for (const QAction* action : menu.actions()) {
+        result << (action->isSeparator() ? QStringLiteral("-") : action->text());
+    }
+    return result;
+}
+
+void TestRecentFiles::lastOpenedIsFirstAndNoneIsThereTwice()
+{
+    for (const char* name : {"/d/a", "/d/b", "/d/c", "/d/a"}) {
+        m_files->add(name);
+    }
+    QCOMPARE(m_files->paths(), QStringList({"/d/a", "/d/c", "/d/b"}));
+    m_files->clear();
+    QCOMPARE(m_files->paths(), QStringList());
+}
+
+void TestRecentFiles::pathsAreAbsoluteAndClean()
+{
+    m_files->add("x/../a.csv");
+    m_files->add(QDir::current().absoluteFilePath("a.csv"));
+    QCOMPARE(m_files->paths(), QStringList({QDir::currentPath() + "/a.csv"}));
+}
+
+void TestRecentFiles::onlyTenAreKept()
+{
+    for (int number = 1; number <= 12; ++number) {
+        m_files->add(QStringLiteral("/d/%1").arg(number));
+    }
+    QCOMPARE(m_files->paths().size(), 10);
+    QCOMPARE(m_files->paths().constFirst(), "/d/12");
+    QCOMPARE(m_files->paths().constLast(), "/d/3");
+}
+
+void TestRecentFiles::listOutlivesTheProgram()
+{
+    m_files->add("/d/one, two.csv");
+    m_files->add("/d/größe.csv");
+    m_store->sync();
+
+    QSettings store(path("settings.ini"), QSettings::IniFormat);
+    Settings settings(store);
+    QCOMPARE(RecentFiles(settings).paths(), QStringList({"/d/größe.csv", "/d/one, two.csv"}));
+}
+
+void TestRecentFiles::nothingIsAnnouncedWhenNothingChanges()
+{
+    QSignalSpy changes(m_files.get(), &RecentFiles::signalChanged);
+    m_files->add("/d/a");
+    m_files->add("/d/a");
+    QCOMPARE(changes.count(), 1);
+    m_files->clear();
+    m_files->clear();
+    QCOMPARE(changes.count(), 2);
+}
+
+void TestRecentFiles::menuListsTheFilesWithTheirKeys()
+{
+    QMenu menu;
+    m_files->showIn(&menu);
+    QCOMPARE(texts(menu), QStringList());
+    for (const char* name : {"j", "i", "h", "g", "f", "e", "d", "c", "b", "A & B.csv"}) {
+        m_files->add(QStringLiteral("/d&x/%1").arg(name));
+    }
+    const QStringList entries = texts(menu);
+    QCOMPARE(entries.size(), 11);
+    QCOMPARE(entries.at(0), "-");
+    QCOMPARE(entries.at(1), "&1 A && B.csv (in /d&&x)");
+    QCOMPARE(entries.at(9), "&9 i (in /d&&x)");
+    QCOMPARE(entries.at(10), "10 j (in /d&&x)");
+}
+
+void TestRecentFiles::menuKeepsWhatItHeldBefore()
+{
+    QMenu menu;
+    menu.addAction("Exit");
+    m_files->add("/d/a");
+    m_files->showIn(&menu);
+    m_files->add("/d/b");
+    QCOMPARE(texts(menu), QStringList({"Exit", "-", "&1 b (in /d)", "&2 a (in /d)"}));
+    m_files->clear();
+    QCOMPARE(texts(menu), QStringList({"Exit"}));
+}
+
+void TestRecentFiles::chosenFileIsAskedFor()
+{
+    QFile file(path("a.csv"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QMenu menu;
+    m_files->showIn(&menu);
+    m_files->add(file.fileName());
+    m_files->add("/d/b");
+    QSignalSpy requests(m_files.get(), &RecentFiles::signalOpenRequested);
+
+    menu.actions().constLast()->trigger();
+
+    QCOMPARE(requests.count(), 1);
+    QCOMPARE(requests.constFirst().constFirst().toString(), file.fileName());
+    QCOMPARE(m_files->paths().size(), 2);
+}
+
+void TestRecentFiles::fileThatHasGoneLeavesTheList()
+{
+    QMenu menu;
+    m_files->showIn(&menu);
+    m_files->add(path("gone.csv"));
+    QSignalSpy requests(m_files.get(), &RecentFiles::signalOpenRequested);
+
+    menu.actions().constLast()->trigger();
+
+    QCOMPARE(requests.count(), 1);
+    QCOMPARE(m_files->paths(), QStringList());
+    QCOMPARE(texts(menu), QStringList());
+}
+
+void TestRecentFiles::emptyStateOffersActionsAndFiles()
+{
+    QWidget parent;
+    QAction open("&Open SAS Datasets");
+    open.setShortcut(QKeySequence("Ctrl+O"));
+    QAction other("Open CSV Files");
+    other.setEnabled(false);
+    EmptyState state(&parent);
+    state.setActions({&open, &other});
+    state.setRecentFiles({"/d/a&b.csv"});
+    QSignalSpy triggered(&open, &QAction::triggered);
+    QSignalSpy requests(&state, &EmptyState::signalOpenRequested);
+
+    const auto actions = state.findChildren<QToolButton*>("buttonAction");
+    const auto files = state.findChildren<QToolButton*>("buttonRecentFile");
+    QCOMPARE(actions.size(), 2);
+    QCOMPARE(actions.at(0)->text(), "Open SAS Datasets (Ctrl+O)");
+    QVERIFY(!actions.at(1)->isEnabled());
+    QCOMPARE(files.size(), 1);
+    QCOMPARE(files.at(0)->text(), "a&&b.csv (in /d)");
+    actions.at(0)->click();
+    files.at(0)->click();
+
+    QCOMPARE(triggered.count(), 1);
+    QCOMPARE(requests.count(), 1);
+    QCOMPARE(requests.constFirst().constFirst().toString(), "/d/a&b.csv");
+}
+
+void TestRecentFiles::emptyStateIsOperatedByKeys()
+{
+    QWidget parent;
+    parent.resize(800, 600);
+    QAction open("Open");
+    QAction other("Other");
+    EmptyState state(&parent);
+    state.setRecentFiles({"/d/a.csv"});
+    state.setActions({&open, &other});
+    QSignalSpy requests(&state, &EmptyState::signalOpenRequested);
+    parent.show();
+    QVERIFY(QTest::qWaitForWindowActive(&parent));
+    state.findChild<QToolButton*>("buttonAction")->setFocus();
+    QTest::keyClick(&parent, Qt::Key_Tab);
+    QVERIFY(state.findChildren<QToolButton*>("buttonAction").at(1)->hasFocus());
+    QTest::keyClick(&parent, Qt::Key_Tab);
+    auto* file = state.findChild<QToolButton*>("buttonRecentFile");
+    QVERIFY(file->hasFocus());
+    QTest::keyClick(file, Qt::Key_Space);
+    QCOMPARE(requests.count(), 1);
+}
+
+void TestRecentFiles::emptyStateCoversItsParent()
+{
+    QWidget parent;
+    parent.resize(800, 600);
+    EmptyState state(&parent);
+    parent.show();
+    QCOMPARE(state.geometry(), QRect(0, 0, 800, 600));
+    parent.resize(500, 300);
+    QTRY_COMPARE(state.geometry(), QRect(0, 0, 500, 300));
+}
+
+void TestRecentFiles::fileClickedMayReplaceTheList()
+{
+    QWidget parent;
+    EmptyState state(&parent);
+    state.setRecentFiles({"/d/a", "/d/b"});
+    connect(&state, &EmptyState::signalOpenRequested, &state,
+            [&](const QString& file) { state.setRecentFiles({file}); });
+
+    state.findChildren<QToolButton*>().at(1)->click();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    const auto buttons = state.findChildren<QToolButton*>();
+    QCOMPARE(buttons.size(), 1);
+    QCOMPARE(buttons.at(0)->text(), "b (in /d)");
+}
+
+QTEST_MAIN(TestRecentFiles)
+#include "TestRecentFiles.moc"

@@ -1,0 +1,227 @@
+#include "app/UpdateCheck.h"
+#include "tests/support/HttpServer.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/ScriptedPrompts.h"
+
+#include <QNetworkProxy>
+#include <QTest>
+#include <QUrl>
+
+#include <algorithm>
+
+class TestUpdateCheck : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void onlyANewerVersionIsOffered_data();
+    void onlyANewerVersionIsOffered();
+    void downloadPageIsOpenedOnRequestOnly_data();
+    void downloadPageIsOpenedOnRequestOnly();
+    void failuresAreLoggedOnly_data();
+    void failuresAreLoggedOnly();
+    void unreachableSiteIsLoggedOnly();
+    void silentSiteIsGivenUp();
+    void oversizedAnswerIsGivenUp();
+    void redirectIsFollowed();
+    void secondCheckWaitsForTheFirstAnswer();
+    void checkMayEndWhileAnAnswerIsAwaited();
+
+private:
+    /// Makes the check and waits until its reply is gone.
+    void check(const std::function<void(UpdateCheck::Setup&)>& change = {});
+    [[nodiscard]] UpdateCheck::Setup setup();
+    void answer(const QByteArray& body) { m_server->answer(manifest, "200 OK", body); }
+
+    static constexpr auto manifest = "/updates/update.json";
+    std::unique_ptr<HttpServer> m_server;
+    std::unique_ptr<LogCapture> m_log;
+    ScriptedPrompts::Script m_script;
+    QStringList m_opened;
+};
+
+void TestUpdateCheck::initTestCase()
+{
+    // The surroundings may name one.
+    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+}
+
+void TestUpdateCheck::init()
+{
+    m_server = std::make_unique<HttpServer>();
+    QVERIFY(m_server->isListening());
+    m_log = std::make_unique<LogCapture>();
+    m_script = {};
+    m_opened.clear();
+}
+
+void TestUpdateCheck::cleanup()
+{
+    QCOMPARE(m_log->take(), "");
+    m_log.reset();
+    m_server.reset();
+}
+
+UpdateCheck::Setup TestUpdateCheck::setup()
+{
+    UpdateCheck::Setup setup;
+    setup.webSite = m_server->address();
+    setup.version = "2025.10.28";
+    setup.openPage = [this](const QUrl& page) { m_opened << page.toString(); };
+    return setup;
+}
+
+void TestUpdateCheck::check(const std::function<void(UpdateCheck::Setup&)>& change)
+{
+    UpdateCheck::Setup setup = this->setup();
+    if (change) {
+        change(setup);
+    }
+    ScriptedPrompts prompts(m_script);
+    UpdateCheck check(setup, prompts);
+    check.check();
+    QTRY_VERIFY(!check.isBusy());
+}
+
+void TestUpdateCheck::onlyANewerVersionIsOffered_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QString>("offered");
+    const auto version = [](const QByteArray& text) { return R"({"version": ")" + text + "\"}"; };
+    QTest::newRow("the same") << version("2025.10.28") << "";
+    QTest::newRow("next month") << version("2025.11.01") << "2025.11.01";
+    QTest::newRow("next year, earlier month") << version("2026.01.01") << "2026.01.01";
+    QTest::newRow("month before") << version("2025.09.30") << "";
+    QTest::newRow("compared as text, smaller") << version("10000.01.01") << "";
+    QTest::newRow("compared as text, greater") << version("v1") << "v1";
+    QTest::newRow("longer") << version("2025.10.28.1") << "2025.10.28.1";
+    QTest::newRow("markup stays text") << version("<b>9</b>") << "<b>9</b>";
+    QTest::newRow("place markers stay text") << version("3%1%2") << "3%1%2";
+    QTest::newRow("other keys") << QByteArray(R"({"a": [1], "version": "3", "b": {}})") << "3";
+    QTest::newRow("no version") << QByteArray(R"({"latest": "2026.01.01"})") << "";
+    QTest::newRow("version is a number") << QByteArray(R"({"version": 2026.01})") << "";
+    QTest::newRow("array") << QByteArray(R"(["version", "2026.01.01"])") << "";
+    QTest::newRow("no JSON") << QByteArray("<html>version 2026.01.01</html>") << "";
+    QTest::newRow("cut off") << QByteArray(R"({"version": "2026.01.01")") << "";
+    QTest::newRow("empty") << QByteArray() << "";
+}
+
+void TestUpdateCheck::onlyANewerVersionIsOffered()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(QString, offered);
+    answer(body);
+    check();
+    QCOMPARE(m_server->requests(), QStringList("GET /updates/update.json HTTP/1.1"));
+    const QString note = "offer|Update Available|A new version is available!\n\nLatest version: "
+        + offered + "\nYour version: 2025.10.28\n\nClick 'Open' to get the latest version:\n"
+        + m_server->address() + "/download/";
+    QCOMPARE(m_script.notes, offered.isEmpty() ? QStringList() : QStringList(note));
+}
+
+void TestUpdateCheck::downloadPageIsOpenedOnRequestOnly_data()
+{
+    QTest::addColumn<bool>("opening");
+    QTest::newRow("Open") << true;
+    QTest::newRow("OK") << false;
+}
+
+void TestUpdateCheck::downloadPageIsOpenedOnRequestOnly()
+{
+    QFETCH(bool, opening);
+    m_script.opening = opening;
+    answer(R"({"version": "2026.01.01"})");
+    check();
+    QCOMPARE(m_script.notes.size(), 1);
+    QCOMPARE(m_opened, opening ? QStringList(m_server->address() + "/download/") : QStringList());
+}
+
+void TestUpdateCheck::failuresAreLoggedOnly_data()
+{
+    QTest::addColumn<QByteArray>("status");
+    QTest::newRow("missing") << QByteArray("404 Not Found");
+    QTest::newRow("server error") << QByteArray("500 Internal Server Error");
+}
+
+void TestUpdateCheck::failuresAreLoggedOnly()
+{
+    QFETCH(QByteArray, status);
+    m_server->answer(manifest, status, R"({"version": "2026.01.01"})");
+    check();
+    const std::string log = m_log->take();
+    QVERIFY2(log.starts_with("warning: Update check failed: "), log.c_str());
+    QCOMPARE(std::ranges::count(log, '\n'), 1);
+    QCOMPARE(m_script.notes, QStringList());
+}
+
+void TestUpdateCheck::unreachableSiteIsLoggedOnly()
+{
+    const QString address = m_server->address();
+    m_server->close();
+    check([&](UpdateCheck::Setup& setup) { setup.webSite = address; });
+    const std::string log = m_log->take();
+    QVERIFY2(log.starts_with("warning: Update check failed: "), log.c_str());
+    QCOMPARE(std::ranges::count(log, '\n'), 1);
+    QCOMPARE(m_script.notes, QStringList());
+}
+
+void TestUpdateCheck::silentSiteIsGivenUp()
+{
+    check([](UpdateCheck::Setup& setup) { setup.timeLimit = std::chrono::milliseconds(50); });
+    QCOMPARE(m_log->take(), "warning: Update check failed: no answer in time\n");
+    QCOMPARE(m_script.notes, QStringList());
+}
+
+void TestUpdateCheck::oversizedAnswerIsGivenUp()
+{
+    const QByteArray body = R"({"version": "2026.01.01", "x": ")" + QByteArray(70'000, 'x') + "\"}";
+    answer(body);
+    check();
+    QCOMPARE(m_log->take(), "warning: Update check failed: the answer is too large\n");
+    QCOMPARE(m_script.notes, QStringList());
+
+    check([&](UpdateCheck::Setup& setup) { setup.sizeLimit = body.size(); });
+    QCOMPARE(m_script.notes.size(), 1);
+}
+
+void TestUpdateCheck::redirectIsFollowed()
+{
+    m_server->answer(manifest, "302 Found", {}, "Location: /moved.json\r\n");
+    m_server->answer("/moved.json", "200 OK", R"({"version": "2026.01.01"})");
+    check();
+    QCOMPARE(m_server->requests().value(1), "GET /moved.json HTTP/1.1");
+    QCOMPARE(m_script.notes.size(), 1);
+}
+
+void TestUpdateCheck::secondCheckWaitsForTheFirstAnswer()
+{
+    answer(R"({"version": "2026.01.01"})");
+    ScriptedPrompts prompts(m_script);
+    UpdateCheck check(setup(), prompts);
+    check.check();
+    check.check();
+    QTRY_VERIFY(!check.isBusy());
+    QCOMPARE(m_server->requests().size(), 1);
+    QCOMPARE(m_script.notes.size(), 1);
+
+    check.check();
+    QTRY_VERIFY(!check.isBusy());
+    QCOMPARE(m_script.notes.size(), 2);
+}
+
+void TestUpdateCheck::checkMayEndWhileAnAnswerIsAwaited()
+{
+    {
+        ScriptedPrompts prompts(m_script);
+        UpdateCheck check(setup(), prompts);
+        check.check();
+        QTRY_COMPARE(m_server->requests().size(), 1);
+    }
+    QCOMPARE(m_script.notes, QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestUpdateCheck)
+#include "TestUpdateCheck.moc"
