@@ -2,6 +2,8 @@
 
 #include "app/HistoryComboBox.h"
 
+#include <QLineEdit>
+
 CommandBar::CommandBar(const QString& title, const QString& barName, const QString& boxName,
                        QWidget* parent)
     : QToolBar(title, parent)
@@ -14,17 +16,18 @@ CommandBar::CommandBar(const QString& title, const QString& barName, const QStri
     connect(m_box, &HistoryComboBox::signalLeft, this, &CommandBar::signalLeft);
 }
 
+void CommandBar::setUsualWidth(int letters)
+{
+    m_box->setMinimumContentsLength(letters);
+}
+
 void CommandBar::setText(const QString& text)
 {
     m_box->setEditText(text);
+    m_box->lineEdit()->setCursorPosition(0);  // a long text is read from its beginning
 }
 
 void CommandBar::remember(const QString& line)
 {
     m_box->remember(line);
-}
-
-void CommandBar::focusBox()
-{
-    m_box->setFocus(Qt::OtherFocusReason);
 }

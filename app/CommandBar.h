@@ -15,12 +15,12 @@ public:
     CommandBar(const QString& title, const QString& barName, const QString& boxName,
                QWidget* parent = nullptr);
 
-    /// Shows what is in force, unless the user is typing something else.
+    /// How wide the box is where the window has room for it.
+    void setUsualWidth(int letters);
+    /// Shows what is in force.
     void setText(const QString& text);
     /// Adds a line that has run to the box's list.
     void remember(const QString& line);
-    /// Puts the cursor into the box.
-    void focusBox();
 
 signals:
     /// A line is to be run.

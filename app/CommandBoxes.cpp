@@ -27,6 +27,10 @@ CommandBoxes::CommandBoxes(QMainWindow& window, GridServices& services)
     , m_byVariables(
           addBar(tr("By Variables"), QStringLiteral("toolBarBy"), QStringLiteral("comboBoxBy")))
 {
+    constexpr int wide = 36;
+    constexpr int narrow = 14;
+    m_datasetFilter->setUsualWidth(wide);
+    m_byVariables->setUsualWidth(narrow);
     connect(m_datasetFilter, &CommandBar::signalSubmitted, this,
             &CommandBoxes::submitDatasetFilter);
     connect(m_libraryFilter, &CommandBar::signalSubmitted, this,

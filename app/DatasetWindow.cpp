@@ -1,5 +1,6 @@
 #include "app/DatasetWindow.h"
 
+#include "app/Icons.h"
 #include "data/StatDataset.h"
 #include "grid/MainTableModel.h"
 #include "grid/MainTableView.h"
@@ -32,6 +33,7 @@ DatasetWindow::DatasetWindow(std::unique_ptr<StatDataset> dataset, const Dataset
     setProperty("fileTimestamp", origin.fileTimestamp);
     createGrid(gridHost);
     setWindowTitle(titleOf(origin));
+    setWindowIcon(icons::forDataset(origin.filePath));
     dropSystemMenuShortcuts();
     addCloseKey();
 }

@@ -39,7 +39,6 @@ void DockWindows::arrange()
     m_window.setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     m_window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     m_window.tabifyDockWidget(m_univariate, m_shortcutKeys);
-    m_univariate->raise();
     m_window.tabifyDockWidget(m_code, m_log);
     m_window.tabifyDockWidget(m_log, m_output);
     for (QDockWidget* dock : {m_code, m_log, m_output}) {

@@ -27,6 +27,8 @@ void PaneLayout::applyToSide(Qt::DockWidgetArea area, int percent)
     for (QDockWidget* dock : docks) {
         dock->setVisible(percent > 0);
     }
+    // Of those that share a place the first comes to the front.
+    std::for_each(docks.rbegin(), docks.rend(), [](QDockWidget* dock) { dock->raise(); });
 }
 
 void PaneLayout::resizeSide(Qt::DockWidgetArea area, int percent)
