@@ -77,6 +77,7 @@ void GridColumns::showOnly(std::span<const int> variables)
 std::vector<int> GridColumns::order() const
 {
     std::vector<int> variables;
+    variables.reserve(static_cast<std::size_t>(header().count()));
     for (int place = 0; place < header().count(); ++place) {
         variables.push_back(header().logicalIndex(place));
     }
