@@ -27,6 +27,12 @@ void CommandBar::setText(const QString& text)
     m_box->lineEdit()->setCursorPosition(0);  // a long text is read from its beginning
 }
 
+void CommandBar::edit()
+{
+    m_box->setFocus(Qt::ShortcutFocusReason);
+    m_box->lineEdit()->selectAll();
+}
+
 void CommandBar::remember(const QString& line)
 {
     m_box->remember(line);

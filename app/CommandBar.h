@@ -19,6 +19,8 @@ public:
     void setUsualWidth(int letters);
     /// Shows what is in force.
     void setText(const QString& text);
+    /// Lets the user type in the box, over what stands there.
+    void edit();
     /// Adds a line that has run to the box's list.
     void remember(const QString& line);
 

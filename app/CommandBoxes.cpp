@@ -87,6 +87,7 @@ void CommandBoxes::submitDatasetFilter(const QString& line)
     } else if (run(line)) {
         m_datasetFilter->remember(line);
         showDatasetFilter(m_grid->datasetFilterText());
+        focusGrid();
     }
 }
 
@@ -100,6 +101,7 @@ void CommandBoxes::submitLibraryFilter(const QString& line)
     } else if (run(line)) {
         m_libraryFilter->remember(line);
         showLibraryFilter(m_grid->libraryFilterText());
+        focusGrid();
     }
 }
 
@@ -112,6 +114,7 @@ void CommandBoxes::submitByVariables(const QString& line)
     if (m_grid->setByVariables(line) || run(line)) {
         m_byVariables->remember(line);
         showByVariables();
+        focusGrid();
     }
 }
 

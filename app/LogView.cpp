@@ -78,7 +78,7 @@ void LogView::createControls()
     copyKeys->setContext(Qt::WidgetShortcut);
     connect(copyKeys, &QShortcut::activated, this, &LogView::copy);
 
-    m_clear = new QPushButton(icons::icon(QStringLiteral("clear")), tr("Clea&r"), this);
+    m_clear = new QPushButton(icons::icon(QStringLiteral("clear")), tr("C&lear"), this);
     m_clear->setObjectName(QStringLiteral("buttonClearLog"));
     connect(m_clear, &QPushButton::clicked, m_model, &LogModel::clear);
 }

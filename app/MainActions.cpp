@@ -76,6 +76,8 @@ void MainActions::createBarActions()
     quickOpen->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_P), QKeySequence(Qt::Key_Q)});
     quickOpen->setEnabled(false);  // its palette is not part of this version
     editDataFilter = add("actionEditDataFilter", tr("Edit Data Filter"));
+    goToDatasetFilter = add("actionGoToDatasetFilter", tr("Go to Dataset Filter"));
+    goToDatasetFilter->setShortcut(Qt::CTRL | Qt::Key_L);
     nextDataset = add("actionNextDataset", tr("Next Dataset Tab"));
     nextDataset->setShortcut(Qt::CTRL | Qt::Key_Tab);
 }
@@ -138,7 +140,8 @@ void MainActions::drawIcons()
 
 void MainActions::setDatasetOpen(bool isOpen)
 {
-    for (QAction* action : {close, closeAll, submit, editDataFilter, nextDataset}) {
+    for (QAction* action :
+         {close, closeAll, submit, editDataFilter, goToDatasetFilter, nextDataset}) {
         action->setEnabled(isOpen);
     }
 }

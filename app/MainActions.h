@@ -47,6 +47,7 @@ public:
 
     QAction* quickOpen = nullptr;
     QAction* editDataFilter = nullptr;
+    QAction* goToDatasetFilter = nullptr;
     QAction* nextDataset = nullptr;
     QActionGroup* layoutGroup = nullptr;
     std::array<QAction*, layoutCount> layouts{};

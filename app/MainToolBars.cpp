@@ -1,7 +1,6 @@
 #include "app/MainToolBars.h"
 
 #include "app/MainActions.h"
-#include "grid/MainTableModel.h"
 
 #include <QActionGroup>
 #include <QButtonGroup>

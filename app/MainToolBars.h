@@ -1,5 +1,7 @@
 #pragma once
 
+#include "grid/MainTableModel.h"
+
 #include <QAbstractButton>
 #include <QObject>
 
@@ -7,7 +9,6 @@ class QButtonGroup;
 class QMainWindow;
 class QRadioButton;
 class QToolBar;
-enum class HeaderMode : std::uint32_t;
 struct MainActions;
 
 /// The toolbars of the main window besides the command boxes: quick open, layouts, and the switch

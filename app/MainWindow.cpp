@@ -138,6 +138,8 @@ void MainWindow::createToolBars()
     m_toolBars = new MainToolBars(*this, *m_actions);
     m_boxes = new CommandBoxes(*this, *m_gridServices);
     m_boxes->datasetFilterBar()->addAction(m_actions->editDataFilter);
+    connect(m_actions->goToDatasetFilter, &QAction::triggered, m_boxes->datasetFilterBar(),
+            &CommandBar::edit);
     m_toolBars->addRightBars(*m_actions);
     m_toolBars->showHeaderMode(m_settings->headersShowLabels() ? HeaderMode::VariableLabels
                                                                : HeaderMode::VariableNames);

@@ -222,7 +222,7 @@ constexpr std::array rows{
         QT_TRANSLATE_NOOP("ShortcutList", "Jump to the focused variable in Dataset Window.")},
 };
 
-QString translate(const char* text)
+QString translated(const char* text)
 {
     return QCoreApplication::translate("ShortcutList", text);
 }
@@ -253,13 +253,13 @@ QString contextName(ShortcutContext context)
 {
     switch (context) {
     case Context::Global:
-        return translate(QT_TRANSLATE_NOOP("ShortcutList", "Global"));
+        return translated(QT_TRANSLATE_NOOP("ShortcutList", "Global"));
     case Context::DatasetWindow:
-        return translate(QT_TRANSLATE_NOOP("ShortcutList", "Dataset Window"));
+        return translated(QT_TRANSLATE_NOOP("ShortcutList", "Dataset Window"));
     case Context::FrequencyWindow:
-        return translate(QT_TRANSLATE_NOOP("ShortcutList", "Frequency Window"));
+        return translated(QT_TRANSLATE_NOOP("ShortcutList", "Frequency Window"));
     case Context::VariablesWindow:
-        return translate(QT_TRANSLATE_NOOP("ShortcutList", "Variables Window"));
+        return translated(QT_TRANSLATE_NOOP("ShortcutList", "Variables Window"));
     }
     return {};
 }
@@ -268,8 +268,8 @@ QList<Shortcut> all()
 {
     QList<Shortcut> shortcuts;
     for (const Row& row : rows) {
-        shortcuts << Shortcut{row.context, translate(row.action), keyTexts(row),
-                              translate(row.description)};
+        shortcuts << Shortcut{row.context, translated(row.action), keyTexts(row),
+                              translated(row.description)};
     }
     return shortcuts;
 }

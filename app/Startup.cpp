@@ -60,8 +60,11 @@ int runApplication(int argc, char** argv)
     QApplication::setWindowIcon(icons::application());
     const auto translator =
         translations::load(QLocale::system().uiLanguages(), QStringLiteral(":/i18n/"));
-    if (translator) {
-        QCoreApplication::installTranslator(translator.get());
+    const auto toolkitTranslator = translator ? translations::loadToolkit(*translator) : nullptr;
+    for (QTranslator* each : {toolkitTranslator.get(), translator.get()}) {
+        if (each != nullptr) {
+            QCoreApplication::installTranslator(each);
+        }
     }
 
     MainWindow window;

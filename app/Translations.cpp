@@ -1,5 +1,6 @@
 #include "app/Translations.h"
 
+#include <QLibraryInfo>
 #include <QLocale>
 
 namespace translations {
@@ -14,6 +15,15 @@ std::unique_ptr<QTranslator> load(const QStringList& uiLanguages, const QString&
         }
     }
     return nullptr;
+}
+
+std::unique_ptr<QTranslator> loadToolkit(const QTranslator& translation)
+{
+    auto toolkit = std::make_unique<QTranslator>();
+    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    const bool isThere = toolkit->load(QLocale(translation.language()), QStringLiteral("qtbase"),
+                                       QStringLiteral("_"), folder);
+    return isThere ? std::move(toolkit) : nullptr;
 }
 
 }  // namespace translations

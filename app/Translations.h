@@ -14,4 +14,8 @@ namespace translations {
 [[nodiscard]] std::unique_ptr<QTranslator> load(const QStringList& uiLanguages,
                                                 const QString& folder);
 
+/// Loads what the toolkit says by itself, on buttons and in file dialogs, in the language of such a
+/// translation; null where the system does not have it.
+[[nodiscard]] std::unique_ptr<QTranslator> loadToolkit(const QTranslator& translation);
+
 }  // namespace translations

@@ -47,6 +47,7 @@ private slots:
     void libraryFilterBoxWorksOnAllDatasets();
     void byVariablesBoxSetsTheList();
     void emptyLinesClearWhatTheBoxShows();
+    void keyboardGoesToTheBoxAndBack();
     void dataFilterReplacesTheDatasetFilter();
     void cancelledDataFilterChangesNothing();
     void wrongDataFilterLeavesTheOldOne();
@@ -352,6 +353,24 @@ void TestShell::emptyLinesClearWhatTheBoxShows()
     QCOMPARE(rows(), "Rows: 3/3");
     submit("comboBoxBy", "");
     QVERIFY(view().byVariables().empty());
+}
+
+void TestShell::keyboardGoesToTheBoxAndBack()
+{
+    open("dm");
+    auto* line = m_window->findChild<QComboBox*>("comboBoxDf")->lineEdit();
+    QTest::keyClick(&view(), Qt::Key_L, Qt::ControlModifier);
+    QCOMPARE(QApplication::focusWidget(), m_window->findChild<QComboBox*>("comboBoxDf"));
+    QTest::keyClicks(line, "if q = 1");
+    QTest::keyClick(line, Qt::Key_Return);
+    QVERIFY(line->hasFocus());
+    QCOMPARE(m_script.notes.size(), 1);
+    m_script.notes.clear();
+
+    line->setText("if age = 40");
+    QTest::keyClick(line, Qt::Key_Return);
+    QVERIFY(view().hasFocus());
+    QCOMPARE(rows(), "Rows: 1/3");
 }
 
 void TestShell::dataFilterReplacesTheDatasetFilter()

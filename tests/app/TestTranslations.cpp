@@ -100,3 +100,30 @@ TEST_F(Translations, PassOverAFileThatIsNone)
     file.close();
     EXPECT_EQ(error({"fr-FR", "de-DE"}), "Fehler");
 }
+
+TEST(ShippedTranslations, AreTakenByTheRuleToo)
+{
+    struct Row
+    {
+        QStringList languages;
+        const char* file;  ///< the title of the File menu; null where the texts stay English
+    };
+    const Row rows[]{
+        {{"de-DE"}, "&Datei"},
+        {{"de"}, "&Datei"},
+        {{"fr-FR", "de-AT"}, "&Datei"},
+        {{"de-CH", "zh-CN"}, "&Datei"},
+        {{"zh-CN", "de-DE"}, "文件(&F)"},
+        {{"zh"}, "文件(&F)"},
+        {{"zh-Hans-CN"}, "文件(&F)"},
+        {{"zh-TW"}, nullptr},
+        {{"fr-FR", "C"}, nullptr},
+    };
+    for (const Row& row : rows) {
+        const auto translator = translations::load(row.languages, ":/i18n/");
+        const std::string file =
+            translator ? translator->translate("MainMenus", "&File").toStdString() : "";
+        EXPECT_EQ(file, row.file == nullptr ? "" : row.file)
+            << row.languages.join(' ').toStdString();
+    }
+}
