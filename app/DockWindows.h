@@ -1,8 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
-
-#include <vector>
+#include <QList>
 
 class QDockWidget;
 class QMainWindow;
@@ -27,6 +26,8 @@ public:
     /// Shows a dock and brings it in front of those that share its place.
     static void bringUp(QDockWidget& dock);
 
+    /// All docks in the order of their creation.
+    [[nodiscard]] const QList<QDockWidget*>& all() const { return m_docks; }
     [[nodiscard]] QDockWidget* workspace() const { return m_workspace; }
     [[nodiscard]] QDockWidget* variables() const { return m_variables; }
     [[nodiscard]] QDockWidget* frequency() const { return m_frequency; }
@@ -42,7 +43,7 @@ private:
     void arrange();
 
     QMainWindow& m_window;
-    std::vector<QDockWidget*> m_docks;  ///< in the order of their creation
+    QList<QDockWidget*> m_docks;
     QDockWidget* m_workspace;
     QDockWidget* m_variables;
     QDockWidget* m_frequency;

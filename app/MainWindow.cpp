@@ -150,7 +150,7 @@ void MainWindow::createToolBars()
 void MainWindow::createDocks()
 {
     m_docks = std::make_unique<DockWindows>(*this);
-    m_paneLayout = std::make_unique<PaneLayout>(*this);
+    m_paneLayout = std::make_unique<PaneLayout>(*this, m_docks->all());
     fillDocks();
 }
 

@@ -58,8 +58,7 @@ void PaneLayout::makeRoomFor(QDockWidget& dock)
 
 QList<QDockWidget*> PaneLayout::docksAt(Qt::DockWidgetArea area) const
 {
-    QList<QDockWidget*> docks =
-        m_window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    QList<QDockWidget*> docks = m_docks;
     docks.removeIf([&](QDockWidget* dock) {
         return dock->isFloating() || m_window.dockWidgetArea(dock) != area;
     });

@@ -19,9 +19,10 @@ public:
     /// Of the layouts, the one that leaves nothing but the main area.
     static constexpr std::size_t maximized = 1;
 
-    /// @param window  outlives this object
-    explicit PaneLayout(QMainWindow& window)
+    /// @param docks  of the window, the more important ones first; both outlive this object
+    PaneLayout(QMainWindow& window, QList<QDockWidget*> docks)
         : m_window(window)
+        , m_docks(std::move(docks))
     { }
 
     /// Shows or hides the sides and gives them their widths. A side that has a share and shows no
@@ -41,4 +42,5 @@ private:
     void resizeSide(Qt::DockWidgetArea area, int percent);
 
     QMainWindow& m_window;
+    QList<QDockWidget*> m_docks;
 };

@@ -241,6 +241,8 @@ void TestShell::layoutsDivideTheWidth()
     };
     QTRY_VERIFY(hasShare("dockWidgetWorkspace", left));
     QTRY_VERIFY(hasShare("dockWidgetFreq", right));
+    QCOMPARE(dock("dockWidgetDesc")->visibleRegion().isEmpty(), right == 0);
+    QVERIFY(dock("dockWidgetShortcutKeys")->visibleRegion().isEmpty());
 }
 
 void TestShell::layoutIsKeptForTheNextStart()
