@@ -43,7 +43,7 @@ CommandBar* CommandBoxes::addBar(const QString& title, const QString& barName,
 {
     auto* bar = new CommandBar(title, barName, boxName, &m_window);
     m_window.addToolBar(bar);
-    connect(bar, &CommandBar::signalLeft, this, &CommandBoxes::focusGrid);
+    connect(bar, &CommandBar::signalLeft, this, &CommandBoxes::leaveBoxes);
     return bar;
 }
 
@@ -76,59 +76,62 @@ void CommandBoxes::showByVariables()
     m_byVariables->setText(names.join(u' '));
 }
 
-/// An empty line takes the filter away, as it leaves the box the way it is without one.
+/// An empty line takes the filter away, as it leaves the box the way it is without one. The line
+/// that the box shows anyway changes nothing.
 void CommandBoxes::submitDatasetFilter(const QString& line)
 {
     if (m_grid == nullptr) {
         return;
     }
-    if (line.trimmed().isEmpty()) {
+    const QString text = line.trimmed();
+    if (text.isEmpty()) {
         m_grid->run(GridCommand::ClearDatasetFilter);
-    } else if (run(line)) {
+    } else if (text != m_grid->datasetFilterText()) {
+        if (!run(line)) {
+            return;
+        }
         m_datasetFilter->remember(line);
-        showDatasetFilter(m_grid->datasetFilterText());
-        focusGrid();
     }
+    leaveBoxes();
 }
 
 void CommandBoxes::submitLibraryFilter(const QString& line)
 {
-    if (m_grid == nullptr) {
-        return;
-    }
-    if (line.trimmed().isEmpty()) {
-        m_grid->run(GridCommand::ClearLibraryFilter);
-    } else if (run(line)) {
+    const QString text = line.trimmed();
+    if (text.isEmpty()) {
+        m_services.libraryFilter().clear();
+    } else if (text != m_services.libraryFilter().text()) {
+        if (m_grid == nullptr ? !m_services.restoreLibraryFilter(text) : !run(line)) {
+            return;
+        }
         m_libraryFilter->remember(line);
-        showLibraryFilter(m_grid->libraryFilterText());
-        focusGrid();
     }
+    emit signalLibraryFilterSubmitted();
+    leaveBoxes();
 }
 
 /// Names of variables become the list, "by" in front of them or not; any other line is a command.
 void CommandBoxes::submitByVariables(const QString& line)
 {
-    if (m_grid == nullptr) {
+    if (m_grid == nullptr || (!m_grid->setByVariables(line) && !run(line))) {
         return;
     }
-    if (m_grid->setByVariables(line) || run(line)) {
+    if (!line.trimmed().isEmpty()) {
         m_byVariables->remember(line);
-        showByVariables();
-        focusGrid();
     }
+    leaveBoxes();
 }
 
 void CommandBoxes::applyDataFilter(const QString& condition)
 {
-    if (m_grid == nullptr) {
+    if (m_grid == nullptr || condition.trimmed() == conditionOf(m_grid->datasetFilterText())) {
         return;
     }
-    const QString plain = conditionOf(condition.simplified());
+    const QString plain = conditionOf(condition.trimmed());
     if (plain.isEmpty()) {
         m_grid->run(GridCommand::ClearDatasetFilter);
     } else if (m_services.replaceDatasetFilter(*m_grid, plain)) {
         m_datasetFilter->remember(statementOf(plain));
-        showDatasetFilter(m_grid->datasetFilterText());
     }
 }
 
@@ -145,8 +148,10 @@ bool CommandBoxes::run(const QString& command)
     return m_services.runCommand(*m_grid, command);
 }
 
-void CommandBoxes::focusGrid()
+/// Goes back to the grid. The boxes show what is in force there, whatever was typed.
+void CommandBoxes::leaveBoxes()
 {
+    setGrid(m_grid);
     if (m_grid != nullptr) {
         m_grid->setFocus();
     }

@@ -34,6 +34,10 @@ public:
     /// What stands behind the "if" of a dataset filter's text.
     [[nodiscard]] static QString conditionOf(const QString& datasetFilterText);
 
+signals:
+    /// The library filter may have changed without a grid that would tell.
+    void signalLibraryFilterSubmitted();
+
 private:
     [[nodiscard]] CommandBar* addBar(const QString& title, const QString& barName,
                                      const QString& boxName);
@@ -41,7 +45,7 @@ private:
     void submitLibraryFilter(const QString& line);
     void submitByVariables(const QString& line);
     [[nodiscard]] bool run(const QString& command);
-    void focusGrid();
+    void leaveBoxes();
 
     QMainWindow& m_window;
     GridServices& m_services;

@@ -6,9 +6,12 @@
 #include "grid/MainTableView.h"
 #include "grid/WaitCursor.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMdiArea>
+
+#include <utility>
 
 namespace {
 
@@ -26,7 +29,12 @@ DatasetOrigin originOf(const QString& path)
 DatasetOpener::DatasetOpener(Surroundings surroundings, QObject* parent)
     : QObject(parent)
     , m_surroundings(std::move(surroundings))
-{ }
+{
+    constexpr int milliseconds = 50;
+    m_retry.setSingleShot(true);
+    m_retry.setInterval(milliseconds);
+    connect(&m_retry, &QTimer::timeout, this, &DatasetOpener::openWaiting);
+}
 
 void DatasetOpener::chooseAndOpen(const QString& title, const QString& filters)
 {
@@ -41,31 +49,62 @@ void DatasetOpener::chooseAndOpen(const QString& title, const QString& filters)
 bool DatasetOpener::open(const QString& path)
 {
     const DatasetOrigin origin = originOf(path);
-    return settleReload(origin) == Reload::Declined || load(origin);
+    if (settleReload(origin) == Reload::Declined) {
+        return m_openFiles.find(origin.fileKey) != nullptr;
+    }
+    return load(origin);
 }
 
 /// Asks whether a file that is open is to be read again, and if so closes its window.
 DatasetOpener::Reload DatasetOpener::settleReload(const DatasetOrigin& origin)
 {
-    QMdiSubWindow* window = m_openFiles.find(origin.fileKey);
-    if (window == nullptr) {
+    if (m_openFiles.find(origin.fileKey) == nullptr) {
         return Reload::NotOpen;
     }
     const QString question = tr("\"%1\" is already open.\nDo you want to reload it?")
                                  .arg(origin.filePath.section(u'/', -1));
-    if (!m_surroundings.prompts.confirm(tr("Reload Dataset"), question)) {
+    const bool isWanted = m_surroundings.prompts.confirm(tr("Reload Dataset"), question);
+    // Looked for anew: the window may have gone while the question was open.
+    QMdiSubWindow* window = m_openFiles.find(origin.fileKey);
+    if (window == nullptr) {
+        return isWanted ? Reload::Agreed : Reload::Declined;
+    }
+    if (!isWanted) {
         activate(window);
         return Reload::Declined;
     }
+    return close(window, origin) ? Reload::Agreed : Reload::Declined;
+}
+
+/// Closes a window that is to be replaced; one that refuses stays open and becomes active.
+bool DatasetOpener::close(QMdiSubWindow* window, const DatasetOrigin& origin)
+{
     m_openFiles.remove(origin.fileKey, window);
     if (!window->close()) {
         m_openFiles.add(origin.fileKey, window);
         activate(window);
-        return Reload::Declined;
+        return false;
     }
     // Not left to the event loop: the memory of the old dataset is wanted for the new one.
     delete window;
-    return Reload::Agreed;
+    return true;
+}
+
+void DatasetOpener::openLater(const QStringList& paths)
+{
+    m_waiting << paths;
+    m_retry.start();
+}
+
+void DatasetOpener::openWaiting()
+{
+    if (QApplication::activeModalWidget() != nullptr) {
+        m_retry.start();
+        return;
+    }
+    for (const QString& path : std::exchange(m_waiting, QStringList())) {
+        open(path);
+    }
 }
 
 bool DatasetOpener::load(const DatasetOrigin& origin)

@@ -5,6 +5,8 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -43,6 +45,9 @@ public:
     /// reloaded.
     /// @return  whether the file is open now
     bool open(const QString& path);
+    /// Opens files once nobody is asked anything and the event in hand is done: what comes from
+    /// outside must not change what a question is about.
+    void openLater(const QStringList& paths);
     /// Takes a window that closes out of the map.
     void forget(DatasetWindow* window);
 
@@ -63,10 +68,14 @@ private:
     };
 
     [[nodiscard]] Reload settleReload(const DatasetOrigin& origin);
+    [[nodiscard]] bool close(QMdiSubWindow* window, const DatasetOrigin& origin);
+    void openWaiting();
     [[nodiscard]] bool load(const DatasetOrigin& origin);
     void show(std::unique_ptr<DatasetWindow> window);
     void activate(QMdiSubWindow* window);
 
     Surroundings m_surroundings;
     OpenFilesMap m_openFiles;
+    QStringList m_waiting;
+    QTimer m_retry;
 };

@@ -1,6 +1,7 @@
 #include "app/DatasetWindow.h"
 
 #include "app/Icons.h"
+#include "app/PlainTitle.h"
 #include "data/StatDataset.h"
 #include "grid/MainTableModel.h"
 #include "grid/MainTableView.h"
@@ -13,12 +14,11 @@
 
 namespace {
 
-/// What the window's tab says: the name within a file of several datasets, else the file's.
-QString titleOf(const DatasetOrigin& origin)
+/// The name of one dataset within a file of several; empty for a file's only one.
+QString memberOf(const DatasetOrigin& origin)
 {
     const QString path = origin.filePath + QStringLiteral("::");
-    return origin.fileKey.startsWith(path) ? origin.fileKey.mid(path.size())
-                                           : origin.filePath.section(u'/', -1);
+    return origin.fileKey.startsWith(path) ? origin.fileKey.mid(path.size()) : QString();
 }
 
 }  // namespace
@@ -32,7 +32,10 @@ DatasetWindow::DatasetWindow(std::unique_ptr<StatDataset> dataset, const Dataset
     setProperty("fileKey", origin.fileKey);
     setProperty("fileTimestamp", origin.fileTimestamp);
     createGrid(gridHost);
-    setWindowTitle(titleOf(origin));
+    const QString member = memberOf(origin);
+    const QString fileName = origin.filePath.section(u'/', -1);
+    m_datasetName = member.isEmpty() ? QFileInfo(fileName).completeBaseName() : member;
+    setWindowTitle(plainTitle(member.isEmpty() ? fileName : member));
     setWindowIcon(icons::forDataset(origin.filePath));
     dropSystemMenuShortcuts();
     addCloseKey();
@@ -48,8 +51,6 @@ void DatasetWindow::createGrid(GridHost& host)
 {
     m_view = new MainTableView(m_dataset.get(), &host, this);
     m_view->setModel(new MainTableModel(m_dataset.get(), m_view));
-    m_view->setSortingEnabled(true);
-    m_view->sortByColumn(-1, Qt::AscendingOrder);
     m_view->fitColumns();
     m_view->setFrameShape(QFrame::NoFrame);
     setWidget(m_view);
@@ -69,13 +70,6 @@ void DatasetWindow::addCloseKey()
     shortcut->setContext(Qt::WidgetShortcut);
     shortcut->setAutoRepeat(false);
     connect(shortcut, &QShortcut::activated, this, &QWidget::close);
-}
-
-QString DatasetWindow::datasetName() const
-{
-    const QString title = windowTitle();
-    const bool isFileName = title == property("filePath").toString().section(u'/', -1);
-    return isFileName ? QFileInfo(title).completeBaseName() : title;
 }
 
 QString DatasetWindow::fileKey() const

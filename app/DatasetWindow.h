@@ -36,7 +36,7 @@ public:
     [[nodiscard]] QString fileKey() const;
     /// What the user calls the dataset: its name within a file of several, else the file's without
     /// its suffix.
-    [[nodiscard]] QString datasetName() const;
+    [[nodiscard]] const QString& datasetName() const { return m_datasetName; }
 
 signals:
     /// The window has agreed to close and is about to be deleted.
@@ -51,5 +51,6 @@ private:
     void addCloseKey();
 
     std::unique_ptr<StatDataset> m_dataset;
+    QString m_datasetName;
     MainTableView* m_view = nullptr;  ///< owned by this window as its child
 };

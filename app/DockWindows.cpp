@@ -1,5 +1,7 @@
 #include "app/DockWindows.h"
 
+#include "app/PlainTitle.h"
+
 #include <QAction>
 #include <QDockWidget>
 #include <QMainWindow>
@@ -56,10 +58,10 @@ void DockWindows::fillMenu(QMenu& menu) const
 void DockWindows::showTitlesOf(const QString& datasetName)
 {
     const bool isNone = datasetName.isEmpty();
-    m_variables->setWindowTitle(isNone ? tr("Variable") : tr("Variable - %1").arg(datasetName));
-    m_frequency->setWindowTitle(isNone ? tr("Freq") : tr("Freq - %1").arg(datasetName));
-    m_univariate->setWindowTitle(isNone ? tr("Univariate")
-                                        : tr("Univariate - %1").arg(datasetName));
+    const QString name = plainTitle(datasetName);
+    m_variables->setWindowTitle(isNone ? tr("Variable") : tr("Variable - %1").arg(name));
+    m_frequency->setWindowTitle(isNone ? tr("Freq") : tr("Freq - %1").arg(name));
+    m_univariate->setWindowTitle(isNone ? tr("Univariate") : tr("Univariate - %1").arg(name));
 }
 
 void DockWindows::bringUp(QDockWidget& dock)

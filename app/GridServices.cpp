@@ -42,10 +42,24 @@ bool GridServices::runCommand(MainTableView& grid, const QString& command)
     return attempt(command, [&] { grid.cmdRunCommand(command); });
 }
 
+bool GridServices::runStatement(MainTableView& grid, const QString& statement)
+{
+    return attempt(statement, [&] { grid.runStatement(statement); });
+}
+
 bool GridServices::replaceDatasetFilter(MainTableView& grid, const QString& condition)
 {
-    const QString statement = QStringLiteral("if ") + condition;
-    return attempt(statement, [&] { grid.restoreFilters(grid.libraryFilterText(), statement); });
+    return attempt(QStringLiteral("if ") + condition,
+                   [&] { grid.replaceDatasetFilter(condition); });
+}
+
+bool GridServices::restoreLibraryFilter(const QString& text)
+{
+    const Result<bool> restored = m_libraryFilter.restore(text);
+    if (!restored) {
+        reportCommandError(QString::fromStdString(restored.error()), text);
+    }
+    return restored.ok();
 }
 
 template <typename Command>

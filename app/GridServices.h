@@ -30,6 +30,13 @@ public:
     /// Runs a typed command on a grid and tells what goes wrong.
     /// @return  whether nothing did
     bool runCommand(MainTableView& grid, const QString& command);
+    /// Runs a statement of a program on a grid and tells what goes wrong.
+    /// @return  whether nothing did
+    bool runStatement(MainTableView& grid, const QString& statement);
+    /// Sets the library filter for what is opened later, and tells what goes wrong.
+    /// @param text  in statement form: "where a = 1"
+    /// @return      whether nothing did
+    bool restoreLibraryFilter(const QString& text);
     /// Puts a condition in the place of a grid's dataset filter, which stays when it is wrong.
     /// @return  whether nothing went wrong
     bool replaceDatasetFilter(MainTableView& grid, const QString& condition);

@@ -137,6 +137,8 @@ void MainWindow::createToolBars()
 {
     m_toolBars = new MainToolBars(*this, *m_actions);
     m_boxes = new CommandBoxes(*this, *m_gridServices);
+    connect(m_boxes, &CommandBoxes::signalLibraryFilterSubmitted, this,
+            &MainWindow::showWhatIsOpen);
     m_boxes->datasetFilterBar()->addAction(m_actions->editDataFilter);
     connect(m_actions->goToDatasetFilter, &QAction::triggered, m_boxes->datasetFilterBar(),
             &CommandBar::edit);
@@ -240,6 +242,11 @@ bool MainWindow::openDatasetFile(const QString& path)
     return m_opener->open(path);
 }
 
+void MainWindow::openReceivedFile(const QString& path)
+{
+    m_opener->openLater({path});
+}
+
 MainTableView* MainWindow::activeView() const
 {
     return m_activeView;
@@ -308,6 +315,7 @@ void MainWindow::showWhatIsOpen()
     m_area->showDatasets(isAny);
     if (!isAny) {
         m_counters->showNothingOpen();
+        m_counters->setLibraryFilter(m_gridServices->libraryFilter().text(), QString());
         m_docks->showTitlesOf(QString());
     }
 }
@@ -417,6 +425,9 @@ void MainWindow::onColumnHeaderLabelChanged(QAbstractButton* /*button*/)
 void MainWindow::applyTheme()
 {
     theme::apply(m_settings->darkMode());
+    if (const int points = m_settings->fontSize(); points > 0 && m_area != nullptr) {
+        forEachGrid([points](MainTableView& view) { view.setFontSize(points); });
+    }
 }
 
 void MainWindow::toggleDarkMode()
@@ -575,10 +586,12 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    event->acceptProposedAction();
+    QStringList paths;
     for (const QUrl& url : event->mimeData()->urls()) {
         if (url.isLocalFile()) {
-            openDatasetFile(url.toLocalFile());
+            paths << url.toLocalFile();
         }
     }
+    m_opener->openLater(paths);
+    event->acceptProposedAction();
 }

@@ -58,6 +58,12 @@ public:
     /// @return  whether the file is open now
     bool openDatasetFile(const QString& path);
 
+    /// Opens a file that another start of the program has handed over, as soon as no question is
+    /// open.
+    void openReceivedFile(const QString& path);
+    /// Whether the workspace store could be opened; without it the program is about to end.
+    [[nodiscard]] bool hasWorkspace() const { return m_store != nullptr; }
+
     [[nodiscard]] const OpenFilesMap& openFiles() const { return m_opener->openFiles(); }
     /// The grid of the active dataset, or nullptr.
     [[nodiscard]] MainTableView* activeView() const;
@@ -111,7 +117,6 @@ private:
     void fillDocks();
     void createMenus();
     void connectActions();
-    void connectFileActions();
     void connectGrid(MainTableView* view);
     void prepareWindow(DatasetWindow* window);
     void openWorkspace(std::unique_ptr<WorkspaceStore> store);

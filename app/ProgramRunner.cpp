@@ -28,7 +28,7 @@ bool runStatement(const ProgramStatement& statement, MainTableView& grid, GridSe
     using Kind = ProgramStatement::Kind;
     switch (statement.kind) {
     case Kind::Command:
-        return services.runCommand(grid, statement.text);
+        return services.runStatement(grid, statement.text);
     case Kind::By:
         return setByVariables(statement, grid, services);
     case Kind::PassedOver:

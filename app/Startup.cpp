@@ -69,11 +69,11 @@ int runApplication(int argc, char** argv)
 
     MainWindow window;
     window.show();
-    if (!file.isEmpty()) {
+    if (!file.isEmpty() && window.hasWorkspace()) {
         window.openDatasetFile(file);
     }
     QObject::connect(&instance, &SingleInstance::signalFileReceived, &window,
-                     &MainWindow::openDatasetFile);
+                     &MainWindow::openReceivedFile);
     instance.serve();
     return QApplication::exec();
 }

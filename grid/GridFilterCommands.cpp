@@ -1,6 +1,7 @@
 #include "grid/GridFilterCommands.h"
 
 #include "grid/filter/CommandParser.h"
+#include "grid/filter/FilterStatement.h"
 #include "grid/filter/ParseError.h"
 #include "grid/filter/VariableNames.h"
 #include "grid/GridHost.h"
@@ -60,10 +61,10 @@ void GridFilterCommands::attempt(Command command)
     }
 }
 
-void GridFilterCommands::runText(const QString& commandText)
+void GridFilterCommands::runText(const QString& commandText, Dialect dialect)
 {
     m_lastCommand = commandText;
-    CommandParser(commandText, *this).run();
+    CommandParser(commandText, *this, dialect).run();
 }
 
 void GridFilterCommands::run(GridCommand command)
@@ -130,13 +131,15 @@ void GridFilterCommands::compareCurrentCell()
 
 void GridFilterCommands::setLibraryFilter()
 {
-    const auto restore = qScopeGuard([this, op = m_filters.op(), mode = m_filters.mode()] {
-        m_filters.setOp(op);
-        m_filters.setMode(mode);
+    attempt([this] {
+        const auto restore = qScopeGuard([this, op = m_filters.op(), mode = m_filters.mode()] {
+            m_filters.setOp(op);
+            m_filters.setMode(mode);
+        });
+        m_filters.setOp(CompareOp::Equal);
+        m_filters.setMode(QuickFilterMode::LibraryFilter);
+        compareCurrentCell();
     });
-    m_filters.setOp(CompareOp::Equal);
-    m_filters.setMode(QuickFilterMode::LibraryFilter);
-    filterByCurrentCell();
 }
 
 void GridFilterCommands::filterBySelectedCells()
@@ -210,6 +213,13 @@ void GridFilterCommands::undoDatasetFilter()
     }
 }
 
+void GridFilterCommands::replaceDatasetFilter(const QString& condition)
+{
+    const WaitCursor waitCursor;
+    valueOrThrow(m_filters.state().replaceDatasetFilter(condition));
+    m_view.showFilters();
+}
+
 QString GridFilterCommands::datasetFilterText() const
 {
     return m_filters.state().datasetFilterText();
@@ -218,8 +228,12 @@ QString GridFilterCommands::datasetFilterText() const
 void GridFilterCommands::restore(const QString& libraryText, const QString& datasetText)
 {
     const WaitCursor waitCursor;
-    m_host.libraryFilter().restore(libraryText);
+    if (!libraryText.trimmed().isEmpty()) {
+        // Looked at first, so that neither filter changes where one of them is wrong.
+        valueOrThrow(filterstatement::condition(libraryText, u"where"));
+    }
     valueOrThrow(m_filters.state().restore(ownLibraryFilterText(), datasetText));
+    valueOrThrow(m_host.libraryFilter().restore(libraryText));
     m_view.showFilters();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grid/filter/CommandTarget.h"
+#include "grid/filter/Lexer.h"
 #include "grid/filter/QuickFilter.h"
 #include "grid/GridCommand.h"
 #include "grid/GridFilters.h"
@@ -28,8 +29,8 @@ public:
     /// Takes part in the library filter from now on; one in force filters the grid at once.
     void joinLibraryFilter();
 
-    /// Runs a typed command. Throws ParseError.
-    void runText(const QString& commandText);
+    /// Runs a command. Throws ParseError.
+    void runText(const QString& commandText, Dialect dialect);
     /// Runs one of the filter commands that keys and menus have; what fails is told by the host.
     void run(GridCommand command);
     /// Filters by the current cell in the mode and with the operator in force.
@@ -40,6 +41,8 @@ public:
     void filterByValue(int variable, CompareOp op, const QuickFilter::Value& value);
     void filterByValues(int variable, std::span<const QuickFilter::Value> values);
     void undoDatasetFilter();
+    /// Puts a condition in the place of the dataset filter. Throws ParseError.
+    void replaceDatasetFilter(const QString& condition);
     /// Sets the filters that texts in statement form say; empty for none. A library filter in force
     /// stays. Throws ParseError.
     void restore(const QString& libraryText, const QString& datasetText);

@@ -3,6 +3,7 @@
 #include "data/StatDataset.h"
 #include "grid/MainTableModel.h"
 
+#include <QEvent>
 #include <QFontInfo>
 #include <QHeaderView>
 #include <QItemSelectionModel>
@@ -33,12 +34,17 @@ void GridTable::setUpColumnHeader()
     columnHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     columnHeader->setSectionsClickable(true);
     columnHeader->setMinimumSectionSize(24);
+    // Not by setSortingEnabled(), after which a click on a header would no longer select.
+    columnHeader->setSortIndicatorShown(true);
+    columnHeader->setSortIndicator(-1, Qt::AscendingOrder);
+    columnHeader->viewport()->installEventFilter(this);
 }
 
 /// One height for all rows: measuring a million of them, or only asking for it, is out of question.
 void GridTable::setUpRowHeader(QHeaderView& header) const
 {
     const int rowHeight = fontMetrics().height() + 6;
+    header.setFont(font());
     header.setMinimumSectionSize(rowHeight);
     header.setDefaultSectionSize(rowHeight);
     header.setSectionResizeMode(QHeaderView::Fixed);
@@ -128,14 +134,29 @@ int GridTable::fontSize() const
     return QFontInfo(font()).pointSize();
 }
 
+/// A pressed header selects its column. To scroll to it then would take the header from under the
+/// mouse, and the release would be no click.
+bool GridTable::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == horizontalHeader()->viewport()) {
+        if (event->type() == QEvent::MouseButtonPress) {
+            setAutoScroll(false);
+        } else if (event->type() == QEvent::MouseButtonRelease) {
+            setAutoScroll(true);
+        }
+    }
+    return QTableView::eventFilter(watched, event);
+}
+
 void GridTable::setFontSize(int points)
 {
-    if (points == fontSize()) {
+    if (points == fontSize() && points == QFontInfo(horizontalHeader()->font()).pointSize()) {
         return;
     }
     QFont changed = font();
     changed.setPointSize(points);
     setFont(changed);
+    horizontalHeader()->setFont(changed);  // which an application's style sheet takes from it
     if (isReady()) {
         // Hidden rows would keep the height that they had.
         const Place before = place();

@@ -87,6 +87,7 @@ protected:
     void leaveHiddenColumn();
 
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void setUpColumnHeader();

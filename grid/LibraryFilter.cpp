@@ -1,5 +1,7 @@
 #include "grid/LibraryFilter.h"
 
+#include "grid/filter/FilterStatement.h"
+
 #include <algorithm>
 
 void LibraryFilter::join(Grid& grid)
@@ -36,18 +38,21 @@ Result<std::size_t> LibraryFilter::apply(const QString& condition, Grid& origin)
     return selected;
 }
 
-void LibraryFilter::restore(const QString& text)
+Result<bool> LibraryFilter::restore(const QString& text)
 {
-    const QString statement = text.trimmed();
-    const qsizetype blank = statement.indexOf(u' ');
-    if (!m_condition.isEmpty() || blank < 0) {
-        return;
+    if (!m_condition.isEmpty() || text.trimmed().isEmpty()) {
+        return false;
     }
-    m_text = statement;
-    m_condition = statement.sliced(blank + 1);
+    const Result<QString> condition = filterstatement::condition(text, u"where");
+    if (!condition) {
+        return Failure{condition.error()};
+    }
+    m_condition = condition.value();
+    m_text = QStringLiteral("where ") + m_condition;
     for (Grid* grid : m_grids) {
         takeOver(*grid);
     }
+    return true;
 }
 
 /// Filters a grid by the filter in force and shows what has become of it.

@@ -38,7 +38,8 @@ public:
     Result<std::size_t> apply(const QString& condition, Grid& origin);
     /// Puts a filter in force that a text says, as text() gave it, even where it can filter no open
     /// dataset. One that is in force stays.
-    void restore(const QString& text);
+    /// @return  whether the filter was put in force; a failure for a text that says none
+    Result<bool> restore(const QString& text);
     void clear();
 
     /// The filter in force, "where a = 1"; empty without one.

@@ -337,7 +337,21 @@ void MainTableView::cmdDfUndo()
 void MainTableView::cmdRunCommand(const QString& commandText)
 {
     if (m_filterCommands) {
-        m_filterCommands->runText(commandText);
+        m_filterCommands->runText(commandText, Dialect::Command);
+    }
+}
+
+void MainTableView::runStatement(const QString& statement)
+{
+    if (m_filterCommands) {
+        m_filterCommands->runText(statement, Dialect::FilterText);
+    }
+}
+
+void MainTableView::replaceDatasetFilter(const QString& condition)
+{
+    if (m_filterCommands) {
+        m_filterCommands->replaceDatasetFilter(condition);
     }
 }
 

@@ -65,6 +65,12 @@ public:
     /// Filters by a value that another view shows, as a quick filter on it would.
     void filterByValue(int variable, CompareOp op, const QuickFilter::Value& value);
     void filterByValues(int variable, std::span<const QuickFilter::Value> values);
+    /// Runs a statement of a program, which is a command whose numbers may have signs and
+    /// exponents. Throws ParseError.
+    void runStatement(const QString& statement);
+    /// Puts a condition in the place of the dataset filter, which an undo brings back. Throws
+    /// ParseError.
+    void replaceDatasetFilter(const QString& condition);
     /// Makes the named variables the BY list; an empty text clears it.
     /// @param names  separated by blanks, "by" in front and a semicolon behind being allowed
     /// @return       whether all are variables of the dataset; the list stays as it is otherwise

@@ -10,8 +10,9 @@
 class CommandParser
 {
 public:
-    CommandParser(QStringView commandText, CommandTarget& target)
-        : m_tokens(commandText, Dialect::Command)
+    CommandParser(QStringView commandText, CommandTarget& target,
+                  Dialect dialect = Dialect::Command)
+        : m_tokens(commandText, dialect)
         , m_target(target)
     { }
 

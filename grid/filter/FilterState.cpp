@@ -1,30 +1,15 @@
 #include "grid/filter/FilterState.h"
 
 #include "grid/filter/FilterCondition.h"
-#include "grid/filter/ParseError.h"
-#include "grid/filter/TokenStream.h"
+#include "grid/filter/FilterStatement.h"
 
-#include <fmt/format.h>
-
+#include <algorithm>
 #include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The condition of a filter text that begins with that word.
-Result<QStringView> conditionOf(QStringView filterText, QStringView word)
-{
-    const QStringView text = filterText.trimmed();
-    const QStringView condition = text.sliced(std::min(word.size(), text.size()));
-    if (!compareop::sameWord(text.first(text.size() - condition.size()), word)
-        || (!condition.isEmpty() && !condition.front().isSpace())) {
-        return Failure{fmt::format("A filter text begins with \"{}\": {}",
-                                   word.toString().toStdString(), text.toString().toStdString())};
-    }
-    return condition;
-}
 
 /// The compiled condition of a filter text; nothing for an empty text.
 Result<std::optional<FilterCondition>> compiled(QStringView filterText, QStringView word,
@@ -33,7 +18,7 @@ Result<std::optional<FilterCondition>> compiled(QStringView filterText, QStringV
     if (filterText.trimmed().isEmpty()) {
         return std::optional<FilterCondition>();
     }
-    const Result<QStringView> condition = conditionOf(filterText, word);
+    const Result<QString> condition = filterstatement::condition(filterText, word);
     if (!condition) {
         return Failure{condition.error()};
     }
@@ -86,8 +71,21 @@ Result<std::size_t> FilterState::addDatasetFilterStep(QStringView condition)
     filter.value().select(matched);
     BitVector narrowed = m_dataset.datasetFilterMask();
     narrowed &= matched;
-    m_steps.push_back({filter.value().text(), filter.value().hasOuterOr(), {}});
+    m_steps.push_back({filter.value().text(), filter.value().hasOuterOr(), {}, false});
     m_steps.back().maskBefore = std::exchange(m_dataset.datasetFilterMask(), std::move(narrowed));
+    return selectedCount();
+}
+
+Result<std::size_t> FilterState::replaceDatasetFilter(QStringView condition)
+{
+    const Result<FilterCondition> filter = FilterCondition::compile(condition, m_dataset);
+    if (!filter) {
+        return Failure{filter.error()};
+    }
+    BitVector& matched = m_dataset.matchedObservations();
+    filter.value().select(matched);
+    m_steps.push_back({filter.value().text(), filter.value().hasOuterOr(),
+                       std::exchange(m_dataset.datasetFilterMask(), matched), true});
     return selectedCount();
 }
 
@@ -125,7 +123,8 @@ Result<std::size_t> FilterState::restore(QStringView libraryFilterText,
         m_dataset.matchedObservations() = libraryMask;
     }
     if (dataset.value()) {
-        steps.push_back({dataset.value()->text(), dataset.value()->hasOuterOr(), datasetMask});
+        steps.push_back(
+            {dataset.value()->text(), dataset.value()->hasOuterOr(), datasetMask, false});
         dataset.value()->select(datasetMask);
         m_dataset.matchedObservations() = datasetMask;
     }
@@ -143,11 +142,14 @@ QString FilterState::libraryFilterText() const
 
 QString FilterState::datasetFilterText() const
 {
+    const auto replacing = std::find_if(m_steps.rbegin(), m_steps.rend(),
+                                        [](const Step& step) { return step.replacesOthers; });
+    const auto first = replacing == m_steps.rend() ? m_steps.begin() : replacing.base() - 1;
     QString text;
-    for (const Step& step : m_steps) {
+    for (auto step = first; step != m_steps.end(); ++step) {
         text += text.isEmpty() ? u"if "_s : u" and "_s;
-        const bool needsParentheses = step.hasOuterOr && m_steps.size() > 1;
-        text += needsParentheses ? u'(' + step.condition + u')' : step.condition;
+        const bool needsParentheses = step->hasOuterOr && m_steps.end() - first > 1;
+        text += needsParentheses ? u'(' + step->condition + u')' : step->condition;
     }
     return text;
 }

@@ -24,6 +24,8 @@ public:
 
     /// Narrows the dataset filter by one more condition.
     Result<std::size_t> addDatasetFilterStep(QStringView condition);
+    /// Puts a condition in the place of all steps, as one more step: undone, they are back.
+    Result<std::size_t> replaceDatasetFilter(QStringView condition);
     /// Returns to the mask and the text before the last step; false when there is none.
     bool undoDatasetFilter();
     void clearDatasetFilter();
@@ -49,6 +51,7 @@ private:
         QString condition;
         bool hasOuterOr;
         BitVector maskBefore;
+        bool replacesOthers;  ///< those before it do not show in the text
     };
 
     StatDataset& m_dataset;

@@ -50,6 +50,7 @@ private slots:
     void failedLoadIsToldAndChangesNothing();
     void openFileIsOnlyActivatedUnlessReloadIsWanted();
     void reloadReplacesTheWindow();
+    void fileClosedWhileReloadIsAskedForIsOpenedAnew();
     void windowThatRefusesToCloseIsKept();
     void failedReloadLeavesTheFileClosed();
     void relativeAndAbsolutePathsAreTheSameFile();
@@ -280,6 +281,20 @@ void TestMainWindow::reloadReplacesTheWindow()
     QCOMPARE(titles(), QStringList("first1"));
     QCOMPARE(m_window->openFiles().find(path("first1")), activeDataset());
     QCOMPARE(statusTexts(), QStringList({"Rows: 1/1", "Vars: 2/2"}));
+}
+
+void TestMainWindow::fileClosedWhileReloadIsAskedForIsOpenedAnew()
+{
+    m_window->openDatasetFile(path("one1"));
+    m_script.whileAsked = [this] { activeDataset()->close(); };
+    m_script.confirmation = true;
+    QVERIFY(m_window->openDatasetFile(path("one1")));
+    QCOMPARE(titles(), QStringList({"one1"}));
+
+    m_script.confirmation = false;
+    QVERIFY(!m_window->openDatasetFile(path("one1")));
+    QCOMPARE(titles(), QStringList());
+    QCOMPARE(m_window->openFiles().size(), std::size_t{0});
 }
 
 void TestMainWindow::windowThatRefusesToCloseIsKept()

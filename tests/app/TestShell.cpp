@@ -9,8 +9,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QDockWidget>
 #include <QDropEvent>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -58,6 +60,11 @@ private slots:
     void uniqueVariableNameIsKeptInTheStore();
     void withoutAWorkspaceTheProgramEnds();
     void droppedFilesOpen();
+    void receivedFilesWaitForOpenQuestions();
+    void libraryFilterIsSetAndClearedWithoutADataset();
+    void boxesShowWhatIsInForceOnceLeft();
+    void titlesShowNamesAsTheyAre();
+    void submittedProgramTakesSignedNumbers();
     void openedFilesStandInTheMenu();
     void emptyWindowTellsHowToOpenADataset();
     void documentationOpensItsPage();
@@ -310,6 +317,14 @@ void TestShell::fontSizeIsSharedAndKept()
     startAgain();
     open("dm3");
     QCOMPARE(view().fontSize(), before + 1);
+    const int rowHeight = view().rowHeight(0);
+    for (int i = 0; i < 2; ++i) {
+        trigger("actionToggleDarkMode");
+        QCOMPARE(view().fontSize(), before + 1);
+        QCOMPARE(QFontInfo(view().horizontalHeader()->font()).pointSize(), before + 1);
+        QCOMPARE(QFontInfo(view().verticalHeader()->font()).pointSize(), before + 1);
+        QCOMPARE(view().rowHeight(0), rowHeight);
+    }
     QTest::keyClick(&view(), Qt::Key_Minus, Qt::ControlModifier);
     QCOMPARE(view().fontSize(), before);
 }
@@ -385,6 +400,14 @@ void TestShell::dataFilterReplacesTheDatasetFilter()
     QCOMPARE(boxText("comboBoxDf"), "if age < 35");
     QCOMPARE(rows(), "Rows: 1/3");
 
+    trigger("actionEditDataFilter");  // as it is: no step
+    QTest::keyClick(&view(), Qt::Key_Z);
+    QCOMPARE(boxText("comboBoxDf"), "if age > 35");
+    QCOMPARE(rows(), "Rows: 2/3");
+
+    m_script.dataFilter = "SEX = \"M  \"";
+    trigger("actionEditDataFilter");
+    QCOMPARE(view().datasetFilterText(), "if SEX = \"M  \"");
     m_script.dataFilter = "";
     trigger("actionEditDataFilter");
     QCOMPARE(rows(), "Rows: 3/3");
@@ -515,8 +538,71 @@ void TestShell::droppedFilesOpen()
     QVERIFY(enter.isAccepted());
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(m_window.get(), &drop);
-    QCOMPARE(m_window->openFiles().size(), std::size_t{2});
+    QTRY_COMPARE(m_window->openFiles().size(), std::size_t{2});
     QVERIFY(m_window->openFiles().find(m_folder->filePath("dm 1.xpt")) != nullptr);
+}
+
+void TestShell::receivedFilesWaitForOpenQuestions()
+{
+    QDialog question(m_window.get());
+    question.setModal(true);
+    question.show();
+    m_window->openReceivedFile(m_folder->filePath("dm"));
+    QTest::qWait(200);  // longer than the wait before another try
+    QCOMPARE(m_window->openFiles().size(), std::size_t{0});
+    question.close();
+    QTRY_COMPARE(m_window->openFiles().size(), std::size_t{1});
+}
+
+void TestShell::libraryFilterIsSetAndClearedWithoutADataset()
+{
+    submit("comboBoxLf", "where sex = 'F' and");
+    QCOMPARE(m_script.notes.size(), 1);
+    m_script.notes.clear();
+    submit("comboBoxLf", "where sex = 'F'");
+    QCOMPARE(label("labelStatusBarLf"), "LF: where sex = 'F'");
+    open("dm");
+    QCOMPARE(rows(), "Rows: 2/3");
+    trigger("actionClose");
+    QCOMPARE(label("labelStatusBarLf"), "LF: where sex = 'F'");
+    submit("comboBoxLf", "");
+    QCOMPARE(label("labelStatusBarLf"), "LF: NA");
+    open("dm");
+    QCOMPARE(rows(), "Rows: 3/3");
+}
+
+void TestShell::boxesShowWhatIsInForceOnceLeft()
+{
+    open("dm");
+    submit("comboBoxDf", "if age > 35");
+    submit("comboBoxDf", "if age > 35");
+    QCOMPARE(boxText("comboBoxDf"), "if age > 35");
+    for (const char* name : {"comboBoxDf", "comboBoxLf", "comboBoxBy"}) {
+        auto* box = m_window->findChild<QComboBox*>(name);
+        box->setEditText("where NOSUCH = 1");
+        QTest::keyClick(box->lineEdit(), Qt::Key_Escape);
+    }
+    QCOMPARE(boxText("comboBoxDf"), "if age > 35");
+    QCOMPARE(boxText("comboBoxLf"), "");
+    QCOMPARE(boxText("comboBoxBy"), "");
+    submit("comboBoxBy", "");
+    QCOMPARE(m_window->findChild<QComboBox*>("comboBoxBy")->count(), 0);
+}
+
+void TestShell::titlesShowNamesAsTheyAre()
+{
+    open("a&b[*].xpt");
+    QCOMPARE(dock("dockWidgetFreq")->windowTitle(), "Freq - a&&b[*][*]");
+    QCOMPARE(m_window->findChild<QMdiArea*>()->currentSubWindow()->windowTitle(), "a&&b[*][*].xpt");
+}
+
+void TestShell::submittedProgramTakesSignedNumbers()
+{
+    open("dm");
+    dock("dockWidgetCode")->findChild<QPlainTextEdit*>()->setPlainText("if AGE > -1.5e1;");
+    trigger("actionSubmit");
+    QCOMPARE(boxText("comboBoxDf"), "if AGE > -1.5e1");
+    QCOMPARE(rows(), "Rows: 3/3");
 }
 
 void TestShell::openedFilesStandInTheMenu()

@@ -2,6 +2,7 @@
 #include "tests/support/GridFixture.h"
 
 #include <QClipboard>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QShortcut>
@@ -28,6 +29,7 @@ private slots:
     void lettersThatAreNoCommandSearchNothing();
     void everyShortcutActsOnTheGridAlone();
     void containsFilterHasNoKey();
+    void clickedHeaderIsTheVariableOfTheKeys();
     void keysDoNothingWithoutCells();
 
 private:
@@ -377,6 +379,22 @@ void TestGridKeys::containsFilterHasNoKey()
     const QStringList notes = m_grid->host.takeNotes();
     QCOMPARE(notes.size(), 1);
     QVERIFY2(notes.first().startsWith("error|"), qPrintable(notes.first()));
+}
+
+void TestGridKeys::clickedHeaderIsTheVariableOfTheKeys()
+{
+    QHeaderView* header = m_grid->view->horizontalHeader();
+    m_grid->goTo(0, 0);
+    // The column stands half outside, and must not be scrolled away from under the mouse.
+    const int edge = header->sectionPosition(1) + header->sectionSize(1) / 2;
+    m_grid->view->resize(edge + m_grid->view->verticalHeader()->width(), 300);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                      QPoint(header->sectionPosition(1) + 8, 5));
+    QCOMPARE(m_grid->view->currentVariable(), 1);
+    QCOMPARE(m_grid->view->sortKeys().size(), std::size_t{1});
+    const QString before = m_grid->columns();
+    press(Qt::Key_H);
+    QCOMPARE(m_grid->columns(), before.section(' ', 0, 0) + ' ' + before.section(' ', 2));
 }
 
 void TestGridKeys::keysDoNothingWithoutCells()

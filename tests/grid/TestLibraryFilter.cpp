@@ -112,18 +112,26 @@ TEST_F(LibraryFilterTest, holdsForGridsThatJoinLaterAndForgetsThoseThatLeave)
 
 TEST_F(LibraryFilterTest, isRestoredEvenWhereItFiltersNothing)
 {
-    m_filter.restore("where RACE = 1");
-    EXPECT_EQ(m_filter.text(), QString("where RACE = 1"));
+    EXPECT_TRUE(m_filter.restore("where RACE  =  -1").value());
+    EXPECT_EQ(m_filter.text(), QString("where RACE = -1"));
     EXPECT_FALSE(m_ages.problem.isEmpty());
-    m_filter.restore("where AGE > 5");
-    EXPECT_EQ(m_filter.text(), QString("where RACE = 1")) << "one that is in force stays";
+    EXPECT_FALSE(m_filter.restore("where AGE > 5").value());
+    EXPECT_EQ(m_filter.text(), QString("where RACE = -1")) << "one that is in force stays";
 
     m_filter.clear();
-    m_filter.restore("where AGE > 5");
+    EXPECT_TRUE(m_filter.restore("WHERE AGE > 5").value());
     EXPECT_EQ(m_ages.filter, QString("AGE > 5"));
     m_filter.clear();
-    m_filter.restore(QString());
+    EXPECT_FALSE(m_filter.restore(QString()).value());
     EXPECT_EQ(m_filter.text(), QString());
+}
+
+TEST_F(LibraryFilterTest, textThatSaysNoFilterIsRefused)
+{
+    for (const char* text : {"if AGE > 5", "AGE > 5", "where", "where AGE >", "wherever AGE > 5"}) {
+        EXPECT_FALSE(m_filter.restore(text).ok()) << text;
+        EXPECT_EQ(m_filter.text(), QString()) << text;
+    }
 }
 
 }  // namespace

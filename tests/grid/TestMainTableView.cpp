@@ -50,8 +50,6 @@ void TestMainTableView::init()
     auto* model = new MainTableModel(m_dataset.get(), m_view.get());
     m_tester = std::make_unique<QAbstractItemModelTester>(model);
     m_view->setModel(model);
-    m_view->setSortingEnabled(true);
-    m_view->sortByColumn(-1, Qt::AscendingOrder);
 }
 
 void TestMainTableView::cleanup()

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 /// Answers in the user's place and notes down what was asked and told. The notes live outside, as
 /// the prompts themselves belong to the window under test.
 class ScriptedPrompts : public UserPrompts
@@ -13,6 +15,7 @@ public:
     {
         bool confirmation = false;
         bool opening = false;
+        std::function<void()> whileAsked{};  ///< what happens while a question is open
         QStringList chosenFiles{};
         std::optional<QString> dataFilter{};
         QString uniqueVarName{};  ///< kept as it is when empty
@@ -26,6 +29,9 @@ public:
     [[nodiscard]] bool confirm(const QString& title, const QString& question) override
     {
         m_script.notes << QStringList({"confirm", title, question}).join('|');
+        if (m_script.whileAsked) {
+            m_script.whileAsked();
+        }
         return m_script.confirmation;
     }
     void warn(const QString& title, const QString& text, const QString& reason) override
