@@ -3,6 +3,7 @@
 #include "data/StatDataset.h"
 #include "grid/MainTableModel.h"
 
+#include <QAbstractItemDelegate>
 #include <QEvent>
 #include <QFontInfo>
 #include <QHeaderView>
@@ -108,16 +109,32 @@ void GridTable::fitColumns()
     // The header measures this many rows of every column. Never 0, which stands for all rows as
     // long as the view is hidden; and fewer in a wide table, so that the whole stays a blink.
     constexpr int cellsToMeasure = 10'000;
-    constexpr int widest = 400;
     QHeaderView* columnHeader = horizontalHeader();
-    columnHeader->setResizeContentsPrecision(
-        std::clamp(cellsToMeasure / std::max(columnHeader->count(), 1), 10, 300));
+    const int rowsToMeasure =
+        std::clamp(cellsToMeasure / std::max(columnHeader->count(), 1), 10, 300);
+    columnHeader->setResizeContentsPrecision(rowsToMeasure);
     resizeColumnsToContents();
     for (int column = 0; column < columnHeader->count(); ++column) {
-        if (columnHeader->sectionSize(column) > widest) {
-            columnHeader->resizeSection(column, widest);
-        }
+        constexpr int widest = 400;
+        const int width = std::max(columnHeader->sectionSize(column),
+                                   widthOfSpreadRows(column, rowsToMeasure / 5));
+        columnHeader->resizeSection(column, std::min(width, widest));
     }
+}
+
+/// The width that rows from all over the table want, of which the header has measured the first:
+/// numbers tend to grow towards the end.
+int GridTable::widthOfSpreadRows(int column, int rowCount) const
+{
+    const auto lastRow = static_cast<std::int64_t>(model()->rowCount()) - 1;
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    int width = 0;
+    for (int i = 1; lastRow > 0 && i <= rowCount; ++i) {
+        const QModelIndex index = model()->index(static_cast<int>(lastRow * i / rowCount), column);
+        width = std::max(width, itemDelegateForIndex(index)->sizeHint(option, index).width());
+    }
+    return width + (showGrid() ? 1 : 0);
 }
 
 void GridTable::changeFontSize(int step)

@@ -91,6 +91,7 @@ protected:
 
 private:
     void setUpColumnHeader();
+    [[nodiscard]] int widthOfSpreadRows(int column, int rowCount) const;
     void setUpRowHeader(QHeaderView& header) const;
     [[nodiscard]] int rowHeaderWidth() const;
     void startRowHeaderOver();

@@ -28,6 +28,7 @@ private slots:
     void filteringWithEverythingSelected();
     void currentCellKeepsItsObservation();
     void columnsFitTheirContentsWithinReason();
+    void columnsFitWhatStandsFarBelow();
     void emptyDatasetShowsItsColumns();
 
 private:
@@ -303,6 +304,19 @@ void TestMainTableView::columnsFitTheirContentsWithinReason()
     QCOMPARE(view.columnWidth(1), 400);
     QVERIFY2(view.horizontalHeader()->maximumSectionSize() > 400, "the user may make it wider");
     QVERIFY(view.horizontalHeader()->resizeContentsPrecision() > 0);
+}
+
+void TestMainTableView::columnsFitWhatStandsFarBelow()
+{
+    ScriptedDataset dataset;
+    dataset.variable("N", TypeCode::Double);
+    dataset.rows(20000, [](int row, int) { return ScriptedDataset::Value(row * 10000.0); });
+    MainTableView view(&dataset, nullptr);
+    view.setModel(new MainTableModel(&dataset, &view));
+
+    view.fitColumns();
+    const QString widest = view.model()->index(19999, 0).data().toString();
+    QVERIFY(view.columnWidth(0) > view.fontMetrics().horizontalAdvance(widest));
 }
 
 void TestMainTableView::emptyDatasetShowsItsColumns()
