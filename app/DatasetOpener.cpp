@@ -36,8 +36,9 @@ DatasetOpener::DatasetOpener(Surroundings surroundings, QObject* parent)
     connect(&m_retry, &QTimer::timeout, this, &DatasetOpener::openWaiting);
 }
 
-void DatasetOpener::chooseAndOpen(const QString& title, const QString& filters)
+void DatasetOpener::chooseAndOpen(FileKind kind)
 {
+    const auto [title, filters] = filekinds::dialogTexts(kind);
     const QString folder = m_surroundings.settings.lastFolder();
     const QStringList paths = m_surroundings.prompts.chooseFiles(title, folder, filters);
     for (const QString& path : paths) {

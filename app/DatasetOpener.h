@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/FileKinds.h"
 #include "app/OpenFilesMap.h"
 #include "data/DatasetFile.h"
 
@@ -39,8 +40,8 @@ public:
 
     explicit DatasetOpener(Surroundings surroundings, QObject* parent = nullptr);
 
-    /// Lets the user choose files by the filters of a file dialog and opens them one by one.
-    void chooseAndOpen(const QString& title, const QString& filters);
+    /// Lets the user choose files of a kind and opens them one by one.
+    void chooseAndOpen(FileKind kind);
     /// Opens one file. One that is open already is only activated, unless the user wants it
     /// reloaded.
     /// @return  whether the file is open now

@@ -446,36 +446,32 @@ void MainWindow::applyFontSize(int points)
 
 void MainWindow::on_actionOpenSasData_triggered()
 {
-    m_opener->chooseAndOpen(tr("Open SAS Datasets"),
-                            tr("SAS Data Files (*.sas7bdat);; SAS Transport Files (*.xpt)"));
+    m_opener->chooseAndOpen(FileKind::Sas);
 }
 
 void MainWindow::on_actionOpenDatasetJson_triggered()
 {
-    m_opener->chooseAndOpen(tr("Open Dataset-JSON Files"),
-                            tr("Dataset-JSON Files (*.json *.ndjson)"));
+    m_opener->chooseAndOpen(FileKind::DatasetJson);
 }
 
 void MainWindow::on_actionOpenRData_triggered()
 {
-    m_opener->chooseAndOpen(
-        tr("Open R Datasets"),
-        tr("R Data Files (*.rds);; R Data Files (*.rdata);; R Data Files (*.rda)"));
+    m_opener->chooseAndOpen(FileKind::R);
 }
 
 void MainWindow::on_actionOpenSpssData_triggered()
 {
-    m_opener->chooseAndOpen(tr("Open SPSS Datasets"), tr("SPSS Data Files (*.sav)"));
+    m_opener->chooseAndOpen(FileKind::Spss);
 }
 
 void MainWindow::on_actionOpenStataData_triggered()
 {
-    m_opener->chooseAndOpen(tr("Open Stata Datasets"), tr("Stata Data Files (*.dta)"));
+    m_opener->chooseAndOpen(FileKind::Stata);
 }
 
 void MainWindow::on_actionOpenCsv_triggered()
 {
-    m_opener->chooseAndOpen(tr("Open CSV Files"), tr("CSV (Comma delimited) (*.csv)"));
+    m_opener->chooseAndOpen(FileKind::Csv);
 }
 
 void MainWindow::on_actionNewSasProgram_triggered()

@@ -143,6 +143,57 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
 </context>
 <context>
+    <name>FileKinds</name>
+    <message>
+        <source>Open SAS Datasets</source>
+        <translation>SAS-Datensätze öffnen</translation>
+    </message>
+    <message>
+        <source>SAS Data Files (*.sas7bdat);; SAS Transport Files (*.xpt)</source>
+        <translation>SAS-Datensätze (*.sas7bdat);; SAS-Transportdateien (*.xpt)</translation>
+    </message>
+    <message>
+        <source>Open Dataset-JSON Files</source>
+        <translation>Dataset-JSON-Dateien öffnen</translation>
+    </message>
+    <message>
+        <source>Dataset-JSON Files (*.json *.ndjson)</source>
+        <translation>Dataset-JSON-Dateien (*.json *.ndjson)</translation>
+    </message>
+    <message>
+        <source>Open R Datasets</source>
+        <translation>R-Datensätze öffnen</translation>
+    </message>
+    <message>
+        <source>R Data Files (*.rds);; R Data Files (*.rdata);; R Data Files (*.rda)</source>
+        <translation>R-Datendateien (*.rds);; R-Datendateien (*.rdata);; R-Datendateien (*.rda)</translation>
+    </message>
+    <message>
+        <source>Open SPSS Datasets</source>
+        <translation>SPSS-Datensätze öffnen</translation>
+    </message>
+    <message>
+        <source>SPSS Data Files (*.sav)</source>
+        <translation>SPSS-Datendateien (*.sav)</translation>
+    </message>
+    <message>
+        <source>Open Stata Datasets</source>
+        <translation>Stata-Datensätze öffnen</translation>
+    </message>
+    <message>
+        <source>Stata Data Files (*.dta)</source>
+        <translation>Stata-Datendateien (*.dta)</translation>
+    </message>
+    <message>
+        <source>Open CSV Files</source>
+        <translation>CSV-Dateien öffnen</translation>
+    </message>
+    <message>
+        <source>CSV (Comma delimited) (*.csv)</source>
+        <translation>CSV (durch Kommas getrennt) (*.csv)</translation>
+    </message>
+</context>
+<context>
     <name>GridContextMenu</name>
     <message>
         <source>Copy</source>
@@ -557,54 +608,6 @@ Möchten Sie den Datensatz neu laden?</translation>
     <message>
         <source>The application will now exit.</source>
         <translation>Das Programm wird jetzt beendet.</translation>
-    </message>
-    <message>
-        <source>Open SAS Datasets</source>
-        <translation>SAS-Datensätze öffnen</translation>
-    </message>
-    <message>
-        <source>SAS Data Files (*.sas7bdat);; SAS Transport Files (*.xpt)</source>
-        <translation>SAS-Datensätze (*.sas7bdat);; SAS-Transportdateien (*.xpt)</translation>
-    </message>
-    <message>
-        <source>Open Dataset-JSON Files</source>
-        <translation>Dataset-JSON-Dateien öffnen</translation>
-    </message>
-    <message>
-        <source>Dataset-JSON Files (*.json *.ndjson)</source>
-        <translation>Dataset-JSON-Dateien (*.json *.ndjson)</translation>
-    </message>
-    <message>
-        <source>Open R Datasets</source>
-        <translation>R-Datensätze öffnen</translation>
-    </message>
-    <message>
-        <source>R Data Files (*.rds);; R Data Files (*.rdata);; R Data Files (*.rda)</source>
-        <translation>R-Datendateien (*.rds);; R-Datendateien (*.rdata);; R-Datendateien (*.rda)</translation>
-    </message>
-    <message>
-        <source>Open SPSS Datasets</source>
-        <translation>SPSS-Datensätze öffnen</translation>
-    </message>
-    <message>
-        <source>SPSS Data Files (*.sav)</source>
-        <translation>SPSS-Datendateien (*.sav)</translation>
-    </message>
-    <message>
-        <source>Open Stata Datasets</source>
-        <translation>Stata-Datensätze öffnen</translation>
-    </message>
-    <message>
-        <source>Stata Data Files (*.dta)</source>
-        <translation>Stata-Datendateien (*.dta)</translation>
-    </message>
-    <message>
-        <source>Open CSV Files</source>
-        <translation>CSV-Dateien öffnen</translation>
-    </message>
-    <message>
-        <source>CSV (Comma delimited) (*.csv)</source>
-        <translation>CSV (durch Kommas getrennt) (*.csv)</translation>
     </message>
     <message>
         <source>New SAS Program</source>

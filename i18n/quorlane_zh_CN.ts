@@ -143,6 +143,57 @@ Do you want to reload it?</source>
     </message>
 </context>
 <context>
+    <name>FileKinds</name>
+    <message>
+        <source>Open SAS Datasets</source>
+        <translation>打开 SAS 数据集</translation>
+    </message>
+    <message>
+        <source>SAS Data Files (*.sas7bdat);; SAS Transport Files (*.xpt)</source>
+        <translation>SAS 数据文件 (*.sas7bdat);; SAS 传输文件 (*.xpt)</translation>
+    </message>
+    <message>
+        <source>Open Dataset-JSON Files</source>
+        <translation>打开 Dataset-JSON 文件</translation>
+    </message>
+    <message>
+        <source>Dataset-JSON Files (*.json *.ndjson)</source>
+        <translation>Dataset-JSON 文件 (*.json *.ndjson)</translation>
+    </message>
+    <message>
+        <source>Open R Datasets</source>
+        <translation>打开 R 数据集</translation>
+    </message>
+    <message>
+        <source>R Data Files (*.rds);; R Data Files (*.rdata);; R Data Files (*.rda)</source>
+        <translation>R 数据文件 (*.rds);; R 数据文件 (*.rdata);; R 数据文件 (*.rda)</translation>
+    </message>
+    <message>
+        <source>Open SPSS Datasets</source>
+        <translation>打开 SPSS 数据集</translation>
+    </message>
+    <message>
+        <source>SPSS Data Files (*.sav)</source>
+        <translation>SPSS 数据文件 (*.sav)</translation>
+    </message>
+    <message>
+        <source>Open Stata Datasets</source>
+        <translation>打开 Stata 数据集</translation>
+    </message>
+    <message>
+        <source>Stata Data Files (*.dta)</source>
+        <translation>Stata 数据文件 (*.dta)</translation>
+    </message>
+    <message>
+        <source>Open CSV Files</source>
+        <translation>打开 CSV 文件</translation>
+    </message>
+    <message>
+        <source>CSV (Comma delimited) (*.csv)</source>
+        <translation>CSV（逗号分隔）(*.csv)</translation>
+    </message>
+</context>
+<context>
     <name>GridContextMenu</name>
     <message>
         <source>Copy</source>
@@ -557,54 +608,6 @@ Do you want to reload it?</source>
     <message>
         <source>The application will now exit.</source>
         <translation>应用程序即将退出。</translation>
-    </message>
-    <message>
-        <source>Open SAS Datasets</source>
-        <translation>打开 SAS 数据集</translation>
-    </message>
-    <message>
-        <source>SAS Data Files (*.sas7bdat);; SAS Transport Files (*.xpt)</source>
-        <translation>SAS 数据文件 (*.sas7bdat);; SAS 传输文件 (*.xpt)</translation>
-    </message>
-    <message>
-        <source>Open Dataset-JSON Files</source>
-        <translation>打开 Dataset-JSON 文件</translation>
-    </message>
-    <message>
-        <source>Dataset-JSON Files (*.json *.ndjson)</source>
-        <translation>Dataset-JSON 文件 (*.json *.ndjson)</translation>
-    </message>
-    <message>
-        <source>Open R Datasets</source>
-        <translation>打开 R 数据集</translation>
-    </message>
-    <message>
-        <source>R Data Files (*.rds);; R Data Files (*.rdata);; R Data Files (*.rda)</source>
-        <translation>R 数据文件 (*.rds);; R 数据文件 (*.rdata);; R 数据文件 (*.rda)</translation>
-    </message>
-    <message>
-        <source>Open SPSS Datasets</source>
-        <translation>打开 SPSS 数据集</translation>
-    </message>
-    <message>
-        <source>SPSS Data Files (*.sav)</source>
-        <translation>SPSS 数据文件 (*.sav)</translation>
-    </message>
-    <message>
-        <source>Open Stata Datasets</source>
-        <translation>打开 Stata 数据集</translation>
-    </message>
-    <message>
-        <source>Stata Data Files (*.dta)</source>
-        <translation>Stata 数据文件 (*.dta)</translation>
-    </message>
-    <message>
-        <source>Open CSV Files</source>
-        <translation>打开 CSV 文件</translation>
-    </message>
-    <message>
-        <source>CSV (Comma delimited) (*.csv)</source>
-        <translation>CSV（逗号分隔）(*.csv)</translation>
     </message>
     <message>
         <source>New SAS Program</source>
