@@ -101,7 +101,7 @@ void CommandBoxes::submitLibraryFilter(const QString& line)
     if (text.isEmpty()) {
         m_services.libraryFilter().clear();
     } else if (text != m_services.libraryFilter().text()) {
-        if (m_grid == nullptr ? !m_services.restoreLibraryFilter(text) : !run(line)) {
+        if (m_grid == nullptr ? !m_services.runLibraryCommand(text) : !run(line)) {
             return;
         }
         m_libraryFilter->remember(line);
@@ -122,17 +122,21 @@ void CommandBoxes::submitByVariables(const QString& line)
     leaveBoxes();
 }
 
-void CommandBoxes::applyDataFilter(const QString& condition)
+bool CommandBoxes::applyDataFilter(const QString& condition)
 {
     if (m_grid == nullptr || condition.trimmed() == conditionOf(m_grid->datasetFilterText())) {
-        return;
+        return true;
     }
     const QString plain = conditionOf(condition.trimmed());
     if (plain.isEmpty()) {
         m_grid->run(GridCommand::ClearDatasetFilter);
-    } else if (m_services.replaceDatasetFilter(*m_grid, plain)) {
-        m_datasetFilter->remember(statementOf(plain));
+        return true;
     }
+    if (!m_services.replaceDatasetFilter(*m_grid, plain)) {
+        return false;
+    }
+    m_datasetFilter->remember(statementOf(plain));
+    return true;
 }
 
 QString CommandBoxes::conditionOf(const QString& datasetFilterText)

@@ -30,7 +30,8 @@ public:
     void showByVariables();
 
     /// Puts a condition in the place of the grid's dataset filter; an empty one clears it.
-    void applyDataFilter(const QString& condition);
+    /// @return  whether nothing went wrong, which has been told
+    [[nodiscard]] bool applyDataFilter(const QString& condition);
     /// What stands behind the "if" of a dataset filter's text.
     [[nodiscard]] static QString conditionOf(const QString& datasetFilterText);
 

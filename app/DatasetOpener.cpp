@@ -30,9 +30,7 @@ DatasetOpener::DatasetOpener(Surroundings surroundings, QObject* parent)
     : QObject(parent)
     , m_surroundings(std::move(surroundings))
 {
-    constexpr int milliseconds = 50;
     m_retry.setSingleShot(true);
-    m_retry.setInterval(milliseconds);
     connect(&m_retry, &QTimer::timeout, this, &DatasetOpener::openWaiting);
 }
 
@@ -94,13 +92,16 @@ bool DatasetOpener::close(QMdiSubWindow* window, const DatasetOrigin& origin)
 void DatasetOpener::openLater(const QStringList& paths)
 {
     m_waiting << paths;
-    m_retry.start();
+    if (!m_retry.isActive()) {
+        m_retry.start(0);
+    }
 }
 
 void DatasetOpener::openWaiting()
 {
     if (QApplication::activeModalWidget() != nullptr) {
-        m_retry.start();
+        constexpr int milliseconds = 50;
+        m_retry.start(milliseconds);
         return;
     }
     for (const QString& path : std::exchange(m_waiting, QStringList())) {
@@ -134,6 +135,7 @@ void DatasetOpener::show(std::unique_ptr<DatasetWindow> window)
     m_surroundings.area.addSubWindow(window.release());  // which the area owns from here on
     m_openFiles.add(opened->fileKey(), opened);
     opened->show();
+    emit signalShown(opened);
     activate(opened);
     opened->view()->setFocus();
 }

@@ -57,6 +57,8 @@ public:
 signals:
     /// A window has been created and is not shown yet.
     void signalOpened(DatasetWindow* window);
+    /// The window is on the screen. Under a style sheet it has the fonts that it keeps from now on.
+    void signalShown(DatasetWindow* window);
     /// A file has been opened.
     void signalRead(const QString& path);
 

@@ -21,6 +21,14 @@ QString memberOf(const DatasetOrigin& origin)
     return origin.fileKey.startsWith(path) ? origin.fileKey.mid(path.size()) : QString();
 }
 
+/// A name of any length as a tab has room for it: its beginning and its end.
+QString shortened(const QString& name)
+{
+    constexpr int longest = 48;
+    constexpr int half = longest / 2 - 1;
+    return name.size() <= longest ? name : name.left(half) + QChar(0x2026) + name.right(half);
+}
+
 }  // namespace
 
 DatasetWindow::DatasetWindow(std::unique_ptr<StatDataset> dataset, const DatasetOrigin& origin,
@@ -35,7 +43,7 @@ DatasetWindow::DatasetWindow(std::unique_ptr<StatDataset> dataset, const Dataset
     const QString member = memberOf(origin);
     const QString fileName = origin.filePath.section(u'/', -1);
     m_datasetName = member.isEmpty() ? QFileInfo(fileName).completeBaseName() : member;
-    setWindowTitle(plainTitle(member.isEmpty() ? fileName : member));
+    setWindowTitle(plainTitle(shortened(member.isEmpty() ? fileName : member)));
     setWindowIcon(icons::forDataset(origin.filePath));
     dropSystemMenuShortcuts();
     addCloseKey();

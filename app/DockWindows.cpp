@@ -64,6 +64,16 @@ void DockWindows::showTitlesOf(const QString& datasetName)
     m_univariate->setWindowTitle(isNone ? tr("Univariate") : tr("Univariate - %1").arg(name));
 }
 
+void DockWindows::raiseFloating() const
+{
+    for (QDockWidget* dock : m_docks) {
+        if (dock->isFloating() && !dock->isHidden()) {
+            dock->hide();  // only a new window is placed before the main one
+            bringUp(*dock);
+        }
+    }
+}
+
 void DockWindows::bringUp(QDockWidget& dock)
 {
     dock.show();

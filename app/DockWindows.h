@@ -23,6 +23,8 @@ public:
     void fillMenu(QMenu& menu) const;
     /// Names the dataset whose views the side docks show; without one they have their plain titles.
     void showTitlesOf(const QString& datasetName);
+    /// Brings floating docks before the window, which was not there yet when they were restored.
+    void raiseFloating() const;
     /// Shows a dock and brings it in front of those that share its place.
     static void bringUp(QDockWidget& dock);
 

@@ -53,8 +53,20 @@ bool GridServices::replaceDatasetFilter(MainTableView& grid, const QString& cond
                    [&] { grid.replaceDatasetFilter(condition); });
 }
 
-bool GridServices::restoreLibraryFilter(const QString& text)
+bool GridServices::runLibraryCommand(const QString& text)
 {
+    const QStringList words = text.simplified().toLower().split(u' ');
+    if (words.front() == u"clf"
+        || (words.size() == 3 && words[0] == u"clear" && words[1] == u"library")) {
+        m_libraryFilter.clear();
+        return true;
+    }
+    if (!m_libraryFilter.text().isEmpty()) {
+        reportCommandError(QStringLiteral("Library Filter supports one level only. "
+                                          "Please clear library filter first."),
+                           text);
+        return false;
+    }
     const Result<bool> restored = m_libraryFilter.restore(text);
     if (!restored) {
         reportCommandError(QString::fromStdString(restored.error()), text);

@@ -33,10 +33,10 @@ public:
     /// Runs a statement of a program on a grid and tells what goes wrong.
     /// @return  whether nothing did
     bool runStatement(MainTableView& grid, const QString& statement);
-    /// Sets the library filter for what is opened later, and tells what goes wrong.
-    /// @param text  in statement form: "where a = 1"
+    /// Sets or clears the library filter for what is opened later, and tells what goes wrong.
+    /// @param text  "where a = 1", "clf" or "clear library filter"
     /// @return      whether nothing did
-    bool restoreLibraryFilter(const QString& text);
+    bool runLibraryCommand(const QString& text);
     /// Puts a condition in the place of a grid's dataset filter, which stays when it is wrong.
     /// @return  whether nothing went wrong
     bool replaceDatasetFilter(MainTableView& grid, const QString& condition);

@@ -33,6 +33,7 @@ void MainToolBars::addHeaderModeBar()
     m_names->setToolTip(tr("Show variable names in the column headers"));
     m_labels->setToolTip(tr("Show variable labels in the column headers"));
     for (QRadioButton* button : {m_names, m_labels}) {
+        button->setFocusPolicy(Qt::TabFocus);  // a click leaves the keys with the grid
         m_headerModes->addButton(button);
         bar->addWidget(button);
     }

@@ -25,6 +25,7 @@
 #include "app/WorkspaceTree.h"
 #include "grid/MainTableModel.h"
 #include "grid/MainTableView.h"
+#include "grid/WaitCursor.h"
 #include "workspace/OptionsDialog.h"
 #include "workspace/WorkspaceStore.h"
 
@@ -130,6 +131,11 @@ void MainWindow::createOpener(DatasetLoader load)
                                     load ? std::move(load) : DatasetLoader(&openDataset)},
         this);
     connect(m_opener, &DatasetOpener::signalOpened, this, &MainWindow::prepareWindow);
+    connect(m_opener, &DatasetOpener::signalShown, this, [this](DatasetWindow* window) {
+        if (m_settings->fontSize() > 0) {
+            window->view()->setFontSize(m_settings->fontSize());
+        }
+    });
     connect(m_opener, &DatasetOpener::signalRead, m_recentFiles.get(), &RecentFiles::add);
 }
 
@@ -221,15 +227,21 @@ void MainWindow::openWorkspace(std::unique_ptr<WorkspaceStore> store)
         QTimer::singleShot(0, qApp, &QCoreApplication::quit);
         return;
     }
-    m_gridServices->setUniqueVarName(
-        m_store->loadOption(QStringLiteral("uniqueVarName"), QStringLiteral("USUBJID")));
+    const QString usual = m_gridServices->uniqueVarName();
+    const QString name = m_store->loadOption(QStringLiteral("uniqueVarName"), usual).trimmed();
+    m_gridServices->setUniqueVarName(name.isEmpty() ? usual : name);
     restoreArrangement();
 }
 
 void MainWindow::restoreArrangement()
 {
     restoreGeometry(m_settings->geometry());
-    restoreState(m_settings->state());
+    const QByteArray arrangement = saveState();
+    const QByteArray remembered = m_settings->state();
+    if (!remembered.isEmpty() && !restoreState(remembered)) {
+        spdlog::warn("The arrangement of docks and toolbars could not be restored");
+        restoreState(arrangement);  // of the damaged one a part may be in force
+    }
     const std::size_t layout = PaneLayout::fromText(m_settings->lastLayout());
     m_actions->layouts.at(layout)->setChecked(true);
     m_paneLayout->apply(layout);
@@ -258,9 +270,6 @@ void MainWindow::prepareWindow(DatasetWindow* window)
     connect(window, &DatasetWindow::signalClosed, this, &MainWindow::subWindowClosed);
     m_area->showDatasets(true);
     window->view()->setHeaderMode(m_toolBars->headerMode());
-    if (m_settings->fontSize() > 0) {
-        window->view()->setFontSize(m_settings->fontSize());
-    }
 }
 
 // What it connects changes the window. NOLINTNEXTLINE(readability-make-member-function-const)
@@ -438,6 +447,7 @@ void MainWindow::toggleDarkMode()
 
 void MainWindow::applyFontSize(int points)
 {
+    const WaitCursor waitCursor;
     m_settings->setFontSize(points);
     forEachGrid([points](MainTableView& view) { view.setFontSize(points); });
 }
@@ -531,17 +541,22 @@ void MainWindow::on_actionOptions_triggered()
     }
 }
 
+/// A condition that is wrong can be mended.
 void MainWindow::editDataFilter()
 {
     if (m_activeView == nullptr) {
         return;
     }
-    const std::optional<QString> text =
-        m_prompts->editDataFilter(CommandBoxes::conditionOf(m_activeView->datasetFilterText()));
-    if (text) {
-        m_boxes->applyDataFilter(*text);
-    } else {
-        spdlog::info("Filter canceled");
+    QString text = CommandBoxes::conditionOf(m_activeView->datasetFilterText());
+    bool isApplied = false;
+    while (!isApplied) {
+        const std::optional<QString> edited = m_prompts->editDataFilter(text);
+        if (!edited) {
+            spdlog::info("Filter canceled");
+            return;
+        }
+        text = *edited;
+        isApplied = m_boxes->applyDataFilter(text);
     }
 }
 
@@ -569,6 +584,7 @@ void MainWindow::showEvent(QShowEvent* event)
     if (!m_isArranged) {
         m_isArranged = true;
         m_paneLayout->apply(PaneLayout::fromText(m_settings->lastLayout()));
+        QTimer::singleShot(0, this, [this] { m_docks->raiseFloating(); });
     }
 }
 

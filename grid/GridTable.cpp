@@ -14,6 +14,13 @@
 
 #include <algorithm>
 
+namespace {
+
+/// No column is made wider than this by itself.
+constexpr int widestFitted = 400;
+
+}  // namespace
+
 GridTable::GridTable(StatDataset* dataset, QWidget* parent)
     : QTableView(parent)
     , m_dataset(dataset)
@@ -115,10 +122,9 @@ void GridTable::fitColumns()
     columnHeader->setResizeContentsPrecision(rowsToMeasure);
     resizeColumnsToContents();
     for (int column = 0; column < columnHeader->count(); ++column) {
-        constexpr int widest = 400;
         const int width = std::max(columnHeader->sectionSize(column),
                                    widthOfSpreadRows(column, rowsToMeasure / 5));
-        columnHeader->resizeSection(column, std::min(width, widest));
+        columnHeader->resizeSection(column, std::min(width, widestFitted));
     }
 }
 
@@ -190,6 +196,19 @@ void GridTable::setHeaderMode(HeaderMode mode)
         const Place before = place();
         m_model->setHeaderMode(mode);
         showRows(before, Scrolling::Stay);
+        widenForHeaders();
+    }
+}
+
+/// Labels want more room than names; what the user has made wider stays.
+void GridTable::widenForHeaders()
+{
+    QHeaderView* header = horizontalHeader();
+    for (int column = 0; column < header->count(); ++column) {
+        const int wanted = std::min(header->sectionSizeHint(column), widestFitted);
+        if (!header->isSectionHidden(column) && header->sectionSize(column) < wanted) {
+            header->resizeSection(column, wanted);
+        }
     }
 }
 

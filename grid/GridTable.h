@@ -91,6 +91,7 @@ protected:
 
 private:
     void setUpColumnHeader();
+    void widenForHeaders();
     [[nodiscard]] int widthOfSpreadRows(int column, int rowCount) const;
     void setUpRowHeader(QHeaderView& header) const;
     [[nodiscard]] int rowHeaderWidth() const;

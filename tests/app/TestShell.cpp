@@ -43,6 +43,7 @@ private slots:
     void layoutsDivideTheWidth();
     void layoutIsKeptForTheNextStart();
     void arrangementIsKeptForTheNextStart();
+    void damagedArrangementGivesWayToTheUsualOne();
     void darkModeIsKeptForTheNextStart();
     void headersShowLabelsInAllGridsAndThoseOpenedLater();
     void fontSizeIsSharedAndKept();
@@ -275,6 +276,22 @@ void TestShell::arrangementIsKeptForTheNextStart()
     QVERIFY(m_window->findChild<QToolBar*>("toolBarBy")->isHidden());
 }
 
+void TestShell::damagedArrangementGivesWayToTheUsualOne()
+{
+    m_window->addDockWidget(Qt::LeftDockWidgetArea, dock("dockWidgetLog"));
+    m_window->close();
+    m_window.reset();
+    {
+        QSettings settings(m_folder->filePath("settings.ini"), QSettings::IniFormat);
+        const QByteArray state = settings.value("state").toByteArray();
+        settings.setValue("state", state.left(state.size() * 2 / 5));
+    }
+    openWindow();
+    QCOMPARE(m_window->dockWidgetArea(dock("dockWidgetLog")), Qt::BottomDockWidgetArea);
+    QVERIFY(!dock("dockWidgetWorkspace")->isHidden());
+    QVERIFY(m_log->take().find("could not be restored") != std::string::npos);
+}
+
 void TestShell::darkModeIsKeptForTheNextStart()
 {
     const auto isDark = [this] {
@@ -314,9 +331,13 @@ void TestShell::fontSizeIsSharedAndKept()
     QTest::keyClick(&view(), Qt::Key_Plus, Qt::ControlModifier);
     QCOMPARE(viewAt(0).fontSize(), before + 1);
     QCOMPARE(viewAt(1).fontSize(), before + 1);
+    trigger("actionToggleDarkMode");
     startAgain();
     open("dm3");
+    open("dm4");
     QCOMPARE(view().fontSize(), before + 1);
+    QCOMPARE(QFontInfo(view().horizontalHeader()->font()).pointSize(), before + 1);
+    trigger("actionToggleDarkMode");
     const int rowHeight = view().rowHeight(0);
     for (int i = 0; i < 2; ++i) {
         trigger("actionToggleDarkMode");
@@ -400,6 +421,7 @@ void TestShell::dataFilterReplacesTheDatasetFilter()
     QCOMPARE(boxText("comboBoxDf"), "if age < 35");
     QCOMPARE(rows(), "Rows: 1/3");
 
+    m_script.dataFilter = "age < 35";
     trigger("actionEditDataFilter");  // as it is: no step
     QTest::keyClick(&view(), Qt::Key_Z);
     QCOMPARE(boxText("comboBoxDf"), "if age > 35");
@@ -431,7 +453,10 @@ void TestShell::wrongDataFilterLeavesTheOldOne()
     submit("comboBoxDf", "if age > 35");
     m_script.dataFilter = "age > \"x\"";
     trigger("actionEditDataFilter");
-    QCOMPARE(m_script.notes.last(), "warn|Command|The variable types do not match.|if age > \"x\"");
+    QCOMPARE(m_script.notes,
+             QStringList({"data filter|age > 35",
+                          "warn|Command|The variable types do not match.|if age > \"x\"",
+                          "data filter|age > \"x\""}));  // and is offered to be mended
     QCOMPARE(view().datasetFilterText(), "if age > 35");
     QCOMPARE(rows(), "Rows: 2/3");
     m_script.notes.clear();
@@ -565,7 +590,12 @@ void TestShell::libraryFilterIsSetAndClearedWithoutADataset()
     QCOMPARE(rows(), "Rows: 2/3");
     trigger("actionClose");
     QCOMPARE(label("labelStatusBarLf"), "LF: where sex = 'F'");
-    submit("comboBoxLf", "");
+    submit("comboBoxLf", "where age = 1");
+    QCOMPARE(m_script.notes,
+             QStringList({"warn|Command|Library Filter supports one level only. "
+                          "Please clear library filter first.|where age = 1"}));
+    m_script.notes.clear();
+    submit("comboBoxLf", "clear library filter");
     QCOMPARE(label("labelStatusBarLf"), "LF: NA");
     open("dm");
     QCOMPARE(rows(), "Rows: 3/3");

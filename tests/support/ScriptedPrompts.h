@@ -17,7 +17,7 @@ public:
         bool opening = false;
         std::function<void()> whileAsked{};  ///< what happens while a question is open
         QStringList chosenFiles{};
-        std::optional<QString> dataFilter{};
+        std::optional<QString> dataFilter{};  ///< once; then the user cancels
         QString uniqueVarName{};  ///< kept as it is when empty
         QStringList notes{};  ///< one line "kind|title|text|..." for each prompt, in order
     };
@@ -60,7 +60,7 @@ public:
     [[nodiscard]] std::optional<QString> editDataFilter(const QString& condition) override
     {
         m_script.notes << QStringList({"data filter", condition}).join('|');
-        return m_script.dataFilter;
+        return std::exchange(m_script.dataFilter, std::nullopt);
     }
     [[nodiscard]] QString editOptions(const QString& uniqueVarName) override
     {
