@@ -7,12 +7,12 @@
 #include "app/DialogPrompts.h"
 #include "app/DockWindows.h"
 #include "app/EmptyState.h"
+#include "app/GridLook.h"
 #include "app/GridServices.h"
 #include "app/LogView.h"
 #include "app/MainActions.h"
 #include "app/MainMenus.h"
 #include "app/MainToolBars.h"
-#include "app/PaneLayout.h"
 #include "app/ProgramEditor.h"
 #include "app/ProgramRunner.h"
 #include "app/RecentFiles.h"
@@ -22,10 +22,9 @@
 #include "app/Theme.h"
 #include "app/UpdateCheck.h"
 #include "app/WebSite.h"
+#include "app/WindowArrangement.h"
 #include "app/WorkspaceTree.h"
-#include "grid/MainTableModel.h"
 #include "grid/MainTableView.h"
-#include "grid/WaitCursor.h"
 #include "workspace/OptionsDialog.h"
 #include "workspace/WorkspaceStore.h"
 
@@ -61,7 +60,7 @@ MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
     DatasetLoader load = std::move(services.load);
     std::unique_ptr<WorkspaceStore> store = std::move(services.store);
     createServices(std::move(services));
-    applyTheme();
+    theme::apply(m_settings->darkMode());
     createActions();
     createCentralArea();
     createOpener(std::move(load));
@@ -99,8 +98,6 @@ void MainWindow::createServices(MainWindowServices services)
                                      .version = QCoreApplication::applicationVersion(),
                                      .openPage = m_openUrl},
                                     *m_prompts, this);
-    connect(m_gridServices.get(), &GridServices::signalFontSizeChanged, this,
-            &MainWindow::applyFontSize);
 }
 
 void MainWindow::createActions()
@@ -117,6 +114,9 @@ void MainWindow::createCentralArea()
     empty->setRecentFiles(m_recentFiles->paths());
     m_area->setEmptyState(empty);
     setCentralWidget(m_area);
+    m_look = std::make_unique<GridLook>(*m_settings, m_area->mdiArea());
+    connect(m_gridServices.get(), &GridServices::signalFontSizeChanged, this,
+            [this](int points) { m_look->setFontSize(points); });
     connect(empty, &EmptyState::signalOpenRequested, m_recentFiles.get(), &RecentFiles::request);
     connect(m_recentFiles.get(), &RecentFiles::signalChanged, empty,
             [this, empty] { empty->setRecentFiles(m_recentFiles->paths()); });
@@ -131,11 +131,8 @@ void MainWindow::createOpener(DatasetLoader load)
                                     load ? std::move(load) : DatasetLoader(&openDataset)},
         this);
     connect(m_opener, &DatasetOpener::signalOpened, this, &MainWindow::prepareWindow);
-    connect(m_opener, &DatasetOpener::signalShown, this, [this](DatasetWindow* window) {
-        if (m_settings->fontSize() > 0) {
-            window->view()->setFontSize(m_settings->fontSize());
-        }
-    });
+    connect(m_opener, &DatasetOpener::signalShown, this,
+            [this](DatasetWindow* window) { m_look->applyFontTo(*window->view()); });
     connect(m_opener, &DatasetOpener::signalRead, m_recentFiles.get(), &RecentFiles::add);
 }
 
@@ -149,8 +146,7 @@ void MainWindow::createToolBars()
     connect(m_actions->goToDatasetFilter, &QAction::triggered, m_boxes->datasetFilterBar(),
             &CommandBar::edit);
     m_toolBars->addRightBars(*m_actions);
-    m_toolBars->showHeaderMode(m_settings->headersShowLabels() ? HeaderMode::VariableLabels
-                                                               : HeaderMode::VariableNames);
+    m_toolBars->showHeaderMode(m_look->headerMode());
     connect(m_toolBars, &MainToolBars::signalHeaderModeClicked, this,
             &MainWindow::onColumnHeaderLabelChanged);
 }
@@ -158,7 +154,7 @@ void MainWindow::createToolBars()
 void MainWindow::createDocks()
 {
     m_docks = std::make_unique<DockWindows>(*this);
-    m_paneLayout = std::make_unique<PaneLayout>(*this, m_docks->all());
+    m_arrangement = std::make_unique<WindowArrangement>(*this, *m_docks, *m_actions, *m_settings);
     fillDocks();
 }
 
@@ -211,7 +207,7 @@ void MainWindow::connectActions()
     run(m_actions->nextDataset, &MainWindow::onSwitchWindow);
     for (std::size_t layout = 0; layout < m_actions->layouts.size(); ++layout) {
         connect(m_actions->layouts[layout], &QAction::triggered, this,
-                [this, layout] { applyLayout(layout); });
+                [this, layout] { m_arrangement->applyLayout(layout); });
     }
 }
 
@@ -230,21 +226,7 @@ void MainWindow::openWorkspace(std::unique_ptr<WorkspaceStore> store)
     const QString usual = m_gridServices->uniqueVarName();
     const QString name = m_store->loadOption(QStringLiteral("uniqueVarName"), usual).trimmed();
     m_gridServices->setUniqueVarName(name.isEmpty() ? usual : name);
-    restoreArrangement();
-}
-
-void MainWindow::restoreArrangement()
-{
-    restoreGeometry(m_settings->geometry());
-    const QByteArray arrangement = saveState();
-    const QByteArray remembered = m_settings->state();
-    if (!remembered.isEmpty() && !restoreState(remembered)) {
-        spdlog::warn("The arrangement of docks and toolbars could not be restored");
-        restoreState(arrangement);  // of the damaged one a part may be in force
-    }
-    const std::size_t layout = PaneLayout::fromText(m_settings->lastLayout());
-    m_actions->layouts.at(layout)->setChecked(true);
-    m_paneLayout->apply(layout);
+    m_arrangement->restore();
 }
 
 // Datasets
@@ -269,7 +251,7 @@ void MainWindow::prepareWindow(DatasetWindow* window)
 {
     connect(window, &DatasetWindow::signalClosed, this, &MainWindow::subWindowClosed);
     m_area->showDatasets(true);
-    window->view()->setHeaderMode(m_toolBars->headerMode());
+    window->view()->setHeaderMode(m_look->headerMode());
 }
 
 // What it connects changes the window. NOLINTNEXTLINE(readability-make-member-function-const)
@@ -326,15 +308,6 @@ void MainWindow::showWhatIsOpen()
         m_counters->showNothingOpen();
         m_counters->setLibraryFilter(m_gridServices->libraryFilter().text(), QString());
         m_docks->showTitlesOf(QString());
-    }
-}
-
-void MainWindow::forEachGrid(const std::function<void(MainTableView&)>& visit) const
-{
-    for (QMdiSubWindow* window : m_area->mdiArea().subWindowList()) {
-        if (auto* dataset = qobject_cast<DatasetWindow*>(window)) {
-            visit(*dataset->view());
-        }
     }
 }
 
@@ -397,59 +370,31 @@ void MainWindow::setLabelStatusBarDf(const QString& filter)
 
 void MainWindow::showDockFreq()
 {
-    m_paneLayout->makeRoomFor(*m_docks->frequency());
-    DockWindows::bringUp(*m_docks->frequency());
+    m_arrangement->show(*m_docks->frequency());
 }
 
 void MainWindow::showDockDesc(QTableWidget* tableWidget)
 {
     m_docks->univariate()->setWidget(tableWidget);
-    m_paneLayout->makeRoomFor(*m_docks->univariate());
-    DockWindows::bringUp(*m_docks->univariate());
+    m_arrangement->show(*m_docks->univariate());
 }
 
 void MainWindow::showDockVar()
 {
-    m_paneLayout->makeRoomFor(*m_docks->variables());
-    DockWindows::bringUp(*m_docks->variables());
+    m_arrangement->show(*m_docks->variables());
 }
 
 // Looks
 
-void MainWindow::applyLayout(std::size_t layout)
-{
-    m_actions->layouts.at(layout)->setChecked(true);
-    m_settings->setLastLayout(PaneLayout::text(layout));
-    m_paneLayout->apply(layout);
-}
-
 void MainWindow::onColumnHeaderLabelChanged(QAbstractButton* /*button*/)
 {
-    const HeaderMode mode = m_toolBars->headerMode();
-    m_settings->setHeadersShowLabels(mode == HeaderMode::VariableLabels);
-    forEachGrid([mode](MainTableView& view) { view.setHeaderMode(mode); });
+    m_look->setHeaderMode(m_toolBars->headerMode());
     handleTabSwitch();
-}
-
-void MainWindow::applyTheme()
-{
-    theme::apply(m_settings->darkMode());
-    if (const int points = m_settings->fontSize(); points > 0 && m_area != nullptr) {
-        forEachGrid([points](MainTableView& view) { view.setFontSize(points); });
-    }
 }
 
 void MainWindow::toggleDarkMode()
 {
-    m_settings->setDarkMode(!m_settings->darkMode());
-    applyTheme();
-}
-
-void MainWindow::applyFontSize(int points)
-{
-    const WaitCursor waitCursor;
-    m_settings->setFontSize(points);
-    forEachGrid([points](MainTableView& view) { view.setFontSize(points); });
+    m_look->toggleDarkMode();
 }
 
 // Actions
@@ -572,19 +517,17 @@ void MainWindow::submitProgram()
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (m_store != nullptr) {
-        m_settings->setGeometryAndState(saveGeometry(), saveState());
+        m_arrangement->save();
     }
     QMainWindow::closeEvent(event);
 }
 
-/// The docks take their widths only from a window that has its own.
 void MainWindow::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
     if (!m_isArranged) {
         m_isArranged = true;
-        m_paneLayout->apply(PaneLayout::fromText(m_settings->lastLayout()));
-        QTimer::singleShot(0, this, [this] { m_docks->raiseFloating(); });
+        QTimer::singleShot(0, this, [this] { m_arrangement->finish(); });
     }
 }
 

@@ -12,12 +12,12 @@ class CommandBoxes;
 class DatasetWindow;
 class DatasetsArea;
 class DockWindows;
+class GridLook;
 class GridServices;
 class LogView;
 class MainMenus;
 class MainTableView;
 class MainToolBars;
-class PaneLayout;
 class ProgramEditor;
 class QAbstractButton;
 class QAction;
@@ -30,6 +30,7 @@ class Settings;
 class StatusCounters;
 class UpdateCheck;
 class UserPrompts;
+class WindowArrangement;
 class WorkspaceStore;
 struct MainActions;
 
@@ -120,11 +121,6 @@ private:
     void connectGrid(MainTableView* view);
     void prepareWindow(DatasetWindow* window);
     void openWorkspace(std::unique_ptr<WorkspaceStore> store);
-    void restoreArrangement();
-    void applyLayout(std::size_t layout);
-    void applyTheme();
-    void applyFontSize(int points);
-    void forEachGrid(const std::function<void(MainTableView&)>& visit) const;
     void showWhatIsOpen();
 
     std::unique_ptr<QSettings> m_settingsStore;
@@ -137,7 +133,8 @@ private:
     std::unique_ptr<StatusCounters> m_counters;
     std::unique_ptr<GridServices> m_gridServices;
     std::unique_ptr<DockWindows> m_docks;
-    std::unique_ptr<PaneLayout> m_paneLayout;
+    std::unique_ptr<WindowArrangement> m_arrangement;
+    std::unique_ptr<GridLook> m_look;
     std::unique_ptr<RecentFiles> m_recentFiles;
     MainToolBars* m_toolBars = nullptr;
     CommandBoxes* m_boxes = nullptr;
