@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/CellStore.h"
+#include "data/cells/CellStore.h"
 
 #include <array>
 #include <cstddef>

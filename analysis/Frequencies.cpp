@@ -4,7 +4,7 @@
 #include "analysis/FreqColumn.h"
 #include "analysis/FreqGroups.h"
 #include "analysis/TextRanks.h"
-#include "data/Texts.h"
+#include "data/values/Texts.h"
 
 #include <algorithm>
 #include <array>

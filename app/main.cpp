@@ -1,4 +1,4 @@
-#include "app/Startup.h"
+#include "app/start/Startup.h"
 
 int main(int argc, char** argv)
 {

@@ -3,8 +3,8 @@
 // painted. The last two grow by half-decades: a quadratic step would show as a multiple of ten.
 
 #include "benchmarks/BenchmarkFiles.h"
-#include "data/DatasetFile.h"
 #include "data/InMemoryDataset.h"
+#include "data/readers/DatasetFile.h"
 #include "grid/filter/FilterCondition.h"
 #include "grid/MainTableModel.h"
 #include "grid/MainTableView.h"

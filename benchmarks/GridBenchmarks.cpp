@@ -3,7 +3,7 @@
 
 #include "analysis/RowSorter.h"
 #include "benchmarks/BenchmarkFiles.h"
-#include "data/DatasetFile.h"
+#include "data/readers/DatasetFile.h"
 #include "grid/MainTableModel.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 // empty value handler, and how much memory a loaded cell takes.
 
 #include "benchmarks/BenchmarkFiles.h"
-#include "data/DatasetFile.h"
+#include "data/readers/DatasetFile.h"
 
 #include <fmt/format.h>
 

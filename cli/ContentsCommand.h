@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/Output.h"
-#include "data/DatasetFile.h"
+#include "data/readers/DatasetFile.h"
 
 namespace cli {
 

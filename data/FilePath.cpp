@@ -1,6 +1,6 @@
 #include "data/FilePath.h"
 
-#include "data/Texts.h"
+#include "data/values/Texts.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #include "data/InMemoryDataset.h"
 
-#include "data/NumberText.h"
-#include "data/SasFormat.h"
-#include "data/Texts.h"
+#include "data/values/NumberText.h"
+#include "data/values/SasFormat.h"
+#include "data/values/Texts.h"
 
 #include <cmath>
 #include <stdexcept>

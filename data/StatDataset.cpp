@@ -1,7 +1,7 @@
 #include "data/StatDataset.h"
 
-#include "data/SpssFormat.h"
-#include "data/Texts.h"
+#include "data/values/SpssFormat.h"
+#include "data/values/Texts.h"
 
 #include <algorithm>
 #include <cctype>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/CellStore.h"
-#include "data/TextPool.h"
+#include "data/cells/CellStore.h"
+#include "data/cells/TextPool.h"
 
 #include <boost/dynamic_bitset.hpp>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "grid/filter/DateLiteral.h"
 
-#include "data/CivilTime.h"
-#include "data/Texts.h"
+#include "data/values/CivilTime.h"
+#include "data/values/Texts.h"
 
 #include <fmt/format.h>
 

@@ -1,6 +1,6 @@
 #include "grid/filter/DateScale.h"
 
-#include "data/CivilTime.h"
+#include "data/values/CivilTime.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "grid/filter/QuickFilter.h"
 
-#include "data/NumberText.h"
-#include "data/Texts.h"
+#include "data/values/NumberText.h"
+#include "data/values/Texts.h"
 #include "grid/filter/DateLiteral.h"
 #include "grid/filter/DateScale.h"
 #include "grid/filter/Lexer.h"

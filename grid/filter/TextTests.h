@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/TextPool.h"
+#include "data/cells/TextPool.h"
 #include "grid/filter/CellColumn.h"
 #include "grid/filter/CompareOp.h"
 #include "grid/filter/RowTest.h"

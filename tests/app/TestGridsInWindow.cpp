@@ -1,5 +1,5 @@
-#include "app/ElidedLabel.h"
-#include "app/MainWindow.h"
+#include "app/window/ElidedLabel.h"
+#include "app/window/MainWindow.h"
 #include "grid/MainTableView.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/ScriptedDataset.h"

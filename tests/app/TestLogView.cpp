@@ -1,5 +1,5 @@
-#include "app/LogModel.h"
-#include "app/LogView.h"
+#include "app/log/LogModel.h"
+#include "app/log/LogView.h"
 
 #include <spdlog/logger.h>
 

@@ -1,5 +1,5 @@
-#include "app/Icons.h"
-#include "app/Theme.h"
+#include "app/look/Icons.h"
+#include "app/look/Theme.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,5 +1,5 @@
-#include "app/DatasetWindow.h"
-#include "app/MainWindow.h"
+#include "app/window/DatasetWindow.h"
+#include "app/window/MainWindow.h"
 #include "grid/MainTableModel.h"
 #include "grid/MainTableView.h"
 #include "tests/support/LogCapture.h"

@@ -1,5 +1,5 @@
-#include "app/ProgramEditor.h"
-#include "app/Theme.h"
+#include "app/code/ProgramEditor.h"
+#include "app/look/Theme.h"
 
 #include <QApplication>
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
-#include "app/EmptyState.h"
-#include "app/RecentFiles.h"
-#include "app/Settings.h"
+#include "app/open/RecentFiles.h"
+#include "app/start/Settings.h"
+#include "app/window/EmptyState.h"
 
 #include <QAction>
 #include <QDir>

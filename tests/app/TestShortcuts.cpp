@@ -1,5 +1,5 @@
-#include "app/ShortcutKeysWindow.h"
-#include "app/ShortcutList.h"
+#include "app/docks/ShortcutKeysWindow.h"
+#include "app/docks/ShortcutList.h"
 
 #include <QKeySequence>
 #include <QLineEdit>

@@ -1,4 +1,4 @@
-#include "app/SingleInstance.h"
+#include "app/start/SingleInstance.h"
 
 #include <QDir>
 #include <QEventLoop>

@@ -1,6 +1,6 @@
-#include "app/Icons.h"
-#include "app/Startup.h"
-#include "app/WindowsCheck.h"
+#include "app/look/Icons.h"
+#include "app/start/Startup.h"
+#include "app/start/WindowsCheck.h"
 
 #include <gtest/gtest.h>
 

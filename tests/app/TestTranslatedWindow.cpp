@@ -1,5 +1,5 @@
-#include "app/MainWindow.h"
-#include "app/Translations.h"
+#include "app/start/Translations.h"
+#include "app/window/MainWindow.h"
 #include "grid/GridContextMenu.h"
 #include "grid/MainTableView.h"
 #include "tests/support/LogCapture.h"

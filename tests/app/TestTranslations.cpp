@@ -1,4 +1,4 @@
-#include "app/Translations.h"
+#include "app/start/Translations.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "app/UpdateCheck.h"
+#include "app/start/UpdateCheck.h"
 #include "tests/support/HttpServer.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/ScriptedPrompts.h"

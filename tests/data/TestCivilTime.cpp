@@ -1,4 +1,4 @@
-#include "data/CivilTime.h"
+#include "data/values/CivilTime.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "data/DatasetFile.h"
+#include "data/readers/DatasetFile.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

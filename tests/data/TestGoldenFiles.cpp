@@ -1,5 +1,5 @@
-#include "data/DatasetFile.h"
-#include "data/Texts.h"
+#include "data/readers/DatasetFile.h"
+#include "data/values/Texts.h"
 
 #include <gtest/gtest.h>
 

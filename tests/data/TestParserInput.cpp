@@ -1,4 +1,4 @@
-#include "data/ParserInput.h"
+#include "data/readers/ParserInput.h"
 
 #include <gtest/gtest.h>
 

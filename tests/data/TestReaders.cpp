@@ -1,5 +1,5 @@
-#include "data/DatasetFile.h"
-#include "data/ReadStatDoc.h"
+#include "data/readers/DatasetFile.h"
+#include "data/readers/ReadStatDoc.h"
 #include "samples/TableWriter.h"
 #include "tests/support/TemporaryFolder.h"
 

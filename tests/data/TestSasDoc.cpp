@@ -1,5 +1,5 @@
-#include "data/DatasetFile.h"
-#include "data/Sas7bdatLayout.h"
+#include "data/readers/DatasetFile.h"
+#include "data/readers/Sas7bdatLayout.h"
 #include "samples/TableWriter.h"
 #include "tests/support/TemporaryFolder.h"
 

@@ -1,7 +1,7 @@
-#include "data/SasDataset.h"
-#include "data/SasDoc.h"
-#include "data/SasFormat.h"
-#include "data/Texts.h"
+#include "data/readers/SasDataset.h"
+#include "data/readers/SasDoc.h"
+#include "data/values/SasFormat.h"
+#include "data/values/Texts.h"
 
 #include <gtest/gtest.h>
 

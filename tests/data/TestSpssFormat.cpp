@@ -1,4 +1,4 @@
-#include "data/SpssFormat.h"
+#include "data/values/SpssFormat.h"
 
 #include <gtest/gtest.h>
 

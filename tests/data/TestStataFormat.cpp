@@ -1,5 +1,5 @@
-#include "data/NumberText.h"
-#include "data/StataFormat.h"
+#include "data/values/NumberText.h"
+#include "data/values/StataFormat.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
+#include "data/cells/TextDecoder.h"
 #include "data/FilePath.h"
-#include "data/TextDecoder.h"
-#include "data/Texts.h"
+#include "data/values/Texts.h"
 
 #include <gtest/gtest.h>
 

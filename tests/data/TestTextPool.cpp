@@ -1,4 +1,4 @@
-#include "data/TextPool.h"
+#include "data/cells/TextPool.h"
 
 #include <gtest/gtest.h>
 

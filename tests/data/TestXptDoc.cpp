@@ -1,4 +1,4 @@
-#include "data/DatasetFile.h"
+#include "data/readers/DatasetFile.h"
 #include "samples/TableWriter.h"
 #include "tests/support/TemporaryFolder.h"
 

@@ -1,8 +1,8 @@
 #include "tests/fuzz/DatasetCheck.h"
 
-#include "data/DatasetFile.h"
 #include "data/FilePath.h"
-#include "data/Texts.h"
+#include "data/readers/DatasetFile.h"
+#include "data/values/Texts.h"
 
 #include <fmt/format.h>
 

@@ -17,15 +17,16 @@ struct Folder
     bool qtCoreOnly;
 };
 
-// grid/filter/ stands before grid/, which is its prefix.
+// A folder within another stands before it.
 const std::array folders{
     Folder{"data", "data/", {}, true},
     Folder{"filter", "grid/filter/", {"data"}, true},
     Folder{"analysis", "analysis/", {"data", "filter"}, false},
     Folder{"grid", "grid/", {"data", "filter", "analysis"}, false},
-    Folder{"workspace", "workspace/", {"data", "filter", "analysis"}, false},
-    Folder{"app", "app/", {"data", "filter", "analysis", "grid", "workspace"}, false},
-    Folder{"cli", "cli/", {"data", "filter", "analysis"}, true},
+    Folder{"program", "workspace/program/", {"data"}, true},
+    Folder{"workspace", "workspace/", {"data", "filter", "analysis", "program"}, false},
+    Folder{"app", "app/", {"data", "filter", "analysis", "grid", "program", "workspace"}, false},
+    Folder{"cli", "cli/", {"data", "filter", "analysis", "program"}, true},
     Folder{"samples", "samples/", {}, true},
     Folder{"benchmarks",
            "benchmarks/",

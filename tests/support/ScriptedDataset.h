@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/StatDataset.h"
-#include "data/Texts.h"
+#include "data/values/Texts.h"
 
 #include <cmath>
 #include <initializer_list>

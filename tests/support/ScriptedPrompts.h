@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/UserPrompts.h"
+#include "app/dialogs/UserPrompts.h"
 
 #include <QStringList>
 

@@ -1,4 +1,4 @@
-#include "workspace/ProgramStatements.h"
+#include "workspace/program/ProgramStatements.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,0 @@
-#include "app/WindowsCheck.h"
-
-bool isSupportedSystem()
-{
-    return true;
-}

@@ -1,0 +1,61 @@
+#include "app/code/ProgramRunner.h"
+
+#include "app/window/GridServices.h"
+#include "grid/MainTableView.h"
+#include "workspace/program/ProgramStatements.h"
+
+#include <spdlog/spdlog.h>
+
+#include <QCoreApplication>
+
+namespace programrunner {
+namespace {
+
+bool setByVariables(const ProgramStatement& statement, MainTableView& grid, GridServices& services)
+{
+    if (grid.setByVariables(statement.names.join(u' '))) {
+        return true;
+    }
+    services.reportCommandError(
+        QCoreApplication::translate("ProgramRunner", "Not all of these are variables."),
+        statement.text);
+    return false;
+}
+
+/// @return  whether the program may go on
+bool runStatement(const ProgramStatement& statement, MainTableView& grid, GridServices& services)
+{
+    using Kind = ProgramStatement::Kind;
+    switch (statement.kind) {
+    case Kind::Command:
+        return services.runStatement(grid, statement.text);
+    case Kind::By:
+        return setByVariables(statement, grid, services);
+    case Kind::PassedOver:
+        return true;
+    case Kind::Unknown:
+        spdlog::warn("Line {}: this statement is passed over: {}", statement.line,
+                     statement.text.toStdString());
+        return true;
+    case Kind::Unclosed:
+        spdlog::warn("Line {}: a quote or comment is not closed: {}", statement.line,
+                     statement.text.toStdString());
+        return true;
+    }
+    return true;
+}
+
+}  // namespace
+
+void run(const QString& program, MainTableView& grid, GridServices& services)
+{
+    for (const ProgramStatement& statement : programstatements::split(program)) {
+        if (!runStatement(statement, grid, services)) {
+            spdlog::error("Line {}: the program has stopped here: {}", statement.line,
+                          statement.text.toStdString());
+            return;
+        }
+    }
+}
+
+}  // namespace programrunner

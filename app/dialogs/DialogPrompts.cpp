@@ -1,0 +1,95 @@
+#include "app/dialogs/DialogPrompts.h"
+
+#include "app/dialogs/DataFilterDialog.h"
+#include "workspace/OptionsDialog.h"
+
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QMessageBox>
+
+namespace {
+
+/// A message box that shows its texts as they are: file names, commands and what comes over the
+/// network may contain what looks like markup.
+class PlainBox : public QMessageBox
+{
+public:
+    PlainBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons,
+             QWidget* parent)
+        : QMessageBox(icon, title, text, buttons, parent)
+    {
+        setTextFormat(Qt::PlainText);
+        makeRoomForTitle();
+    }
+    PlainBox(Icon icon, const QString& title, const QString& text, QWidget* parent)
+        : PlainBox(icon, title, text, Ok, parent)
+    { }
+
+private:
+    /// A box as narrow as a short text would cut the title.
+    void makeRoomForTitle()
+    {
+        constexpr int pixels = 320;
+        if (auto* grid = qobject_cast<QGridLayout*>(layout())) {
+            grid->addItem(new QSpacerItem(pixels, 0), grid->rowCount(), 0, 1, grid->columnCount());
+        }
+    }
+};
+
+}  // namespace
+
+DialogPrompts::DialogPrompts(QWidget* parent)
+    : m_parent(parent)
+{ }
+
+bool DialogPrompts::confirm(const QString& title, const QString& question)
+{
+    PlainBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No,
+                 m_parent);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+void DialogPrompts::warn(const QString& title, const QString& text, const QString& reason)
+{
+    PlainBox box(QMessageBox::Warning, title, text, m_parent);
+    box.setInformativeText(reason);
+    box.exec();
+}
+
+void DialogPrompts::critical(const QString& title, const QString& text)
+{
+    PlainBox(QMessageBox::Critical, title, text, m_parent).exec();
+}
+
+void DialogPrompts::inform(const QString& title, const QString& text)
+{
+    PlainBox(QMessageBox::Information, title, text, m_parent).exec();
+}
+
+bool DialogPrompts::offerToOpen(const QString& title, const QString& text)
+{
+    PlainBox box(QMessageBox::Information, title, text, QMessageBox::Open | QMessageBox::Ok,
+                 m_parent);
+    box.setDefaultButton(QMessageBox::Ok);
+    box.setEscapeButton(QMessageBox::Ok);
+    return box.exec() == QMessageBox::Open;
+}
+
+QStringList DialogPrompts::chooseFiles(const QString& title, const QString& folder,
+                                       const QString& filters)
+{
+    return QFileDialog::getOpenFileNames(m_parent, title, folder, filters);
+}
+
+std::optional<QString> DialogPrompts::editDataFilter(const QString& condition)
+{
+    DataFilterDialog dialog(condition, m_parent);
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.condition()) : std::nullopt;
+}
+
+QString DialogPrompts::editOptions(const QString& uniqueVarName)
+{
+    OptionsDialog dialog(uniqueVarName, m_parent);
+    return dialog.exec() == QDialog::Accepted ? dialog.uniqueVarName() : uniqueVarName;
+}

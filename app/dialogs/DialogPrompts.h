@@ -1,0 +1,26 @@
+#pragma once
+
+#include "app/dialogs/UserPrompts.h"
+
+class QWidget;
+
+/// Asks and tells with message boxes and file dialogs.
+class DialogPrompts : public UserPrompts
+{
+public:
+    /// @param parent  outlives the prompts; the dialogs are modal to it, to nothing when it is null
+    explicit DialogPrompts(QWidget* parent);
+
+    [[nodiscard]] bool confirm(const QString& title, const QString& question) override;
+    void warn(const QString& title, const QString& text, const QString& reason) override;
+    void critical(const QString& title, const QString& text) override;
+    void inform(const QString& title, const QString& text) override;
+    [[nodiscard]] bool offerToOpen(const QString& title, const QString& text) override;
+    [[nodiscard]] QStringList chooseFiles(const QString& title, const QString& folder,
+                                          const QString& filters) override;
+    [[nodiscard]] std::optional<QString> editDataFilter(const QString& condition) override;
+    [[nodiscard]] QString editOptions(const QString& uniqueVarName) override;
+
+private:
+    QWidget* m_parent;
+};

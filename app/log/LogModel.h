@@ -1,0 +1,47 @@
+#pragma once
+
+#include "app/log/LogRecord.h"
+
+#include <QAbstractTableModel>
+
+#include <deque>
+
+/// The messages of the log, the oldest first, as a table of time, level and text.
+class LogModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column
+    {
+        Time,
+        Level,
+        Message,
+        ColumnCount
+    };
+    /// The level as a number that grows with the weight of the message.
+    static constexpr int levelRole = Qt::UserRole;
+
+    /// @param limit  how many messages are kept, at least 10
+    explicit LogModel(int limit = 10'000, QObject* parent = nullptr);
+
+    /// Adds a message. When there is no room, the oldest tenth of all goes first.
+    void append(const LogRecord& record);
+    void clear();
+
+    /// A row as one line of text, its parts separated by tabulators.
+    [[nodiscard]] QString line(int row) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                      int role) const override;
+
+private:
+    [[nodiscard]] static QString text(const LogRecord& record, int column);
+    void dropOldest();
+
+    std::deque<LogRecord> m_records;
+    std::size_t m_limit;
+};

@@ -1,0 +1,92 @@
+#include "app/start/Settings.h"
+
+#include <QSettings>
+
+#include <algorithm>
+
+namespace {
+
+// No smaller or larger letters are read from the store, which anyone may have edited.
+constexpr int smallestFont = 6;
+constexpr int largestFont = 72;
+
+}  // namespace
+
+QByteArray Settings::geometry() const
+{
+    return m_store.value(u"geometry").toByteArray();
+}
+
+QByteArray Settings::state() const
+{
+    return m_store.value(u"state").toByteArray();
+}
+
+void Settings::setGeometryAndState(const QByteArray& geometry, const QByteArray& state)
+{
+    m_store.setValue(u"geometry", geometry);
+    m_store.setValue(u"state", state);
+}
+
+bool Settings::darkMode() const
+{
+    return m_store.value(u"darkMode", false).toBool();
+}
+
+void Settings::setDarkMode(bool isDark)
+{
+    m_store.setValue(u"darkMode", isDark);
+}
+
+int Settings::fontSize() const
+{
+    const int points = m_store.value(u"fontSize", 0).toInt();
+    return points <= 0 ? 0 : std::clamp(points, smallestFont, largestFont);
+}
+
+void Settings::setFontSize(int points)
+{
+    m_store.setValue(u"fontSize", points);
+}
+
+QString Settings::lastLayout() const
+{
+    return m_store.value(u"lastLayout", QStringLiteral("30:70:0")).toString();
+}
+
+void Settings::setLastLayout(const QString& layout)
+{
+    m_store.setValue(u"lastLayout", layout);
+}
+
+bool Settings::headersShowLabels() const
+{
+    return m_store.value(u"columnHeaderMode", QStringLiteral("name")).toString()
+        == QLatin1String("label");
+}
+
+void Settings::setHeadersShowLabels(bool areLabels)
+{
+    m_store.setValue(u"columnHeaderMode",
+                     areLabels ? QStringLiteral("label") : QStringLiteral("name"));
+}
+
+QString Settings::lastFolder() const
+{
+    return m_store.value(u"lastFolder").toString();
+}
+
+void Settings::setLastFolder(const QString& folder)
+{
+    m_store.setValue(u"lastFolder", folder);
+}
+
+QStringList Settings::recentFiles() const
+{
+    return m_store.value(u"recentFiles").toStringList();
+}
+
+void Settings::setRecentFiles(const QStringList& paths)
+{
+    m_store.setValue(u"recentFiles", paths);
+}

@@ -1,0 +1,6 @@
+#include "app/start/WindowsCheck.h"
+
+bool isSupportedSystem()
+{
+    return true;
+}

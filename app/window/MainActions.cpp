@@ -1,0 +1,154 @@
+#include "app/window/MainActions.h"
+
+#include "app/look/Icons.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QKeySequence>
+
+MainActions::MainActions(QObject* window)
+    : m_window(window)
+{
+    createOpeningActions();
+    createFileActions();
+    createOtherActions();
+    createBarActions();
+    createLayoutActions();
+    drawIcons();
+    setDatasetOpen(false);
+}
+
+void MainActions::createOpeningActions()
+{
+    openSasData = add("actionOpenSasData", tr("Open SAS Datasets"));
+    openSasData->setShortcuts(QKeySequence::Open);
+    openDatasetJson = add("actionOpenDatasetJson", tr("Open Dataset-JSON Files"));
+    openFolder = add("actionOpenFolder", tr("Open Folder"));
+    manageLibraries = add("actionManageLibraries", tr("Manage Libraries"));
+    saveSession = add("actionSaveSession", tr("Save Session..."));
+    openRData = add("actionOpenRData", tr("Open R Datasets"));
+    openSpssData = add("actionOpenSpssData", tr("Open SPSS Datasets"));
+    openStataData = add("actionOpenStataData", tr("Open Stata Datasets"));
+    openCsv = add("actionOpenCsv", tr("Open CSV Files"));
+    // What these need is not part of this version.
+    for (QAction* action :
+         {openDatasetJson, openFolder, manageLibraries, saveSession, openRData, openCsv}) {
+        action->setEnabled(false);
+    }
+}
+
+void MainActions::createFileActions()
+{
+    newSasProgram = add("actionNewSasProgram", tr("New SAS Program"));
+    close = add("actionClose", tr("Close\tCtrl+W"));
+    close->setShortcut(Qt::CTRL | Qt::Key_W);
+    closeAll = add("actionCloseAll", tr("Close All"));
+    closeAll->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_W);
+    exit = add("actionExit", tr("Exit"));
+    exit->setShortcut(Qt::CTRL | Qt::Key_Q);
+    exit->setMenuRole(QAction::QuitRole);
+}
+
+void MainActions::createOtherActions()
+{
+    find = add("actionFind", tr("Find"));
+    find->setShortcuts(QKeySequence::Find);
+    options = add("actionOptions", tr("Options"));
+    options->setMenuRole(QAction::PreferencesRole);
+    about = add("actionAbout", tr("About"));
+    about->setMenuRole(QAction::AboutRole);
+    checkForUpdates = add("actionCheckForUpdates", tr("Check for Updates"));
+    documentation = add("actionDocumentation", tr("Documentaiton"));  // sic
+    compare = add("actionCompare", tr("Compare Datasets"));
+    submit = add("actionSubmit", tr("Submit"));
+    submit->setShortcut(Qt::CTRL | Qt::Key_R);
+    toggleDarkMode = add("actionToggleDarkMode", tr("Toggle Dark Mode"));
+    toggleDarkMode->setStatusTip(tr("Toggle between light and dark mode"));
+    toggleDarkMode->setShortcut(Qt::CTRL | Qt::Key_D);
+    // Their dialogs are not part of this version.
+    find->setEnabled(false);
+    compare->setEnabled(false);
+}
+
+void MainActions::createBarActions()
+{
+    quickOpen = add("actionQuickOpen", tr("Quick Open"));
+    quickOpen->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_P), QKeySequence(Qt::Key_Q)});
+    quickOpen->setEnabled(false);  // its palette is not part of this version
+    editDataFilter = add("actionEditDataFilter", tr("Edit Data Filter"));
+    goToDatasetFilter = add("actionGoToDatasetFilter", tr("Go to Dataset Filter"));
+    goToDatasetFilter->setShortcut(Qt::CTRL | Qt::Key_L);
+    nextDataset = add("actionNextDataset", tr("Next Dataset Tab"));
+    nextDataset->setShortcut(Qt::CTRL | Qt::Key_Tab);
+}
+
+void MainActions::createLayoutActions()
+{
+    layoutGroup = new QActionGroup(m_window);
+    layoutGroup->setObjectName(QStringLiteral("layoutGroup"));
+    layoutGroup->setExclusionPolicy(QActionGroup::ExclusionPolicy::Exclusive);
+    const std::array<QString, layoutCount> tips{
+        tr("Show left dock window and main window"), tr("Show main window maximize"),
+        tr("Show left dock window, main window and right dock window"),
+        tr("Show main window and right dock window")};
+    for (std::size_t i = 0; i < layouts.size(); ++i) {
+        const int number = static_cast<int>(i) + 1;
+        QAction* layout = layoutGroup->addAction(tr("Layout %1").arg(number));
+        layout->setObjectName(QStringLiteral("actionLayout%1").arg(number));
+        layout->setCheckable(true);
+        layout->setToolTip(tips[i]);
+        layout->setStatusTip(tips[i]);
+        layout->setShortcut(
+            QKeyCombination(Qt::CTRL, static_cast<Qt::Key>(Qt::Key_1 + static_cast<int>(i))));
+        layouts[i] = layout;
+    }
+}
+
+void MainActions::drawIcons()
+{
+    const std::initializer_list<std::pair<QAction*, const char*>> drawings{
+        {openSasData, "open"},
+        {openFolder, "folder"},
+        {manageLibraries, "library"},
+        {saveSession, "save"},
+        {openRData, "type-r"},
+        {openSpssData, "type-sav"},
+        {openStataData, "type-dta"},
+        {openCsv, "type-csv"},
+        {openDatasetJson, "type-json"},
+        {newSasProgram, "new-program"},
+        {close, "close"},
+        {find, "find"},
+        {options, "options"},
+        {about, "about"},
+        {checkForUpdates, "update"},
+        {documentation, "documentation"},
+        {compare, "compare"},
+        {submit, "run"},
+        {toggleDarkMode, "darkmode"},
+        {quickOpen, "quickopen"},
+        {editDataFilter, "filter"},
+        {layouts[0], "layout1"},
+        {layouts[1], "layout2"},
+        {layouts[2], "layout3"},
+        {layouts[3], "layout4"},
+    };
+    for (const auto& [action, name] : drawings) {
+        action->setIcon(icons::icon(QLatin1String(name)));
+    }
+}
+
+void MainActions::setDatasetOpen(bool isOpen)
+{
+    for (QAction* action :
+         {close, closeAll, submit, editDataFilter, goToDatasetFilter, nextDataset}) {
+        action->setEnabled(isOpen);
+    }
+}
+
+QAction* MainActions::add(const char* name, const QString& text)
+{
+    auto* action = new QAction(text, m_window);
+    action->setObjectName(QLatin1String(name));
+    return action;
+}

@@ -1,0 +1,552 @@
+#include "app/window/MainWindow.h"
+
+#include "app/boxes/CommandBar.h"
+#include "app/boxes/CommandBoxes.h"
+#include "app/code/ProgramEditor.h"
+#include "app/code/ProgramRunner.h"
+#include "app/dialogs/DialogPrompts.h"
+#include "app/docks/DockWindows.h"
+#include "app/docks/ShortcutKeysWindow.h"
+#include "app/docks/WorkspaceTree.h"
+#include "app/log/LogView.h"
+#include "app/look/GridLook.h"
+#include "app/look/Theme.h"
+#include "app/open/RecentFiles.h"
+#include "app/start/Settings.h"
+#include "app/start/UpdateCheck.h"
+#include "app/start/WebSite.h"
+#include "app/window/DatasetsArea.h"
+#include "app/window/DatasetWindow.h"
+#include "app/window/EmptyState.h"
+#include "app/window/GridServices.h"
+#include "app/window/MainActions.h"
+#include "app/window/MainMenus.h"
+#include "app/window/MainToolBars.h"
+#include "app/window/StatusCounters.h"
+#include "app/window/WindowArrangement.h"
+#include "grid/MainTableView.h"
+#include "workspace/OptionsDialog.h"
+#include "workspace/WorkspaceStore.h"
+
+#include <spdlog/spdlog.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDockWidget>
+#include <QDropEvent>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTableWidget>
+#include <QTimer>
+
+MainWindow::MainWindow(QWidget* parent)
+    : MainWindow(MainWindowServices(), parent)
+{ }
+
+MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
+    : QMainWindow(parent)
+{
+    setObjectName(QStringLiteral("MainWindow"));
+    setWindowTitle(tr("Quorlane"));
+    setAcceptDrops(true);
+    resize(1280, 800);
+    DatasetLoader load = std::move(services.load);
+    std::unique_ptr<WorkspaceStore> store = std::move(services.store);
+    createServices(std::move(services));
+    theme::apply(m_settings->darkMode());
+    createActions();
+    createCentralArea();
+    createOpener(std::move(load));
+    createToolBars();
+    createDocks();
+    createMenus();
+    connectActions();
+    openWorkspace(std::move(store));
+}
+
+MainWindow::~MainWindow()
+{
+    // The sub-windows, those that are closed and about to go included, would outlive the members
+    // that hear of their end and serve them.
+    disconnect(&m_area->mdiArea(), nullptr, this, nullptr);
+    delete m_area;
+}
+
+// Construction
+
+void MainWindow::createServices(MainWindowServices services)
+{
+    m_settingsStore =
+        services.settings ? std::move(services.settings) : std::make_unique<QSettings>();
+    m_settings = std::make_unique<Settings>(*m_settingsStore);
+    m_prompts =
+        services.prompts ? std::move(services.prompts) : std::make_unique<DialogPrompts>(this);
+    m_openUrl = services.openUrl ? std::move(services.openUrl)
+                                 : [](const QUrl& url) { QDesktopServices::openUrl(url); };
+    statusBar()->setObjectName(QStringLiteral("statusbar"));
+    m_counters = std::make_unique<StatusCounters>(statusBar());
+    m_gridServices = std::make_unique<GridServices>(*m_prompts, *statusBar());
+    m_recentFiles = std::make_unique<RecentFiles>(*m_settings);
+    m_updateCheck = new UpdateCheck({.webSite = QString::fromUtf8(quorlane::webSite),
+                                     .version = QCoreApplication::applicationVersion(),
+                                     .openPage = m_openUrl},
+                                    *m_prompts, this);
+}
+
+void MainWindow::createActions()
+{
+    m_actions = std::make_unique<MainActions>(this);
+    addActions({m_actions->nextDataset});
+}
+
+void MainWindow::createCentralArea()
+{
+    m_area = new DatasetsArea(this);
+    auto* empty = new EmptyState(m_area);
+    empty->setActions({m_actions->openSasData, m_actions->openSpssData, m_actions->openStataData});
+    empty->setRecentFiles(m_recentFiles->paths());
+    m_area->setEmptyState(empty);
+    setCentralWidget(m_area);
+    m_look = std::make_unique<GridLook>(*m_settings, m_area->mdiArea());
+    connect(m_gridServices.get(), &GridServices::signalFontSizeChanged, this,
+            [this](int points) { m_look->setFontSize(points); });
+    connect(empty, &EmptyState::signalOpenRequested, m_recentFiles.get(), &RecentFiles::request);
+    connect(m_recentFiles.get(), &RecentFiles::signalChanged, empty,
+            [this, empty] { empty->setRecentFiles(m_recentFiles->paths()); });
+    connect(&m_area->mdiArea(), &QMdiArea::subWindowActivated, this, &MainWindow::activeWindow);
+    connect(m_area, &DatasetsArea::signalTabSwitched, this, &MainWindow::handleTabSwitch);
+}
+
+void MainWindow::createOpener(DatasetLoader load)
+{
+    m_opener = new DatasetOpener(
+        DatasetOpener::Surroundings{m_area->mdiArea(), *m_gridServices, *m_prompts, *m_settings,
+                                    load ? std::move(load) : DatasetLoader(&openDataset)},
+        this);
+    connect(m_opener, &DatasetOpener::signalOpened, this, &MainWindow::prepareWindow);
+    connect(m_opener, &DatasetOpener::signalShown, this,
+            [this](DatasetWindow* window) { m_look->applyFontTo(*window->view()); });
+    connect(m_opener, &DatasetOpener::signalRead, m_recentFiles.get(), &RecentFiles::add);
+}
+
+void MainWindow::createToolBars()
+{
+    m_toolBars = new MainToolBars(*this, *m_actions);
+    m_boxes = new CommandBoxes(*this, *m_gridServices);
+    connect(m_boxes, &CommandBoxes::signalLibraryFilterSubmitted, this,
+            &MainWindow::showWhatIsOpen);
+    m_boxes->datasetFilterBar()->addAction(m_actions->editDataFilter);
+    connect(m_actions->goToDatasetFilter, &QAction::triggered, m_boxes->datasetFilterBar(),
+            &CommandBar::edit);
+    m_toolBars->addRightBars(*m_actions);
+    m_toolBars->showHeaderMode(m_look->headerMode());
+    connect(m_toolBars, &MainToolBars::signalHeaderModeClicked, this,
+            &MainWindow::onColumnHeaderLabelChanged);
+}
+
+void MainWindow::createDocks()
+{
+    m_docks = std::make_unique<DockWindows>(*this);
+    m_arrangement = std::make_unique<WindowArrangement>(*this, *m_docks, *m_actions, *m_settings);
+    fillDocks();
+}
+
+void MainWindow::fillDocks()
+{
+    m_docks->workspace()->setWidget(new WorkspaceTree(m_docks->workspace()));
+    m_program = new ProgramEditor(m_docks->code());
+    m_docks->code()->setWidget(m_program);
+    connect(m_program, &ProgramEditor::signalLeft, this, &MainWindow::handleTabSwitch);
+    m_docks->log()->setWidget(new LogView(spdlog::default_logger(), m_docks->log()));
+    auto* output = new QPlainTextEdit(m_docks->output());
+    output->setObjectName(QStringLiteral("textOutput"));
+    output->setReadOnly(true);
+    output->setAccessibleName(tr("Output"));
+    m_docks->output()->setWidget(output);
+    m_docks->shortcutKeys()->setWidget(new ShortcutKeysWindow(m_docks->shortcutKeys()));
+}
+
+void MainWindow::createMenus()
+{
+    m_menus = std::make_unique<MainMenus>(this, *m_actions);
+    m_docks->fillMenu(*m_menus->dockWindowsMenu());
+    m_recentFiles->showIn(m_menus->fileMenu());
+    connect(m_recentFiles.get(), &RecentFiles::signalOpenRequested, this,
+            &MainWindow::openDatasetFile);
+}
+
+void MainWindow::connectActions()
+{
+    const auto run = [this](QAction* action, void (MainWindow::*slot)()) {
+        connect(action, &QAction::triggered, this, slot);
+    };
+    run(m_actions->openSasData, &MainWindow::on_actionOpenSasData_triggered);
+    run(m_actions->openDatasetJson, &MainWindow::on_actionOpenDatasetJson_triggered);
+    run(m_actions->openRData, &MainWindow::on_actionOpenRData_triggered);
+    run(m_actions->openSpssData, &MainWindow::on_actionOpenSpssData_triggered);
+    run(m_actions->openStataData, &MainWindow::on_actionOpenStataData_triggered);
+    run(m_actions->openCsv, &MainWindow::on_actionOpenCsv_triggered);
+    run(m_actions->newSasProgram, &MainWindow::on_actionNewSasProgram_triggered);
+    run(m_actions->close, &MainWindow::on_actionClose_triggered);
+    run(m_actions->closeAll, &MainWindow::on_actionCloseAll_triggered);
+    run(m_actions->exit, &MainWindow::on_actionExit_triggered);
+    run(m_actions->about, &MainWindow::on_actionAbout_triggered);
+    run(m_actions->checkForUpdates, &MainWindow::on_actionCheckForUpdates_triggered);
+    run(m_actions->documentation, &MainWindow::on_actionDocumentation_triggered);
+    run(m_actions->options, &MainWindow::on_actionOptions_triggered);
+    run(m_actions->submit, &MainWindow::submitProgram);
+    run(m_actions->toggleDarkMode, &MainWindow::toggleDarkMode);
+    run(m_actions->editDataFilter, &MainWindow::editDataFilter);
+    run(m_actions->nextDataset, &MainWindow::onSwitchWindow);
+    for (std::size_t layout = 0; layout < m_actions->layouts.size(); ++layout) {
+        connect(m_actions->layouts[layout], &QAction::triggered, this,
+                [this, layout] { m_arrangement->applyLayout(layout); });
+    }
+}
+
+/// Without its workspace the program ends as soon as its event loop begins, and what it remembers
+/// stays as it is.
+void MainWindow::openWorkspace(std::unique_ptr<WorkspaceStore> store)
+{
+    m_store = store ? std::move(store) : std::make_unique<WorkspaceStore>();
+    if (!m_store->initDatabase()) {
+        m_store.reset();
+        m_prompts->critical(tr("Database Initialization Failed"),
+                            tr("The application will now exit."));
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        return;
+    }
+    const QString usual = m_gridServices->uniqueVarName();
+    const QString name = m_store->loadOption(QStringLiteral("uniqueVarName"), usual).trimmed();
+    m_gridServices->setUniqueVarName(name.isEmpty() ? usual : name);
+    m_arrangement->restore();
+}
+
+// Datasets
+
+bool MainWindow::openDatasetFile(const QString& path)
+{
+    return m_opener->open(path);
+}
+
+void MainWindow::openReceivedFile(const QString& path)
+{
+    m_opener->openLater({path});
+}
+
+MainTableView* MainWindow::activeView() const
+{
+    return m_activeView;
+}
+
+/// Gives a new window what all windows share, before it is shown.
+void MainWindow::prepareWindow(DatasetWindow* window)
+{
+    connect(window, &DatasetWindow::signalClosed, this, &MainWindow::subWindowClosed);
+    m_area->showDatasets(true);
+    window->view()->setHeaderMode(m_look->headerMode());
+}
+
+// What it connects changes the window. NOLINTNEXTLINE(readability-make-member-function-const)
+void MainWindow::connectGrid(MainTableView* view)
+{
+    connect(view, &MainTableView::signalObsNo, this, &MainWindow::setLabelStatusBarRow);
+    connect(view, &MainTableView::signalVarNo, this, &MainWindow::setLabelStatusBarVar);
+    connect(view, &MainTableView::signalAddByVar, this, &MainWindow::setLabelStatusBarBy);
+    connect(view, &MainTableView::signalLibraryFilter, this, &MainWindow::setLabelStatusBarLf);
+    connect(view, &MainTableView::signalFilter, this, &MainWindow::setLabelStatusBarDf);
+    connect(view, &MainTableView::signalShowDockFreq, this, &MainWindow::showDockFreq);
+    connect(view, &MainTableView::signalShowDockDesc, this, &MainWindow::showDockDesc);
+    connect(view, &MainTableView::signalShowDockVar, this, &MainWindow::showDockVar);
+}
+
+void MainWindow::activeWindow(QMdiSubWindow* window)
+{
+    // Qt also says "none" when the whole window loses the focus, where nothing changes for the
+    // user.
+    auto* active = qobject_cast<DatasetWindow*>(window);
+    if (active == nullptr || active->view() == m_activeView) {
+        return;
+    }
+    if (m_activeView != nullptr) {
+        disconnect(m_activeView, nullptr, this, nullptr);
+    }
+    m_activeView = active->view();
+    connectGrid(m_activeView);
+    m_boxes->setGrid(m_activeView);
+    m_docks->showTitlesOf(active->datasetName());
+    m_docks->univariate()->setWidget(m_activeView->statisticsTable());
+    updateStatus();
+    showWhatIsOpen();
+}
+
+void MainWindow::subWindowClosed(DatasetWindow* closedWindow)
+{
+    m_opener->forget(closedWindow);
+    if (closedWindow->view() == m_activeView) {
+        disconnect(m_activeView, nullptr, this, nullptr);
+        m_activeView = nullptr;
+        m_boxes->setGrid(nullptr);
+    }
+    showWhatIsOpen();
+}
+
+/// Brings what depends on whether there is a dataset up to date.
+void MainWindow::showWhatIsOpen()
+{
+    const bool isAny = !openFiles().isEmpty();
+    m_actions->setDatasetOpen(isAny);
+    m_area->showDatasets(isAny);
+    if (!isAny) {
+        m_counters->showNothingOpen();
+        m_counters->setLibraryFilter(m_gridServices->libraryFilter().text(), QString());
+        m_docks->showTitlesOf(QString());
+    }
+}
+
+void MainWindow::onSwitchWindow()
+{
+    m_area->mdiArea().activateNextSubWindow();
+    handleTabSwitch();
+}
+
+/// The keys of the grid are to work as soon as its tab is chosen.
+void MainWindow::handleTabSwitch()
+{
+    if (m_activeView != nullptr) {
+        m_activeView->setFocus();
+    }
+}
+
+// Status bar and docks
+
+void MainWindow::updateStatus()
+{
+    if (m_activeView != nullptr) {
+        m_activeView->publishCounters();
+        m_activeView->publishFilters();
+        setLabelStatusBarBy();
+    }
+}
+
+void MainWindow::setLabelStatusBarRow(const QString& text)
+{
+    m_counters->setRows(text);
+}
+
+void MainWindow::setLabelStatusBarVar(const QString& text)
+{
+    m_counters->setVariables(text);
+}
+
+void MainWindow::setLabelStatusBarBy()
+{
+    if (m_activeView != nullptr) {
+        m_counters->setByVariables(m_activeView->byVariables());
+        m_boxes->showByVariables();
+    }
+}
+
+void MainWindow::setLabelStatusBarLf(const QString& filter)
+{
+    if (m_activeView != nullptr) {
+        m_counters->setLibraryFilter(filter, m_activeView->libraryFilterProblem());
+        m_boxes->showLibraryFilter(filter);
+    }
+}
+
+void MainWindow::setLabelStatusBarDf(const QString& filter)
+{
+    m_counters->setDatasetFilter(filter);
+    m_boxes->showDatasetFilter(filter);
+}
+
+void MainWindow::showDockFreq()
+{
+    m_arrangement->show(*m_docks->frequency());
+}
+
+void MainWindow::showDockDesc(QTableWidget* tableWidget)
+{
+    m_docks->univariate()->setWidget(tableWidget);
+    m_arrangement->show(*m_docks->univariate());
+}
+
+void MainWindow::showDockVar()
+{
+    m_arrangement->show(*m_docks->variables());
+}
+
+// Looks
+
+void MainWindow::onColumnHeaderLabelChanged(QAbstractButton* /*button*/)
+{
+    m_look->setHeaderMode(m_toolBars->headerMode());
+    handleTabSwitch();
+}
+
+void MainWindow::toggleDarkMode()
+{
+    m_look->toggleDarkMode();
+}
+
+// Actions
+
+void MainWindow::on_actionOpenSasData_triggered()
+{
+    m_opener->chooseAndOpen(FileKind::Sas);
+}
+
+void MainWindow::on_actionOpenDatasetJson_triggered()
+{
+    m_opener->chooseAndOpen(FileKind::DatasetJson);
+}
+
+void MainWindow::on_actionOpenRData_triggered()
+{
+    m_opener->chooseAndOpen(FileKind::R);
+}
+
+void MainWindow::on_actionOpenSpssData_triggered()
+{
+    m_opener->chooseAndOpen(FileKind::Spss);
+}
+
+void MainWindow::on_actionOpenStataData_triggered()
+{
+    m_opener->chooseAndOpen(FileKind::Stata);
+}
+
+void MainWindow::on_actionOpenCsv_triggered()
+{
+    m_opener->chooseAndOpen(FileKind::Csv);
+}
+
+void MainWindow::on_actionNewSasProgram_triggered()
+{
+    const bool isEmpty = m_program->toPlainText().trimmed().isEmpty();
+    if (isEmpty
+        || m_prompts->confirm(tr("New SAS Program"),
+                              tr("The program in the Code window will be cleared. Go on?"))) {
+        m_program->clear();
+    }
+    DockWindows::bringUp(*m_docks->code());
+    m_program->setFocus();
+}
+
+void MainWindow::on_actionClose_triggered()
+{
+    if (QMdiSubWindow* window = m_area->mdiArea().currentSubWindow()) {
+        window->close();
+    }
+}
+
+void MainWindow::on_actionCloseAll_triggered()
+{
+    m_area->mdiArea().closeAllSubWindows();
+}
+
+void MainWindow::on_actionExit_triggered()
+{
+    close();
+}
+
+void MainWindow::on_actionAbout_triggered()
+{
+    m_prompts->inform(tr("About Quorlane"),
+                      tr("Quorlane %1\nA viewer for statistical and clinical-trial datasets.\n"
+                         "Data files are only ever read.")
+                          .arg(QCoreApplication::applicationVersion()));
+}
+
+void MainWindow::on_actionCheckForUpdates_triggered()
+{
+    m_updateCheck->check();
+}
+
+void MainWindow::on_actionDocumentation_triggered()
+{
+    m_openUrl(QUrl(QString::fromUtf8(quorlane::webSite) + QStringLiteral("/documentation/")));
+}
+
+void MainWindow::on_actionOptions_triggered()
+{
+    const QString before = m_gridServices->uniqueVarName();
+    const QString name = m_prompts->editOptions(before);
+    if (name != before) {
+        m_gridServices->setUniqueVarName(name);
+        m_store->saveOption(QStringLiteral("uniqueVarName"), name);
+    }
+}
+
+/// A condition that is wrong can be mended.
+void MainWindow::editDataFilter()
+{
+    if (m_activeView == nullptr) {
+        return;
+    }
+    QString text = CommandBoxes::conditionOf(m_activeView->datasetFilterText());
+    bool isApplied = false;
+    while (!isApplied) {
+        const std::optional<QString> edited = m_prompts->editDataFilter(text);
+        if (!edited) {
+            spdlog::info("Filter canceled");
+            return;
+        }
+        text = *edited;
+        isApplied = m_boxes->applyDataFilter(text);
+    }
+}
+
+void MainWindow::submitProgram()
+{
+    if (m_activeView != nullptr) {
+        programrunner::run(m_program->toPlainText(), *m_activeView, *m_gridServices);
+    }
+}
+
+// Window
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_store != nullptr) {
+        m_arrangement->save();
+    }
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (!m_isArranged) {
+        m_isArranged = true;
+        QTimer::singleShot(0, this, [this] { m_arrangement->finish(); });
+    }
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); })) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    QStringList paths;
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (url.isLocalFile()) {
+            paths << url.toLocalFile();
+        }
+    }
+    m_opener->openLater(paths);
+    event->acceptProposedAction();
+}

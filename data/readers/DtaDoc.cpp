@@ -1,0 +1,113 @@
+#include "data/readers/DtaDoc.h"
+
+#include "data/readers/ByteView.h"
+#include "data/values/StataFormat.h"
+#include "data/values/Texts.h"
+
+std::string DtaDoc::cellText(int row, int column) const
+{
+    if (!inRange(row, column)) {
+        return {};
+    }
+    // Stata's narrower numbers have formats of their own and show like doubles.
+    const auto variable = static_cast<std::size_t>(column);
+    return isCharacter(column)
+        ? StatDataset::cellText(row, column)
+        : formatNumeric(numericValue(row, column), m_formats[variable], m_formatWidths[variable],
+                        m_formatDecimals[variable]);
+}
+
+std::string DtaDoc::variableAttribute(int column, VariableAttribute attribute) const
+{
+    if (attribute == VariableAttribute::Type) {
+        return isNumeric(column) ? "Numeric" : "Character";
+    }
+    return StatDataset::variableAttribute(column, attribute);
+}
+
+std::string DtaDoc::formatNumeric(double number, std::string_view format, int, int) const
+{
+    return stata::formatNumeric(number, format);
+}
+
+std::string DtaDoc::prepare(const FileReader& file, ParserInput& input)
+{
+    Result<DtaLayout> layout = readDtaLayout(file);
+    if (!layout) {
+        return layout.error();
+    }
+    m_layout = std::move(layout).value();
+    // Before release 118 files declare no encoding; nearly all come from Windows.
+    setDecoder(TextDecoder(m_layout.release >= 118 ? "UTF-8" : "WINDOWS-1252"));
+    if (m_layout.longStringsOffset > 0) {
+        // The library reads past long strings that end without a NUL, and takes the references of
+        // release 119 for those of 118. It is shown an empty section.
+        input.replaceBytes(m_layout.longStringsOffset, "</strls>");
+    }
+    input.setReadAhead(std::size_t{256} << 10);
+    return {};
+}
+
+readstat_error_t DtaDoc::parse(readstat_parser_t* parser, const char* path)
+{
+    return readstat_parse_dta(parser, path, this);
+}
+
+int DtaDoc::acceptMetadata(const readstat_metadata_t& metadata)
+{
+    copyCommonMetadata(metadata);
+    m_header.fileLabel = decoded(metadata.file_label);
+    m_header.is64Bit = metadata.is64bit != 0;
+    m_header.observationLength = m_layout.rowLength;
+    const std::int64_t mostRows = m_layout.rowLength > 0 ? fileSize() / m_layout.rowLength : 0;
+    return resizeDataset(metadata.row_count, metadata.var_count, mostRows);
+}
+
+std::string DtaDoc::complete(const FileReader& file)
+{
+    std::string problem;
+    if (m_valuesWanted && !m_layout.longStringVariables.empty()) {
+        const Result<LongStrings> strings = readLongStrings(file, m_layout);
+        if (strings) {
+            resolveLongStrings(file, strings.value());
+        } else {
+            problem = strings.error();
+        }
+    }
+    m_layout = {};
+    return problem;
+}
+
+void DtaDoc::resolveLongStrings(const FileReader& file, const LongStrings& strings)
+{
+    const std::int64_t length = m_layout.rowLength;
+    const std::int64_t rowsAtOnce = std::max<std::int64_t>((256 << 10) / length, 1);
+    std::vector<char> bytes;
+    for (int row = 0; row < m_observationCount; ++row) {
+        const std::int64_t at = row % rowsAtOnce;
+        if (at == 0) {
+            bytes = file.bytesAt(m_layout.dataOffset + row * length, rowsAtOnce * length);
+        }
+        const ByteView rows({bytes.data(), bytes.size()}, m_layout.littleEndian);
+        for (const auto& [variable, offset] : m_layout.longStringVariables) {
+            const auto place = static_cast<std::size_t>(at * length + offset);
+            const auto found = strings.find(longStringKey(rows.u64(place)));
+            if (found != strings.end() && isColumn(variable) && isCharacter(variable)) {
+                setText(row, variable, texts::trimmedView(found->second));
+            }
+        }
+    }
+}
+
+/// A reference is a variable number and, in the bytes left of eight, an observation number, in the
+/// byte order of the file.
+LongStrings::key_type DtaDoc::longStringKey(std::uint64_t reference) const
+{
+    const unsigned bits = m_layout.release >= 119 ? 24 : m_layout.release == 118 ? 16 : 32;
+    const std::uint64_t variable = m_layout.littleEndian
+        ? reference & ((std::uint64_t{1} << bits) - 1)
+        : reference >> (64 - bits);
+    const std::uint64_t observation =
+        m_layout.littleEndian ? reference >> bits : reference & (~std::uint64_t{0} >> bits);
+    return {static_cast<std::uint32_t>(variable), observation};
+}

@@ -1,0 +1,119 @@
+#include "data/readers/XptDoc.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cctype>
+
+namespace {
+
+bool sameName(const std::string& one, const std::string& other)
+{
+    return std::equal(
+        one.begin(), one.end(), other.begin(), other.end(),
+        [](unsigned char a, unsigned char b) { return std::toupper(a) == std::toupper(b); });
+}
+
+}  // namespace
+
+std::string XptDoc::prepare(const FileReader& file, ParserInput& input)
+{
+    setDecoder(TextDecoder());
+    const Result<XptLayout> layout = readXptLayout(file);
+    if (!layout) {
+        return decoded(layout.error().c_str());  // it may quote the file
+    }
+    m_memberNames.clear();
+    for (const XptMember& member : layout.value().members) {
+        m_memberNames.push_back(decoded(member.name.c_str()));
+    }
+    if (std::string problem = chooseMember(layout.value()); !problem.empty()) {
+        return problem;
+    }
+    const std::int64_t rowBytes = m_member.rowCount * m_member.rowLength;
+    input.setPieces({{0, layout.value().libraryEnd},
+                     {m_member.start, m_member.observations - m_member.start + rowBytes}});
+    input.setReadAhead(std::size_t{256} << 10);
+    hideDamagedTimes(layout.value(), input);
+    return {};
+}
+
+/// Where a time cannot be read, the library looks for the month in memory it never set.
+void XptDoc::hideDamagedTimes(const XptLayout& layout, ParserInput& input)
+{
+    constexpr std::string_view someTime = "01JAN70:00:00:00";
+    for (const std::int64_t offset : layout.damagedTimes) {
+        input.replaceBytes(offset, someTime);
+    }
+    for (const std::int64_t offset : m_member.damagedTimes) {
+        input.replaceBytes(layout.libraryEnd + offset - m_member.start, someTime);
+    }
+    m_timesAreKnown = layout.damagedTimes.empty() && m_member.damagedTimes.empty();
+}
+
+std::string XptDoc::chooseMember(const XptLayout& layout)
+{
+    const auto found = m_memberName.empty()
+        ? layout.members.begin()
+        : std::find_if(layout.members.begin(), layout.members.end(), [&](const XptMember& one) {
+              return sameName(decoded(one.name.c_str()), m_memberName);
+          });
+    if (found == layout.members.end()) {
+        return fmt::format("It has no data set named {}; it has {}", m_memberName,
+                           fmt::join(m_memberNames, ", "));
+    }
+    m_member = *found;
+    if (m_member.rowLength <= 0 && !m_member.variables.empty()) {
+        return "Its variables have no length";
+    }
+    return {};
+}
+
+readstat_error_t XptDoc::parse(readstat_parser_t* parser, const char* path)
+{
+    return readstat_parse_xport(parser, path, this);
+}
+
+int XptDoc::acceptMetadata(const readstat_metadata_t& metadata)
+{
+    if (metadata.row_count != -1) {
+        return READSTAT_HANDLER_OK;  // the library tells no row count of a transport file
+    }
+    copyCommonMetadata(metadata);
+    if (!m_timesAreKnown) {
+        m_header.creationTime = 0;
+        m_header.modificationTime = 0;
+    }
+    m_header.tableName = decoded(m_member.name.c_str());
+    m_header.fileLabel = decoded(metadata.file_label);
+    m_header.memberType = {};
+    m_header.encoding = {};
+    m_header.release = {};
+    m_header.host = {};
+    m_header.observationLength = m_member.rowLength;
+    // The library drops all blank rows at the end; those that cannot be padding stay empty rows
+    // here.
+    return resizeDataset(m_member.rowCount, metadata.var_count, m_member.rowCount);
+}
+
+void XptDoc::completeVariable(int index)
+{
+    const auto at = static_cast<std::size_t>(index);
+    if (at >= m_member.variables.size()) {
+        return;
+    }
+    const auto& variable = m_member.variables[at];
+    const FormatRecord& format = variable.format;
+    const FormatRecord& informat = variable.informat;
+    setFormats(index, decoded(format.name.c_str()), format.width, format.decimals,
+               sasFormatText(decoded(informat.name.c_str()), informat.width, informat.decimals));
+}
+
+std::string XptDoc::complete(const FileReader&)
+{
+    if (m_valuesWanted) {
+        normaliseFormats();
+    }
+    m_member = {};
+    return {};
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "data/readers/SasDataset.h"
+#include "data/readers/XptLayout.h"
+
+#include <string>
+#include <vector>
+
+/// One data set of a SAS transport file (.xpt), version 5 or 8. Its texts declare no encoding: they
+/// are taken as UTF-8 where they are that, else as Windows-1252.
+class XptDoc : public SasDataset
+{
+public:
+    /// Which data set of the file to load, in any letter case; the first when empty.
+    void setMember(std::string name) { m_memberName = std::move(name); }
+    /// The names of all data sets of the file, in its order; known after a load.
+    [[nodiscard]] const std::vector<std::string>& memberNames() const { return m_memberNames; }
+
+protected:
+    std::string prepare(const FileReader& file, ParserInput& input) override;
+    readstat_error_t parse(readstat_parser_t* parser, const char* path) override;
+    int acceptMetadata(const readstat_metadata_t& metadata) override;
+    void completeVariable(int index) override;
+    std::string complete(const FileReader& file) override;
+
+private:
+    std::string chooseMember(const XptLayout& layout);
+    void hideDamagedTimes(const XptLayout& layout, ParserInput& input);
+
+    std::string m_memberName;
+    std::vector<std::string> m_memberNames;
+    XptMember m_member;
+    bool m_timesAreKnown = true;
+};
