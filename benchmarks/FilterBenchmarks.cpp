@@ -5,7 +5,7 @@
 #include "benchmarks/BenchmarkFiles.h"
 #include "data/InMemoryDataset.h"
 #include "data/readers/DatasetFile.h"
-#include "grid/filter/FilterCondition.h"
+#include "grid/filter/CompiledCondition.h"
 #include "grid/MainTableModel.h"
 #include "grid/MainTableView.h"
 
@@ -20,10 +20,10 @@ namespace {
 
 void evaluate(benchmark::State& state, const StatDataset& dataset, const char* text)
 {
-    const auto condition = FilterCondition::compile(QString::fromUtf8(text), dataset);
+    const CompiledCondition condition(QString::fromUtf8(text), dataset);
     BitVector mask;
     for (auto _ : state) {
-        condition.value().select(mask);
+        condition.select(mask);
         benchmark::DoNotOptimize(mask.count());
     }
 }
@@ -50,8 +50,9 @@ class ShownGrid
 {
 public:
     explicit ShownGrid(StatDataset& dataset)
-        : m_model(&dataset)
-        , m_view(&dataset)
+        : m_opened(dataset)
+        , m_model(&m_opened)
+        , m_view(&m_opened)
     {
         m_view.setModel(&m_model);
         m_view.fitColumns();
@@ -68,6 +69,7 @@ public:
     MainTableView& view() { return m_view; }
 
 private:
+    OpenDataset m_opened;
     MainTableModel m_model;
     MainTableView m_view;
 };

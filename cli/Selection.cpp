@@ -1,6 +1,7 @@
 #include "cli/Selection.h"
 
-#include "grid/filter/FilterState.h"
+#include "grid/filter/CompiledCondition.h"
+#include "grid/filter/ParseError.h"
 #include "grid/filter/VariableNames.h"
 
 #include <fmt/format.h>
@@ -33,10 +34,11 @@ Result<std::vector<int>> variablesNamed(const StatDataset& dataset,
 Result<bool> selectWhere(StatDataset& dataset, const std::optional<std::string>& condition)
 {
     if (condition) {
-        FilterState filters(dataset);
-        const auto selected = filters.addDatasetFilterStep(QString::fromStdString(*condition));
-        if (!selected) {
-            return Failure{fmt::format("--where: {}", selected.error())};
+        try {
+            const CompiledCondition compiled(QString::fromStdString(*condition), dataset);
+            compiled.select(dataset.datasetFilterMask());
+        } catch (const ParseError& error) {
+            return Failure{fmt::format("--where: {}", error.what())};
         }
     }
     return true;

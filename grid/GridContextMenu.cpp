@@ -2,49 +2,56 @@
 
 #include <QAction>
 
+#include <array>
+#include <optional>
+
+namespace {
+
+using enum GridCommand;
+
+constexpr std::nullopt_t separator = std::nullopt;
+
+constexpr std::array<std::optional<GridCommand>, 18> entries{HideVariable,
+                                                             UnhideVariables,
+                                                             ShiftLeft,
+                                                             ShiftRight,
+                                                             GoToVariable,
+                                                             AddByVariable,
+                                                             ClearByVariables,
+                                                             separator,
+                                                             ClearLibraryFilter,
+                                                             ClearDatasetFilter,
+                                                             UndoDatasetFilter,
+                                                             separator,
+                                                             Frequency,
+                                                             FrequencyOfSubjects,
+                                                             Univariate,
+                                                             separator,
+                                                             Copy,
+                                                             CopyWithNames};
+
+}  // namespace
+
 GridContextMenu::GridContextMenu(const QString& idVariable, QWidget* parent)
     : QMenu(parent)
 {
     setObjectName(QStringLiteral("gridContextMenu"));
-    addColumnEntries();
-    addSeparator();
-    addFilterEntries();
-    addSeparator();
-    addAnalysisEntries(idVariable);
-    addSeparator();
-    add(tr("Copy"), GridCommand::Copy);
-    add(tr("Copy (include Var Name)"), GridCommand::CopyWithNames);
+    for (const std::optional<GridCommand> command : entries) {
+        if (command) {
+            add(*command, idVariable);
+        } else {
+            addSeparator();
+        }
+    }
 }
 
-void GridContextMenu::addColumnEntries()
+void GridContextMenu::add(GridCommand command, const QString& idVariable)
 {
-    add(tr("Hide Variable\tH"), GridCommand::HideVariable);
-    add(tr("Unhide Variables\tU"), GridCommand::UnhideVariables);
-    add(tr("Shift Variable Left\tAlt+Left"), GridCommand::ShiftLeft);
-    add(tr("Shift Variable Right\tAlt+Right"), GridCommand::ShiftRight);
-    add(tr("Go to Variable\tG"), GridCommand::GoToVariable);
-    add(tr("Add By Variable\tB"), GridCommand::AddByVariable);
-    add(tr("Clear By Variable"), GridCommand::ClearByVariables);
-}
-
-void GridContextMenu::addFilterEntries()
-{
-    add(tr("Clear Library Filter\tAlt+C"), GridCommand::ClearLibraryFilter);
-    add(tr("Clear Dataset Filter\tC"), GridCommand::ClearDatasetFilter);
-    add(tr("Undo Dataset Filter\tZ"), GridCommand::UndoDatasetFilter);
-}
-
-void GridContextMenu::addAnalysisEntries(const QString& idVariable)
-{
-    // An ampersand in a menu would underline the letter behind it instead of being shown.
-    const QString shownName = QString(idVariable).replace(u'&', QStringLiteral("&&"));
-    add(tr("Frequency\tF"), GridCommand::Frequency);
-    add(tr("Frequency (%1)\tN").arg(shownName), GridCommand::FrequencyOfSubjects);
-    add(tr("Univariate\tS"), GridCommand::Univariate);
-}
-
-void GridContextMenu::add(const QString& text, GridCommand command)
-{
+    QString text = gridcommands::entryOf(command).menuEntry();
+    if (command == FrequencyOfSubjects) {
+        // An ampersand in a menu would underline the letter behind it instead of being shown.
+        text = text.arg(QString(idVariable).replace(u'&', QStringLiteral("&&")));
+    }
     connect(addAction(text), &QAction::triggered, this,
             [this, command] { emit signalCommand(command); });
 }

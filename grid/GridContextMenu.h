@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grid/GridCommand.h"
+#include "grid/GridCommands.h"
 
 #include <QMenu>
 
@@ -17,8 +17,5 @@ signals:
     void signalCommand(GridCommand command);
 
 private:
-    void addColumnEntries();
-    void addFilterEntries();
-    void addAnalysisEntries(const QString& idVariable);
-    void add(const QString& text, GridCommand command);
+    void add(GridCommand command, const QString& idVariable);
 };

@@ -1,23 +1,23 @@
 #include "grid/GridSelection.h"
 
-#include "grid/GridColumns.h"
+#include "grid/opened/ShownVariables.h"
 #include "grid/RowVisibility.h"
 
 #include <algorithm>
 #include <set>
 
-GridSelection::GridSelection(QItemSelection selection, const GridColumns& columns,
+GridSelection::GridSelection(QItemSelection selection, const ShownVariables& variables,
                              const RowVisibility& rows)
     : m_selection(std::move(selection))
-    , m_columns(columns)
+    , m_variables(variables)
     , m_rows(rows)
 { }
 
 std::vector<int> GridSelection::variables() const
 {
-    std::vector<int> result = m_columns.order();
+    std::vector<int> result = m_variables.order();
     std::erase_if(result, [&](int variable) {
-        return !m_columns.isShown(variable)
+        return !m_variables.isShown(variable)
             || std::none_of(m_selection.begin(), m_selection.end(), [&](const auto& range) {
                    return range.left() <= variable && variable <= range.right();
                });

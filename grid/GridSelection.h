@@ -4,15 +4,16 @@
 
 #include <vector>
 
-class GridColumns;
+class ShownVariables;
 class RowVisibility;
 
 /// What is selected in a grid, as commands take it: without hidden rows and columns.
 class GridSelection
 {
 public:
-    /// @param columns, rows  what is shown; both outlive this object
-    GridSelection(QItemSelection selection, const GridColumns& columns, const RowVisibility& rows);
+    /// @param variables, rows  what is shown; both outlive this object
+    GridSelection(QItemSelection selection, const ShownVariables& variables,
+                  const RowVisibility& rows);
 
     /// The variables with selected cells, in the order of their columns on the screen.
     [[nodiscard]] std::vector<int> variables() const;
@@ -27,7 +28,7 @@ private:
     [[nodiscard]] std::vector<int> shownRows(Accepts accepts) const;
 
     QItemSelection m_selection;
-    const GridColumns& m_columns;
+    const ShownVariables& m_variables;
     const RowVisibility& m_rows;
 };
 

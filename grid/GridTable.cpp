@@ -2,6 +2,7 @@
 
 #include "data/StatDataset.h"
 #include "grid/MainTableModel.h"
+#include "grid/opened/OpenDataset.h"
 
 #include <QAbstractItemDelegate>
 #include <QEvent>
@@ -21,9 +22,9 @@ constexpr int widestFitted = 400;
 
 }  // namespace
 
-GridTable::GridTable(StatDataset* dataset, QWidget* parent)
+GridTable::GridTable(OpenDataset* opened, QWidget* parent)
     : QTableView(parent)
-    , m_dataset(dataset)
+    , m_opened(opened)
 {
     setWordWrap(false);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -66,7 +67,7 @@ void GridTable::setUpRowHeader(QHeaderView& header) const
 /// the next otherwise.
 int GridTable::rowHeaderWidth() const
 {
-    const int largest = m_dataset == nullptr ? 0 : m_dataset->observationCount();
+    const int largest = m_opened == nullptr ? 0 : dataset()->observationCount();
     return fontMetrics().horizontalAdvance(QString::number(largest) + u'0')
         + 2 * style()->pixelMetric(QStyle::PM_HeaderMargin);
 }
@@ -79,11 +80,37 @@ void GridTable::setModel(QAbstractItemModel* model)
     if (m_model == nullptr) {
         return;
     }
-    Q_ASSERT(m_model->dataset() == m_dataset);
-    m_columns.emplace(*this, *m_dataset);
-    m_columns->followBits();
+    Q_ASSERT(m_model->opened() == m_opened);
+    followRows();
+    followColumns();
     m_rows.reset(m_model->rowMap().size());
     applyRowVisibility();
+}
+
+/// Whoever has the rows put in another order, the filtered ones are hidden in their new places. The
+/// view is not scrolled: after a sort people look at what comes first.
+void GridTable::followRows()
+{
+    // Not by the model's signals: a row header that came later takes the selection away by them.
+    connect(m_opened, &OpenDataset::signalRowsAboutToChange, this,
+            [this] { m_placeBeforeChange = place(); });
+    connect(m_opened, &OpenDataset::signalRowsChanged, this,
+            [this] { showRows(m_placeBeforeChange, Scrolling::Stay); });
+}
+
+void GridTable::followColumns()
+{
+    m_columns.emplace(*this, *m_opened);
+    m_columns->followBits();
+    m_columns->followOrder();
+    connect(m_opened, &OpenDataset::signalOrderChanged, this, [this] { m_columns->followOrder(); });
+    connect(horizontalHeader(), &QHeaderView::sectionMoved, this,
+            [this] { m_columns->keepOrder(); });
+}
+
+StatDataset* GridTable::dataset() const
+{
+    return m_opened == nullptr ? nullptr : &m_opened->dataset();
 }
 
 int GridTable::shownRowCount() const
@@ -91,24 +118,14 @@ int GridTable::shownRowCount() const
     return static_cast<int>(m_rows.shownCount());
 }
 
-std::vector<int> GridTable::hiddenVariables() const
-{
-    return m_columns ? m_columns->hidden() : std::vector<int>();
-}
-
-std::vector<int> GridTable::variableOrder() const
-{
-    return m_columns ? m_columns->order() : std::vector<int>();
-}
-
 GridSelection GridTable::selected() const
 {
-    return {selectionModel()->selection(), *m_columns, m_rows};
+    return {selectionModel()->selection(), m_opened->variables(), m_rows};
 }
 
 bool GridTable::isCurrentVariableShown() const
 {
-    return m_columns && m_columns->isShown(m_currentVariable);
+    return isReady() && m_opened->variables().isShown(m_currentVariable);
 }
 
 void GridTable::fitColumns()
@@ -259,7 +276,7 @@ void GridTable::hideAndShowRows()
     const auto enableUpdates = qScopeGuard([&] { setUpdatesEnabled(updated); });
     std::optional<QSignalBlocker> blocker(verticalHeader());
     m_rows.update(
-        *m_dataset, m_model->rowMap(), [this](int row, bool shown) { setRowHidden(row, !shown); },
+        *dataset(), m_model->rowMap(), [this](int row, bool shown) { setRowHidden(row, !shown); },
         [&] {
             blocker.reset();
             startRowHeaderOver();
@@ -321,10 +338,10 @@ void GridTable::makeCurrent(int variable)
 
 void GridTable::leaveHiddenColumn()
 {
-    if (m_currentVariable < 0 || m_columns->isShown(m_currentVariable)) {
+    if (m_currentVariable < 0 || m_opened->variables().isShown(m_currentVariable)) {
         return;
     }
-    const int replacement = m_columns->neighbour(m_currentVariable);
+    const int replacement = m_opened->variables().neighbour(m_currentVariable);
     if (replacement >= 0) {
         makeCurrent(replacement);
     }

@@ -10,6 +10,7 @@
 #include <vector>
 
 class MainTableModel;
+class OpenDataset;
 class StatDataset;
 enum class HeaderMode : std::uint32_t;
 
@@ -21,14 +22,15 @@ class GridTable : public QTableView
     Q_OBJECT
 
 public:
-    /// @param dataset  outlives the view; may be null, which leaves the view empty
-    explicit GridTable(StatDataset* dataset, QWidget* parent = nullptr);
+    /// @param opened  outlives the view; may be null, which leaves the view empty
+    explicit GridTable(OpenDataset* opened, QWidget* parent = nullptr);
 
-    /// Takes the grid's model, once; one that is a MainTableModel over this dataset has its rows
+    /// Takes the grid's model, once; one that is a MainTableModel of this dataset has its rows
     /// hidden.
     void setModel(QAbstractItemModel* model) override;
     [[nodiscard]] MainTableModel* tableModel() const { return m_model; }
-    [[nodiscard]] StatDataset* dataset() const { return m_dataset; }
+    [[nodiscard]] OpenDataset* opened() const { return m_opened; }
+    [[nodiscard]] StatDataset* dataset() const;
 
     /// The variable of the current cell, or of the header clicked last where there are no cells; -1
     /// before there was one.
@@ -37,10 +39,6 @@ public:
     /// The selected cells that are shown. Needs the grid's model.
     [[nodiscard]] GridSelection selected() const;
     [[nodiscard]] int shownRowCount() const;
-    /// The hidden variables in the dataset's order.
-    [[nodiscard]] std::vector<int> hiddenVariables() const;
-    /// All variables as they stand from left to right, hidden ones included.
-    [[nodiscard]] std::vector<int> variableOrder() const;
 
     /// Makes each column as wide as its contents, within reason. Measures a sample of the rows.
     void fitColumns();
@@ -75,7 +73,6 @@ protected:
     /// Whether there is a dataset and its model, without which no command does anything.
     [[nodiscard]] bool isReady() const { return m_model != nullptr; }
     [[nodiscard]] GridColumns& columns() { return *m_columns; }
-    [[nodiscard]] const GridColumns& columns() const { return *m_columns; }
     [[nodiscard]] const RowVisibility& rows() const { return m_rows; }
 
     [[nodiscard]] Place place() const;
@@ -91,6 +88,8 @@ protected:
 
 private:
     void setUpColumnHeader();
+    void followRows();
+    void followColumns();
     void widenForHeaders();
     [[nodiscard]] int widthOfSpreadRows(int column, int rowCount) const;
     void setUpRowHeader(QHeaderView& header) const;
@@ -100,10 +99,11 @@ private:
     void restoreCurrent(const Place& place);
     void restoreSelection(const Place& place, const QModelIndex& currentBefore);
 
-    StatDataset* m_dataset;
+    OpenDataset* m_opened;
     MainTableModel* m_model = nullptr;  ///< the view's model when it is a grid model
     std::optional<GridColumns> m_columns;
     RowVisibility m_rows;
+    Place m_placeBeforeChange;
     int m_currentVariable = -1;
     int m_lostObservation = -1;  ///< of the current cell when the last row went
 };

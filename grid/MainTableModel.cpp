@@ -1,12 +1,9 @@
 #include "grid/MainTableModel.h"
 
 #include "data/StatDataset.h"
-
-#include <spdlog/spdlog.h>
+#include "grid/opened/OpenDataset.h"
 
 #include <algorithm>
-#include <new>
-#include <numeric>
 
 namespace {
 
@@ -15,12 +12,18 @@ constexpr Qt::Alignment numberAlignment = Qt::AlignRight | Qt::AlignVCenter;
 
 }  // namespace
 
-MainTableModel::MainTableModel(const StatDataset* dataset, QObject* parent)
+MainTableModel::MainTableModel(OpenDataset* opened, QObject* parent)
     : QAbstractTableModel(parent)
-    , m_dataset(dataset)
-    , m_rowMap(static_cast<std::size_t>(dataset->observationCount()))
+    , m_opened(opened)
+    , m_dataset(&opened->dataset())
 {
-    std::iota(m_rowMap.begin(), m_rowMap.end(), 0U);
+    connect(opened, &OpenDataset::signalRowsAboutToChange, this, &MainTableModel::beginResetModel);
+    connect(opened, &OpenDataset::signalRowsChanged, this, &MainTableModel::endResetModel);
+}
+
+std::span<const std::uint32_t> MainTableModel::rowMap() const
+{
+    return m_opened->rowMap();
 }
 
 int MainTableModel::rowCount(const QModelIndex& parent) const
@@ -57,8 +60,8 @@ QVariant MainTableModel::headerData(int section, Qt::Orientation orientation, in
     }
     const auto entry = static_cast<std::size_t>(section);
     if (orientation == Qt::Vertical) {
-        const bool shown = role == Qt::DisplayRole && entry < m_rowMap.size();
-        return shown ? QVariant(QString::number(std::int64_t{m_rowMap[entry]} + 1)) : QVariant();
+        const bool shown = role == Qt::DisplayRole && entry < rowMap().size();
+        return shown ? QVariant(QString::number(std::int64_t{rowMap()[entry]} + 1)) : QVariant();
     }
     if (section >= m_dataset->variableCount()) {
         return {};
@@ -81,41 +84,22 @@ void MainTableModel::setHeaderMode(HeaderMode mode)
 
 int MainTableModel::observationAt(int row) const
 {
-    return static_cast<int>(m_rowMap[static_cast<std::size_t>(row)]);
+    return static_cast<int>(rowMap()[static_cast<std::size_t>(row)]);
 }
 
 int MainTableModel::rowOf(int observation) const
 {
-    const auto found =
-        std::find(m_rowMap.begin(), m_rowMap.end(), static_cast<std::uint32_t>(observation));
-    return found == m_rowMap.end() ? -1 : static_cast<int>(found - m_rowMap.begin());
+    const auto rows = rowMap();
+    const auto found = std::find(rows.begin(), rows.end(), static_cast<std::uint32_t>(observation));
+    return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
 }
 
 void MainTableModel::sortRows(const SortKeys& keys)
 {
-    // Called by a signal, which no exception may leave; the old order stays.
-    try {
-        std::vector<std::uint32_t> rowMap;
-        rowsorter::sortObservations(*m_dataset, keys, rowMap);
-        setRowMap(std::move(rowMap));
-    } catch (const std::bad_alloc&) {
-        spdlog::error("Error: not enough memory to sort {} rows", m_rowMap.size());
-    }
+    m_opened->sortBy(keys);
 }
 
 void MainTableModel::resetSort()
 {
-    std::vector<std::uint32_t> rowMap(m_rowMap.size());
-    std::iota(rowMap.begin(), rowMap.end(), 0U);
-    setRowMap(std::move(rowMap));
-}
-
-void MainTableModel::setRowMap(std::vector<std::uint32_t> rowMap)
-{
-    if (rowMap == m_rowMap) {
-        return;
-    }
-    beginResetModel();
-    m_rowMap.swap(rowMap);
-    endResetModel();
+    m_opened->sortBy({});
 }

@@ -6,8 +6,8 @@
 
 #include <cstdint>
 #include <span>
-#include <vector>
 
+class OpenDataset;
 class StatDataset;
 
 /// What the horizontal header shows; its tool tips show the other.
@@ -18,15 +18,15 @@ enum class HeaderMode : std::uint32_t
 };
 
 /// The cells of one dataset: a row for each observation, in the order of the row map, and a column
-/// for each variable, in the dataset's order. Hiding and moving is left to the view. Every change
-/// is published as a full reset, and only when something has changed.
+/// for each variable, in the dataset's own order. Hiding and moving is left to the view. Every
+/// change is published as a full reset, and only when something has changed.
 class MainTableModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    /// @param dataset  outlives the model
-    explicit MainTableModel(const StatDataset* dataset, QObject* parent = nullptr);
+    /// @param opened  outlives the model
+    explicit MainTableModel(OpenDataset* opened, QObject* parent = nullptr);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -35,7 +35,7 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
                                       int role = Qt::DisplayRole) const override;
 
-    [[nodiscard]] const StatDataset* dataset() const { return m_dataset; }
+    [[nodiscard]] OpenDataset* opened() const { return m_opened; }
     [[nodiscard]] HeaderMode headerMode() const { return m_headerMode; }
     void setHeaderMode(HeaderMode mode);
 
@@ -44,7 +44,7 @@ public:
     /// The row that shows the observation, -1 for one that does not exist. Linear in the rows.
     [[nodiscard]] int rowOf(int observation) const;
     /// The observation of each row; holds every observation exactly once.
-    [[nodiscard]] std::span<const std::uint32_t> rowMap() const { return m_rowMap; }
+    [[nodiscard]] std::span<const std::uint32_t> rowMap() const;
 
 public slots:  // NOLINT(readability-redundant-access-specifiers): moc reads it
     /// Sorts all rows by the keys; see rowsorter for their order.
@@ -53,9 +53,7 @@ public slots:  // NOLINT(readability-redundant-access-specifiers): moc reads it
     void resetSort();
 
 private:
-    void setRowMap(std::vector<std::uint32_t> rowMap);
-
+    OpenDataset* m_opened;
     const StatDataset* m_dataset;
     HeaderMode m_headerMode = HeaderMode::VariableNames;
-    std::vector<std::uint32_t> m_rowMap;
 };

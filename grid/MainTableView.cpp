@@ -1,13 +1,10 @@
 #include "grid/MainTableView.h"
 
 #include "data/StatDataset.h"
-#include "grid/filter/VariableNames.h"
+#include "grid/filter/ParseError.h"
 #include "grid/GridContextMenu.h"
 #include "grid/GridCopy.h"
-#include "grid/GridFilterCommands.h"
-#include "grid/GridShortcuts.h"
 #include "grid/MainTableModel.h"
-#include "grid/StandaloneGridHost.h"
 #include "grid/WaitCursor.h"
 
 #include <spdlog/spdlog.h>
@@ -16,27 +13,20 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <new>
 
-MainTableView::MainTableView(StatDataset* dataset, GridHost* host, QWidget* parent)
-    : GridTable(dataset, parent)
-    , m_ownHost(host == nullptr ? std::make_unique<StandaloneGridHost>() : nullptr)
-    , m_host(host == nullptr ? m_ownHost.get() : host)
+MainTableView::MainTableView(OpenDataset* opened, QWidget* parent)
+    : GridTable(opened, parent)
 {
-    if (dataset != nullptr) {
-        m_rowTotal = dataset->observationCount();
-        m_variableTotal = dataset->variableCount();
-    }
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, &QWidget::customContextMenuRequested, this, &MainTableView::showContextMenu);
     connectHeaders();
     connectCornerButton();
-    gridshortcuts::install(this, [this](GridCommand command) { run(command); });
+    gridcommands::installShortcuts(*this);
 }
-
-MainTableView::~MainTableView() = default;
 
 void MainTableView::connectHeaders()
 {
@@ -63,53 +53,42 @@ void MainTableView::setModel(QAbstractItemModel* model)
     if (isReady()) {
         connect(this, &MainTableView::signalSort, tableModel(), &MainTableModel::sortRows);
         connect(this, &MainTableView::signalResetSort, tableModel(), &MainTableModel::resetSort);
-        m_filterCommands = std::make_unique<GridFilterCommands>(*this, *dataset(), *m_host);
-        m_filterCommands->joinLibraryFilter();
+        followOpenDataset();
     }
 }
 
-// Sorting and counters
-
-void MainTableView::onHeaderClicked(int logicalIndex)
+void MainTableView::followOpenDataset()
 {
-    const auto key =
-        std::find_if(m_sortKeys.begin(), m_sortKeys.end(),
-                     [&](const SortKey& candidate) { return candidate.first == logicalIndex; });
-    Qt::SortOrder order = Qt::AscendingOrder;
-    if (key != m_sortKeys.end()) {
-        order = key->second == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
-        key->second = order;
-    } else {
-        m_sortKeys = {{logicalIndex, order}};
-    }
-    horizontalHeader()->setSortIndicator(logicalIndex, order);
-    resort([this] { emit signalSort(m_sortKeys); });
-    if (isReady() && shownRowCount() == 0) {
-        makeCurrent(logicalIndex);  // as the view does itself where there are cells
-    }
+    connect(opened(), &OpenDataset::signalFiltersChanged, this, &MainTableView::showFilters);
+    connect(opened(), &OpenDataset::signalVariablesChanged, this, &MainTableView::showVariables);
+    connect(opened(), &OpenDataset::signalByListChanged, this, &MainTableView::signalAddByVar);
+    connect(opened(), &OpenDataset::signalSorted, this, &MainTableView::showSort);
+    connect(opened(), &OpenDataset::signalFrequencyAsked, this, &MainTableView::showFrequency);
+    showSort();
 }
 
-void MainTableView::onCornerClicked()
+// What the open dataset tells
+
+void MainTableView::showFilters()
 {
-    m_sortKeys.clear();
-    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-    resort([this] { emit signalResetSort(); });
-    selectAll();
+    applyRowVisibility();
+    publishCounters();
+    publishFilters();
 }
 
-/// Has the rows put in another order and the filtered ones hidden in their new places. The view is
-/// not scrolled: after a sort people look at what comes first.
-template <typename EmitSort>
-void MainTableView::resort(EmitSort emitSort)
+void MainTableView::showVariables()
 {
-    if (!isReady()) {
-        emitSort();
-        return;
-    }
-    const WaitCursor waitCursor;
-    const Place before = place();
-    emitSort();
-    showRows(before, Scrolling::Stay);
+    columns().followBits();
+    leaveHiddenColumn();
+    emit signalVarNo(variableCounter());
+    emit signalVarHideUnhide();
+}
+
+void MainTableView::showSort()
+{
+    const SortKeys& keys = opened()->sortKeys();
+    const SortKey shown = keys.empty() ? SortKey(-1, Qt::AscendingOrder) : keys.front();
+    horizontalHeader()->setSortIndicator(shown.first, shown.second);
     publishCounters();
 }
 
@@ -128,12 +107,18 @@ void MainTableView::publishCounters()
     emit signalVarNo(variableCounter());
 }
 
+void MainTableView::publishFilters()
+{
+    emit signalLibraryFilter(opened() == nullptr ? QString() : opened()->libraryFilterText());
+    emit signalFilter(opened() == nullptr ? QString() : opened()->datasetFilterText());
+}
+
 QString MainTableView::rowCounter() const
 {
     if (dataset() == nullptr || dataset()->observationCount() < 0) {
         return tr("Rows: NA/NA");
     }
-    return tr("Rows: %1/%2").arg(shownRowCount()).arg(m_rowTotal);
+    return tr("Rows: %1/%2").arg(shownRowCount()).arg(dataset()->observationCount());
 }
 
 QString MainTableView::variableCounter() const
@@ -141,7 +126,38 @@ QString MainTableView::variableCounter() const
     if (dataset() == nullptr || dataset()->variableCount() < 0) {
         return tr("Vars: NA/NA");
     }
-    return tr("Vars: %1/%2").arg(dataset()->visibleVariables().count()).arg(m_variableTotal);
+    return tr("Vars: %1/%2")
+        .arg(opened()->variables().shownCount())
+        .arg(dataset()->variableCount());
+}
+
+// Sorting
+
+void MainTableView::onHeaderClicked(int logicalIndex)
+{
+    SortKeys keys = opened() == nullptr ? SortKeys() : opened()->sortKeys();
+    const auto key = std::find_if(keys.begin(), keys.end(), [&](const SortKey& candidate) {
+        return candidate.first == logicalIndex;
+    });
+    if (key == keys.end()) {
+        keys = {{logicalIndex, Qt::AscendingOrder}};
+    } else {
+        key->second = key->second == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    }
+    const WaitCursor waitCursor;
+    emit signalSort(keys);
+    if (isReady() && shownRowCount() == 0) {
+        makeCurrent(logicalIndex);  // as the view does itself where there are cells
+    }
+}
+
+void MainTableView::onCornerClicked()
+{
+    {
+        const WaitCursor waitCursor;
+        emit signalResetSort();
+    }
+    selectAll();
 }
 
 // Columns
@@ -158,52 +174,22 @@ void MainTableView::cmdHideUnhideColumn(int column)
 void MainTableView::cmdHideColumn()
 {
     if (isCurrentVariableShown()) {
-        columns().setShown(currentVariable(), false);
-        leaveHiddenColumn();
-        announceColumns();
+        opened()->setShown({{currentVariable()}}, false);
     }
 }
 
 void MainTableView::cmdHideColumns()
 {
     if (isReady()) {
-        hideVariables(selected().variables());
+        opened()->setShown(selected().variables(), false);
     }
 }
 
 void MainTableView::cmdUnhidecolumns()
 {
     if (isReady()) {
-        columns().showAll();
-        announceColumns();
+        opened()->showAllVariables();
     }
-}
-
-void MainTableView::announceColumns()
-{
-    emit signalVarNo(variableCounter());
-    emit signalVarHideUnhide();
-}
-
-void MainTableView::showOnlyVariables(std::span<const int> variables)
-{
-    if (isReady()) {
-        columns().showOnly(variables);
-        leaveHiddenColumn();
-        announceColumns();
-    }
-}
-
-void MainTableView::hideVariables(std::span<const int> variables)
-{
-    if (!isReady()) {
-        return;
-    }
-    for (const int variable : variables) {
-        columns().setShown(variable, false);
-    }
-    leaveHiddenColumn();
-    announceColumns();
 }
 
 void MainTableView::cmdGotoVariable()
@@ -213,11 +199,11 @@ void MainTableView::cmdGotoVariable()
 
 void MainTableView::cmdGotoVariable(int variable)
 {
-    if (!isReady() || variable < 0 || variable >= m_variableTotal) {
+    if (!isReady() || variable < 0 || variable >= dataset()->variableCount()) {
         return;
     }
-    if (!columns().isShown(variable)) {
-        m_host->showMessage(tr("The variable %1 is hidden.").arg(nameOf(variable)));
+    if (!opened()->variables().isShown(variable)) {
+        emit signalMessage(tr("The variable %1 is hidden.").arg(opened()->nameOf(variable)));
         return;
     }
     makeCurrent(variable);
@@ -235,7 +221,7 @@ void MainTableView::shiftVariableRight()
 
 void MainTableView::shiftVariable(int step)
 {
-    if (isReady() && columns().shift(currentVariable(), step) && currentIndex().isValid()) {
+    if (isReady() && opened()->shiftVariable(currentVariable(), step) && currentIndex().isValid()) {
         scrollTo(currentIndex());
     }
 }
@@ -249,6 +235,14 @@ void MainTableView::cmdSelectCol()
 }
 
 // Copies
+
+QStringList MainTableView::namesOf(const std::vector<int>& variables) const
+{
+    QStringList names;
+    std::transform(variables.begin(), variables.end(), std::back_inserter(names),
+                   [this](int variable) { return opened()->nameOf(variable); });
+    return names;
+}
 
 void MainTableView::cmdCopy(bool includeNames)
 {
@@ -265,20 +259,14 @@ void MainTableView::cmdCopy(bool includeNames)
     };
     QString text = gridcopy::text({rowsToCopy, variables, cellText});
     if (includeNames) {
-        QStringList names;
-        std::transform(variables.begin(), variables.end(), std::back_inserter(names),
-                       [this](int variable) { return nameOf(variable); });
-        text.prepend(gridcopy::line(names) + u'\n');
+        text.prepend(gridcopy::line(namesOf(variables)) + u'\n');
     }
     QGuiApplication::clipboard()->setText(text);
 }
 
 void MainTableView::copyColHeader()
 {
-    QStringList names;
-    for (const int variable : selectedOrCurrentVariables()) {
-        names << nameOf(variable);
-    }
+    const QStringList names = namesOf(selectedOrCurrentVariables());
     if (!names.isEmpty()) {
         QGuiApplication::clipboard()->setText(gridcopy::line(names));
     }
@@ -286,94 +274,105 @@ void MainTableView::copyColHeader()
 
 // Filters
 
-QString MainTableView::libraryFilterText() const
+void MainTableView::report(const CommandOutcome& outcome)
 {
-    return m_filterCommands ? m_filterCommands->libraryFilterText() : QString();
+    if (outcome) {
+        emit signalCommandFailed(*outcome);
+    }
 }
 
-QString MainTableView::libraryFilterProblem() const
+/// The observation of the current cell, -1 when there is none or its column is hidden.
+int MainTableView::currentObservation() const
 {
-    return m_filterCommands ? m_filterCommands->libraryFilterProblem() : QString();
-}
-
-QString MainTableView::datasetFilterText() const
-{
-    return m_filterCommands ? m_filterCommands->datasetFilterText() : QString();
-}
-
-QString MainTableView::lastCommand() const
-{
-    return m_filterCommands ? m_filterCommands->lastCommand() : QString();
-}
-
-void MainTableView::publishFilters()
-{
-    emit signalLibraryFilter(libraryFilterText());
-    emit signalFilter(datasetFilterText());
-}
-
-void MainTableView::showFilters()
-{
-    applyRowVisibility();
-    publishCounters();
-    publishFilters();
-}
-
-void MainTableView::cmdApplyLf()
-{
-    run(GridCommand::LibraryFilter);
+    const QModelIndex current = currentIndex();
+    return current.isValid() && isCurrentVariableShown()
+        ? tableModel()->observationAt(current.row())
+        : -1;
 }
 
 void MainTableView::cmdWhere()
 {
-    run(GridCommand::FilterAgain);
+    const int observation = currentObservation();
+    if (observation >= 0) {
+        const WaitCursor waitCursor;
+        report(opened()->filterByCell(currentVariable(), m_quickFilterOp, observation,
+                                      m_quickFilterMode));
+    }
+}
+
+void MainTableView::filterByCurrentCell(CompareOp op)
+{
+    m_quickFilterOp = op;
+    cmdWhere();
+}
+
+void MainTableView::cmdApplyLf()
+{
+    const auto restore = qScopeGuard([this, op = m_quickFilterOp, mode = m_quickFilterMode] {
+        m_quickFilterOp = op;
+        m_quickFilterMode = mode;
+    });
+    m_quickFilterMode = OpenDataset::FilterKind::Library;
+    filterByCurrentCell(CompareOp::Equal);
+}
+
+void MainTableView::filterBySelectedCells()
+{
+    const int observation = currentObservation();
+    if (observation < 0) {
+        return;
+    }
+    const WaitCursor waitCursor;
+    std::vector<int> observations;
+    for (const int row : selected().rowsOf(currentVariable())) {
+        observations.push_back(tableModel()->observationAt(row));
+    }
+    if (observations.empty()) {
+        observations.push_back(observation);
+    }
+    report(opened()->filterByCells(currentVariable(), observations, m_quickFilterMode));
+}
+
+void MainTableView::filterByContainedText()
+{
+    const int observation = currentObservation();
+    if (observation >= 0) {
+        const WaitCursor waitCursor;
+        report(opened()->filterByCell(currentVariable(), CompareOp::Contains, observation,
+                                      m_quickFilterMode));
+    }
+}
+
+void MainTableView::clearDatasetFilter()
+{
+    const WaitCursor waitCursor;
+    opened()->clearDatasetFilter();
+}
+
+void MainTableView::clearLibraryFilter()
+{
+    const WaitCursor waitCursor;
+    opened()->clearLibraryFilter();
 }
 
 void MainTableView::cmdDfUndo()
 {
-    run(GridCommand::UndoDatasetFilter);
+    if (isReady()) {
+        const WaitCursor waitCursor;
+        opened()->undo();
+    }
 }
 
 void MainTableView::cmdRunCommand(const QString& commandText)
 {
-    if (m_filterCommands) {
-        m_filterCommands->runText(commandText, Dialect::Command);
+    m_lastCommand = commandText;
+    if (!isReady()) {
+        return;
     }
-}
-
-void MainTableView::runStatement(const QString& statement)
-{
-    if (m_filterCommands) {
-        m_filterCommands->runText(statement, Dialect::FilterText);
-    }
-}
-
-void MainTableView::replaceDatasetFilter(const QString& condition)
-{
-    if (m_filterCommands) {
-        m_filterCommands->replaceDatasetFilter(condition);
-    }
-}
-
-void MainTableView::filterByValue(int variable, CompareOp op, const QuickFilter::Value& value)
-{
-    if (m_filterCommands) {
-        m_filterCommands->filterByValue(variable, op, value);
-    }
-}
-
-void MainTableView::filterByValues(int variable, std::span<const QuickFilter::Value> values)
-{
-    if (m_filterCommands) {
-        m_filterCommands->filterByValues(variable, values);
-    }
-}
-
-void MainTableView::restoreFilters(const QString& libraryFilterText,
-                                   const QString& datasetFilterText)
-{
-    if (m_filterCommands) {
-        m_filterCommands->restore(libraryFilterText, datasetFilterText);
+    const WaitCursor waitCursor;
+    const CommandOutcome outcome = opened()->run(commandText, Dialect::Command);
+    if (outcome) {
+        throw ParseError(outcome->message.toStdString());
     }
 }
 
@@ -381,55 +380,22 @@ void MainTableView::restoreFilters(const QString& libraryFilterText,
 
 void MainTableView::cmdAddByVar(const std::string& variable)
 {
-    if (!isReady()) {
-        return;
-    }
-    const auto found = variablenames::find(*dataset(), QString::fromStdString(variable));
-    if (!found) {
+    if (isReady() && !opened()->addByVariable(QString::fromStdString(variable))) {
         spdlog::warn("Warning: there is no variable named {}", variable);
-        return;
     }
-    const std::string& name = dataset()->names()[static_cast<std::size_t>(*found)];
-    if (std::find(m_byVariables.begin(), m_byVariables.end(), name) == m_byVariables.end()) {
-        m_byVariables.push_back(name);
-        emit signalAddByVar(QString::fromStdString(name));
-    }
-}
-
-bool MainTableView::setByVariables(const QString& names)
-{
-    if (!isReady()) {
-        return false;
-    }
-    QStringList words =
-        QString(names).replace(u';', u' ').simplified().split(u' ', Qt::SkipEmptyParts);
-    if (words.size() > 1 && words.front().compare(u"by", Qt::CaseInsensitive) == 0) {
-        words.removeFirst();
-    }
-    const bool areVariables = std::all_of(words.begin(), words.end(), [this](const QString& word) {
-        return variablenames::find(*dataset(), word).has_value();
-    });
-    if (areVariables) {
-        cmdClearByVar();
-        for (const QString& word : words) {
-            cmdAddByVar(word.toStdString());
-        }
-    }
-    return areVariables;
 }
 
 void MainTableView::addCurrentByVariable()
 {
     if (isCurrentVariableShown()) {
-        cmdAddByVar(nameOf(currentVariable()).toStdString());
+        cmdAddByVar(opened()->nameOf(currentVariable()).toStdString());
     }
 }
 
 void MainTableView::cmdClearByVar()
 {
-    if (!m_byVariables.empty()) {
-        m_byVariables.clear();
-        emit signalAddByVar(QString());
+    if (isReady()) {
+        opened()->clearByVariables();
     }
 }
 
@@ -447,35 +413,31 @@ std::vector<int> MainTableView::selectedOrCurrentVariables() const
     return variables;
 }
 
+void MainTableView::showFrequencyOfSelected(bool frequencyN)
+{
+    showFrequency(selectedOrCurrentVariables(), frequencyN);
+}
+
 void MainTableView::showFrequency(std::vector<int> variables, bool frequencyN)
 {
     if (variables.empty()) {
         return;
     }
     const WaitCursor waitCursor;
-    m_frequencies = frequencyN
-        ? frequencies::distinctIds(*dataset(), variables, m_host->uniqueVarName().toStdString())
-        : frequencies::plain(*dataset(), variables);
+    m_frequencies = opened()->frequenciesOf(variables, frequencyN);
     emit signalSetFrequency(&m_frequencies, std::move(variables), dataset(), frequencyN);
     emit signalShowDockFreq();
 }
 
-std::variant<statistics::Table, statistics::Problem> MainTableView::describeSelection() const
-{
-    const WaitCursor waitCursor;
-    std::vector<int> byNumbers;
-    for (const std::string& name : m_byVariables) {
-        byNumbers.push_back(*variablenames::find(*dataset(), QString::fromStdString(name)));
-    }
-    return statistics::describe(*dataset(), selected().variables(), byNumbers);
-}
-
 void MainTableView::showStatistics()
 {
-    const auto result = describeSelection();
+    const auto result = [this] {
+        const WaitCursor waitCursor;
+        return opened()->statisticsOf(selected().variables());
+    }();
     if (const auto* problem = std::get_if<statistics::Problem>(&result)) {
-        const GridStatistics::Message message = GridStatistics::messageOf(*problem);
-        m_host->inform(message.title, message.text);
+        const StatisticsTable::Message message = StatisticsTable::messageOf(*problem);
+        emit signalInform(message.title, message.text);
         return;
     }
     m_statistics.fillTable(std::get<statistics::Table>(result));
@@ -496,74 +458,7 @@ void MainTableView::run(GridCommand command)
     if (!isReady()) {
         return;
     }
-    try {
-        if (!runColumnCommand(command) && !runOtherCommand(command)) {
-            m_filterCommands->run(command);
-        }
-    } catch (const std::bad_alloc&) {
-        m_host->reportCommandError(tr("There is not enough memory."), QString());
-    }
-}
-
-bool MainTableView::runColumnCommand(GridCommand command)
-{
-    switch (command) {
-    case GridCommand::HideVariable:
-        cmdHideColumn();
-        return true;
-    case GridCommand::HideSelectedVariables:
-        cmdHideColumns();
-        return true;
-    case GridCommand::UnhideVariables:
-        cmdUnhidecolumns();
-        return true;
-    case GridCommand::ShiftLeft:
-        shiftVariableLeft();
-        return true;
-    case GridCommand::ShiftRight:
-        shiftVariableRight();
-        return true;
-    case GridCommand::GoToVariable:
-        cmdGotoVariable();
-        return true;
-    case GridCommand::LargerFont:
-        stepFontSize(1);
-        return true;
-    case GridCommand::SmallerFont:
-        stepFontSize(-1);
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool MainTableView::runOtherCommand(GridCommand command)
-{
-    switch (command) {
-    case GridCommand::AddByVariable:
-        addCurrentByVariable();
-        return true;
-    case GridCommand::ClearByVariables:
-        cmdClearByVar();
-        return true;
-    case GridCommand::Frequency:
-        showFrequency(selectedOrCurrentVariables(), false);
-        return true;
-    case GridCommand::FrequencyOfSubjects:
-        showFrequency(selectedOrCurrentVariables(), true);
-        return true;
-    case GridCommand::Univariate:
-        showStatistics();
-        return true;
-    case GridCommand::Copy:
-        cmdCopy(false);
-        return true;
-    case GridCommand::CopyWithNames:
-        cmdCopy(true);
-        return true;
-    default:
-        return false;
-    }
+    report(failureOf(QString(), [&] { gridcommands::entryOf(command).run(*this); }));
 }
 
 void MainTableView::stepFontSize(int step)
@@ -571,18 +466,14 @@ void MainTableView::stepFontSize(int step)
     const int before = fontSize();
     changeFontSize(step);
     if (fontSize() != before) {
-        m_host->fontSizeChanged(fontSize());
+        emit signalFontSizeChanged(fontSize());
     }
-}
-
-QString MainTableView::nameOf(int variable) const
-{
-    return QString::fromStdString(dataset()->names().at(static_cast<std::size_t>(variable)));
 }
 
 void MainTableView::showContextMenu(const QPoint& position)
 {
-    auto* menu = new GridContextMenu(m_host->uniqueVarName(), this);
+    auto* menu =
+        new GridContextMenu(opened() == nullptr ? QString() : opened()->uniqueVarName(), this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     connect(menu, &GridContextMenu::signalCommand, this, &MainTableView::run);
     menu->popup(viewport()->mapToGlobal(position));

@@ -257,7 +257,7 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
 </context>
 <context>
-    <name>GridFilterCommands</name>
+    <name>CommandFailure</name>
     <message>
         <source>There is not enough memory.</source>
         <translation>Der Arbeitsspeicher reicht nicht aus.</translation>
@@ -275,7 +275,7 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
 </context>
 <context>
-    <name>GridStatistics</name>
+    <name>StatisticsTable</name>
     <message>
         <source>Descriptive Statistics</source>
         <translation>Deskriptive Statistik</translation>

@@ -257,7 +257,7 @@ Do you want to reload it?</source>
     </message>
 </context>
 <context>
-    <name>GridFilterCommands</name>
+    <name>CommandFailure</name>
     <message>
         <source>There is not enough memory.</source>
         <translation>内存不足。</translation>
@@ -275,7 +275,7 @@ Do you want to reload it?</source>
     </message>
 </context>
 <context>
-    <name>GridStatistics</name>
+    <name>StatisticsTable</name>
     <message>
         <source>Descriptive Statistics</source>
         <translation>描述性统计</translation>

@@ -50,8 +50,8 @@ CommandBar* CommandBoxes::addBar(const QString& title, const QString& barName,
 void CommandBoxes::setGrid(MainTableView* grid)
 {
     m_grid = grid;
-    showDatasetFilter(grid == nullptr ? QString() : grid->datasetFilterText());
-    showLibraryFilter(m_services.libraryFilter().text());
+    showDatasetFilter(grid == nullptr ? QString() : grid->opened()->datasetFilterText());
+    showLibraryFilter(m_services.datasets().libraryFilter.text());
     showByVariables();
 }
 
@@ -69,7 +69,7 @@ void CommandBoxes::showByVariables()
 {
     QStringList names;
     if (m_grid != nullptr) {
-        for (const std::string& name : m_grid->byVariables()) {
+        for (const std::string& name : m_grid->opened()->byVariables()) {
             names << QString::fromStdString(name);
         }
     }
@@ -86,7 +86,7 @@ void CommandBoxes::submitDatasetFilter(const QString& line)
     const QString text = line.trimmed();
     if (text.isEmpty()) {
         m_grid->run(GridCommand::ClearDatasetFilter);
-    } else if (text != m_grid->datasetFilterText()) {
+    } else if (text != m_grid->opened()->datasetFilterText()) {
         if (!run(line)) {
             return;
         }
@@ -99,9 +99,9 @@ void CommandBoxes::submitLibraryFilter(const QString& line)
 {
     const QString text = line.trimmed();
     if (text.isEmpty()) {
-        m_services.libraryFilter().clear();
-    } else if (text != m_services.libraryFilter().text()) {
-        if (m_grid == nullptr ? !m_services.runLibraryCommand(text) : !run(line)) {
+        m_services.datasets().libraryFilter.clear();
+    } else if (text != m_services.datasets().libraryFilter.text()) {
+        if (!run(line)) {
             return;
         }
         m_libraryFilter->remember(line);
@@ -113,7 +113,7 @@ void CommandBoxes::submitLibraryFilter(const QString& line)
 /// Names of variables become the list, "by" in front of them or not; any other line is a command.
 void CommandBoxes::submitByVariables(const QString& line)
 {
-    if (m_grid == nullptr || (!m_grid->setByVariables(line) && !run(line))) {
+    if (m_grid == nullptr || (!m_grid->opened()->setByVariables(line) && !run(line))) {
         return;
     }
     if (!line.trimmed().isEmpty()) {
@@ -124,7 +124,8 @@ void CommandBoxes::submitByVariables(const QString& line)
 
 bool CommandBoxes::applyDataFilter(const QString& condition)
 {
-    if (m_grid == nullptr || condition.trimmed() == conditionOf(m_grid->datasetFilterText())) {
+    if (m_grid == nullptr
+        || condition.trimmed() == conditionOf(m_grid->opened()->datasetFilterText())) {
         return true;
     }
     const QString plain = conditionOf(condition.trimmed());
@@ -132,7 +133,9 @@ bool CommandBoxes::applyDataFilter(const QString& condition)
         m_grid->run(GridCommand::ClearDatasetFilter);
         return true;
     }
-    if (!m_services.replaceDatasetFilter(*m_grid, plain)) {
+    const CommandOutcome outcome = m_grid->opened()->run(statementOf(plain), Dialect::FilterText,
+                                                         OpenDataset::IfCommand::Replaces);
+    if (!m_services.report(outcome)) {
         return false;
     }
     m_datasetFilter->remember(statementOf(plain));
@@ -149,7 +152,7 @@ QString CommandBoxes::conditionOf(const QString& datasetFilterText)
 
 bool CommandBoxes::run(const QString& command)
 {
-    return m_services.runCommand(*m_grid, command);
+    return m_services.run(m_grid == nullptr ? nullptr : m_grid->opened(), command);
 }
 
 /// Goes back to the grid. The boxes show what is in force there, whatever was typed.

@@ -1,7 +1,6 @@
 #include "app/code/ProgramRunner.h"
 
 #include "app/window/GridServices.h"
-#include "grid/MainTableView.h"
 #include "workspace/program/ProgramStatements.h"
 
 #include <spdlog/spdlog.h>
@@ -11,26 +10,25 @@
 namespace programrunner {
 namespace {
 
-bool setByVariables(const ProgramStatement& statement, MainTableView& grid, GridServices& services)
+bool setByVariables(const ProgramStatement& statement, OpenDataset& opened, GridServices& services)
 {
-    if (grid.setByVariables(statement.names.join(u' '))) {
+    if (opened.setByVariables(statement.names.join(u' '))) {
         return true;
     }
-    services.reportCommandError(
+    return services.report(CommandFailure{
         QCoreApplication::translate("ProgramRunner", "Not all of these are variables."),
-        statement.text);
-    return false;
+        statement.text});
 }
 
 /// @return  whether the program may go on
-bool runStatement(const ProgramStatement& statement, MainTableView& grid, GridServices& services)
+bool runStatement(const ProgramStatement& statement, OpenDataset& opened, GridServices& services)
 {
     using Kind = ProgramStatement::Kind;
     switch (statement.kind) {
     case Kind::Command:
-        return services.runStatement(grid, statement.text);
+        return services.report(opened.run(statement.text, Dialect::FilterText));
     case Kind::By:
-        return setByVariables(statement, grid, services);
+        return setByVariables(statement, opened, services);
     case Kind::PassedOver:
         return true;
     case Kind::Unknown:
@@ -47,10 +45,10 @@ bool runStatement(const ProgramStatement& statement, MainTableView& grid, GridSe
 
 }  // namespace
 
-void run(const QString& program, MainTableView& grid, GridServices& services)
+void run(const QString& program, OpenDataset& opened, GridServices& services)
 {
     for (const ProgramStatement& statement : programstatements::split(program)) {
-        if (!runStatement(statement, grid, services)) {
+        if (!runStatement(statement, opened, services)) {
             spdlog::error("Line {}: the program has stopped here: {}", statement.line,
                           statement.text.toStdString());
             return;

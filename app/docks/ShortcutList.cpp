@@ -1,5 +1,7 @@
 #include "app/docks/ShortcutList.h"
 
+#include "grid/GridCommands.h"
+
 #include <QCoreApplication>
 #include <QKeySequence>
 #include <QStringList>
@@ -26,7 +28,7 @@ struct Row
     const char* description;
 };
 
-constexpr std::array rows{
+constexpr std::array globalRows{
     Row{Context::Global,
         QT_TRANSLATE_NOOP("ShortcutList", "Layout 1"),
         {{{"Ctrl+1"}}},
@@ -68,94 +70,9 @@ constexpr std::array rows{
         QT_TRANSLATE_NOOP("ShortcutList", "Find"),
         {{{"Ctrl+F", QKeySequence::Find}}},
         QT_TRANSLATE_NOOP("ShortcutList", "Find text.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, In operator"),
-        {{{"I"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator 'in'.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Equal"),
-        {{{"D"}, {"="}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator =.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Uneuqal"),
-        {{{"^"}, {"~"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator ^= or ~=.")},  // sic
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Greater"),
-        {{{">"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator >.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Less"),
-        {{{"<"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator <.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Greater or Equal"),
-        {{{"Alt+>"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator >=.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Less or Equal"),
-        {{{"Alt+<"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator <=.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Undo"),
-        {{{"Z"}, {"Ctrl+Z", QKeySequence::Undo}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Undo one step of dataset filter.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Clear Dataset Filter"),
-        {{{"C"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Clear dataset level filter.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Library Filter"),
-        {{{"L"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator =. It is library level.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Clear Library Filter"),
-        {{{"Alt+C"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Clear library level filter.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Frequency"),
-        {{{"F"}}},
-        QT_TRANSLATE_NOOP("ShortcutList",
-                          "Get the frequency of the selected variable(s). Select multiple "
-                          "variables by holding down the Ctrl key.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Freq (UniqueID)"),
-        {{{"N"}}},
-        QT_TRANSLATE_NOOP("ShortcutList",
-                          "Count distinct UniqueID of the selected variable(s). Select multiple "
-                          "variables by holding down the Ctrl key.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Hide Variable"),
-        {{{"H"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Hide the focused variable.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Hide All Variables"),
-        {{{"Alt+H"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Hide all the variables.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Unhide All Variables"),
-        {{{"U"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Unhide all hidden variables.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Shift Variable Left"),
-        {{{"Alt+Left"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Move the focused variable to the left.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Shift Variable Right"),
-        {{{"Alt+Right"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Move the focused variable to the right.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Add By Variable"),
-        {{{"B"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Append the focused variable to the BY list.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Go to Variable"),
-        {{{"G"}, {"V"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Jump to the focused variable in Variables Window.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Copy Selection"),
-        {{{"Ctrl+C", QKeySequence::Copy}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Copy selected cells.")},
+};
+
+constexpr std::array closingRows{
     Row{Context::DatasetWindow,
         QT_TRANSLATE_NOOP("ShortcutList", "Close Dataset"),
         {{{"W"}}},
@@ -164,62 +81,23 @@ constexpr std::array rows{
         QT_TRANSLATE_NOOP("ShortcutList", "Close All Datasets"),
         {{{"Ctrl+Shift+W"}}},
         QT_TRANSLATE_NOOP("ShortcutList", "Close all the opened datasets")},  // sic
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Increase the Font Size"),
-        {{{"Ctrl++"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Make the font bigger.")},
-    Row{Context::DatasetWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Decrease the Font Size"),
-        {{{"Ctrl+-"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Make the font smaller.")},
-    Row{Context::FrequencyWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, In operator"),
-        {{{"I"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator 'in'.")},
-    Row{Context::FrequencyWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Equal"),
-        {{{"D"}, {"="}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator =.")},
-    Row{Context::FrequencyWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Uneuqal"),
-        {{{"^"}, {"~"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator ^= or ~=.")},  // sic
-    Row{Context::FrequencyWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Greater"),
-        {{{">"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator >.")},
-    Row{Context::FrequencyWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Less"),
-        {{{"<"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator <.")},
-    Row{Context::FrequencyWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Greater or Equal"),
-        {{{"Alt+>"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator >=.")},
-    Row{Context::FrequencyWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Less or Equal"),
-        {{{"Alt+<"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator <=.")},
-    Row{Context::FrequencyWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Clear Dataset Filter"),
-        {{{"C"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Clear dataset level filter.")},
-    Row{Context::FrequencyWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Library Filter"),
-        {{{"L"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator =. It is library level.")},
-    Row{Context::FrequencyWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Clear Library Filter"),
-        {{{"Alt+C"}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Clear library level filter.")},
-    Row{Context::FrequencyWindow,
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Undo"),
-        {{{"Z"}, {"Ctrl+Z", QKeySequence::Undo}}},
-        QT_TRANSLATE_NOOP("ShortcutList", "Undo one step of dataset filter.")},
+};
+
+constexpr std::array variablesRows{
     Row{Context::VariablesWindow,
         QT_TRANSLATE_NOOP("ShortcutList", "Go to Variable"),
         {{{"G"}}},
         QT_TRANSLATE_NOOP("ShortcutList", "Jump to the focused variable in Dataset Window.")},
+};
+
+/// What the frequency window does by the grid's keys.
+constexpr std::array frequencyCommands{
+    GridCommand::FilterIn,          GridCommand::FilterAgain,
+    GridCommand::FilterNotEqual,    GridCommand::FilterGreater,
+    GridCommand::FilterLess,        GridCommand::FilterGreaterOrEqual,
+    GridCommand::FilterLessOrEqual, GridCommand::ClearDatasetFilter,
+    GridCommand::LibraryFilter,     GridCommand::ClearLibraryFilter,
+    GridCommand::UndoDatasetFilter,
 };
 
 QString translated(const char* text)
@@ -236,15 +114,39 @@ QString keyText(const Key& key)
     return sequence.toString(QKeySequence::NativeText);
 }
 
-QString keyTexts(const Row& row)
+Shortcut shortcutOf(const Row& row)
 {
-    QStringList texts;
+    QStringList keys;
     for (const Key& key : row.keys) {
         if (key.portable != nullptr) {
-            texts << keyText(key);
+            keys << keyText(key);
         }
     }
-    return texts.join(QStringLiteral("; "));
+    return {row.context, translated(row.action), keys.join(QStringLiteral("; ")),
+            translated(row.description)};
+}
+
+Shortcut shortcutOf(Context context, const gridcommands::Entry& entry)
+{
+    return {context, entry.listedAction(), entry.listedKeys(), entry.listedDescription()};
+}
+
+/// The letters' size comes last, behind what closes the window.
+void addDatasetWindow(QList<Shortcut>& shortcuts)
+{
+    const auto add = [&](bool fontSize) {
+        for (const gridcommands::Entry& entry : gridcommands::table()) {
+            const bool isFontSize = entry.command >= GridCommand::LargerFont;
+            if (entry.action != nullptr && isFontSize == fontSize) {
+                shortcuts << shortcutOf(Context::DatasetWindow, entry);
+            }
+        }
+    };
+    add(false);
+    for (const Row& row : closingRows) {
+        shortcuts << shortcutOf(row);
+    }
+    add(true);
 }
 
 }  // namespace
@@ -267,9 +169,15 @@ QString contextName(ShortcutContext context)
 QList<Shortcut> all()
 {
     QList<Shortcut> shortcuts;
-    for (const Row& row : rows) {
-        shortcuts << Shortcut{row.context, translated(row.action), keyTexts(row),
-                              translated(row.description)};
+    for (const Row& row : globalRows) {
+        shortcuts << shortcutOf(row);
+    }
+    addDatasetWindow(shortcuts);
+    for (const GridCommand command : frequencyCommands) {
+        shortcuts << shortcutOf(Context::FrequencyWindow, gridcommands::entryOf(command));
+    }
+    for (const Row& row : variablesRows) {
+        shortcuts << shortcutOf(row);
     }
     return shortcuts;
 }

@@ -117,7 +117,7 @@ bool DatasetOpener::load(const DatasetOrigin& origin)
         Result<OpenedDataset> loaded = m_surroundings.load(origin.filePath, OpenOptions());
         if (loaded) {
             show(std::make_unique<DatasetWindow>(std::move(loaded.value().dataset), origin,
-                                                 m_surroundings.gridHost));
+                                                 m_surroundings.datasets));
             emit signalRead(origin.filePath);
             return true;
         }

@@ -13,11 +13,11 @@
 #include <memory>
 
 class DatasetWindow;
-class GridHost;
 class QMdiArea;
 class Settings;
 class UserPrompts;
 struct DatasetOrigin;
+struct OpenDatasets;
 
 /// Reads a file, or says why it cannot; openDataset, or what stands in for it in a test.
 using DatasetLoader = std::function<Result<OpenedDataset>(const QString&, const OpenOptions&)>;
@@ -32,7 +32,7 @@ public:
     struct Surroundings
     {
         QMdiArea& area;
-        GridHost& gridHost;
+        OpenDatasets& datasets;
         UserPrompts& prompts;
         Settings& settings;
         DatasetLoader load;

@@ -5,6 +5,7 @@
 #include "data/StatDataset.h"
 #include "grid/MainTableModel.h"
 #include "grid/MainTableView.h"
+#include "grid/opened/OpenDataset.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -32,14 +33,15 @@ QString shortened(const QString& name)
 }  // namespace
 
 DatasetWindow::DatasetWindow(std::unique_ptr<StatDataset> dataset, const DatasetOrigin& origin,
-                             GridHost& gridHost)
+                             OpenDatasets& shared)
     : m_dataset(std::move(dataset))
+    , m_opened(std::make_unique<OpenDataset>(*m_dataset, &shared))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setProperty("filePath", origin.filePath);
     setProperty("fileKey", origin.fileKey);
     setProperty("fileTimestamp", origin.fileTimestamp);
-    createGrid(gridHost);
+    createGrid();
     const QString member = memberOf(origin);
     const QString fileName = origin.filePath.section(u'/', -1);
     m_datasetName = member.isEmpty() ? QFileInfo(fileName).completeBaseName() : member;
@@ -55,10 +57,10 @@ DatasetWindow::~DatasetWindow()
     delete m_view;
 }
 
-void DatasetWindow::createGrid(GridHost& host)
+void DatasetWindow::createGrid()
 {
-    m_view = new MainTableView(m_dataset.get(), &host, this);
-    m_view->setModel(new MainTableModel(m_dataset.get(), m_view));
+    m_view = new MainTableView(m_opened.get(), this);
+    m_view->setModel(new MainTableModel(m_opened.get(), m_view));
     m_view->fitColumns();
     m_view->setFrameShape(QFrame::NoFrame);
     setWidget(m_view);

@@ -6,10 +6,10 @@
 
 #include <memory>
 
-class GridHost;
-class MainTableModel;
 class MainTableView;
+class OpenDataset;
 class StatDataset;
+struct OpenDatasets;
 
 /// Where a dataset was read from.
 struct DatasetOrigin
@@ -19,16 +19,17 @@ struct DatasetOrigin
     QDateTime fileTimestamp;  ///< when the file was last changed, as it was opened
 };
 
-/// The sub-window of one open dataset. It owns the dataset, the grid that shows it and the grid's
-/// model. The origin is kept in the dynamic properties "filePath", "fileKey" and "fileTimestamp".
+/// The sub-window of one open dataset. It owns the dataset, what its user has made of it, and the
+/// grid that shows it. The origin is kept in the dynamic properties "filePath", "fileKey" and
+/// "fileTimestamp".
 class DatasetWindow : public QMdiSubWindow
 {
     Q_OBJECT
 
 public:
-    /// @param gridHost  passed on to the grid; outlives the window
+    /// @param shared  what this dataset shares with the others; outlives the window
     DatasetWindow(std::unique_ptr<StatDataset> dataset, const DatasetOrigin& origin,
-                  GridHost& gridHost);
+                  OpenDatasets& shared);
     ~DatasetWindow() override;
 
     [[nodiscard]] MainTableView* view() const { return m_view; }
@@ -46,11 +47,12 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void createGrid(GridHost& host);
+    void createGrid();
     void dropSystemMenuShortcuts();
     void addCloseKey();
 
     std::unique_ptr<StatDataset> m_dataset;
+    std::unique_ptr<OpenDataset> m_opened;
     QString m_datasetName;
     MainTableView* m_view = nullptr;  ///< owned by this window as its child
 };

@@ -1,33 +1,44 @@
 #include "app/window/GridServices.h"
 
 #include "app/dialogs/UserPrompts.h"
-#include "grid/filter/ParseError.h"
 #include "grid/MainTableView.h"
+#include "grid/WaitCursor.h"
 
 #include <spdlog/spdlog.h>
 
 #include <QStatusBar>
-
-#include <new>
 
 GridServices::GridServices(UserPrompts& prompts, QStatusBar& statusBar)
     : m_prompts(prompts)
     , m_statusBar(statusBar)
 { }
 
-void GridServices::reportCommandError(const QString& message, const QString& command)
+void GridServices::serve(MainTableView& grid)
 {
-    m_prompts.warn(tr("Command"), message, command);
+    connect(&grid, &MainTableView::signalCommandFailed, this, &GridServices::report);
+    connect(&grid, &MainTableView::signalInform, this,
+            [this](const QString& title, const QString& text) { m_prompts.inform(title, text); });
+    connect(&grid, &MainTableView::signalMessage, this, &GridServices::showMessage);
+    connect(&grid, &MainTableView::signalFontSizeChanged, this,
+            &GridServices::signalFontSizeChanged);
 }
 
-void GridServices::inform(const QString& title, const QString& text)
+bool GridServices::run(OpenDataset* opened, const QString& command)
 {
-    m_prompts.inform(title, text);
+    const auto outcome = [&] {
+        const WaitCursor waitCursor;
+        return opened == nullptr ? m_datasets.libraryFilter.run(command)
+                                 : opened->run(command, Dialect::Command);
+    }();
+    return report(outcome);
 }
 
-void GridServices::fontSizeChanged(int points)
+bool GridServices::report(const CommandOutcome& outcome)
 {
-    emit signalFontSizeChanged(points);
+    if (outcome) {
+        m_prompts.warn(tr("Command"), outcome->message, outcome->command);
+    }
+    return !outcome.has_value();
 }
 
 void GridServices::showMessage(const QString& text)
@@ -35,55 +46,4 @@ void GridServices::showMessage(const QString& text)
     constexpr int milliseconds = 4000;
     spdlog::info("{}", text.toStdString());
     m_statusBar.showMessage(text, milliseconds);
-}
-
-bool GridServices::runCommand(MainTableView& grid, const QString& command)
-{
-    return attempt(command, [&] { grid.cmdRunCommand(command); });
-}
-
-bool GridServices::runStatement(MainTableView& grid, const QString& statement)
-{
-    return attempt(statement, [&] { grid.runStatement(statement); });
-}
-
-bool GridServices::replaceDatasetFilter(MainTableView& grid, const QString& condition)
-{
-    return attempt(QStringLiteral("if ") + condition,
-                   [&] { grid.replaceDatasetFilter(condition); });
-}
-
-bool GridServices::runLibraryCommand(const QString& text)
-{
-    const QStringList words = text.simplified().toLower().split(u' ');
-    if (words.front() == u"clf"
-        || (words.size() == 3 && words[0] == u"clear" && words[1] == u"library")) {
-        m_libraryFilter.clear();
-        return true;
-    }
-    if (!m_libraryFilter.text().isEmpty()) {
-        reportCommandError(QStringLiteral("Library Filter supports one level only. "
-                                          "Please clear library filter first."),
-                           text);
-        return false;
-    }
-    const Result<bool> restored = m_libraryFilter.restore(text);
-    if (!restored) {
-        reportCommandError(QString::fromStdString(restored.error()), text);
-    }
-    return restored.ok();
-}
-
-template <typename Command>
-bool GridServices::attempt(const QString& text, Command command)
-{
-    try {
-        command();
-        return true;
-    } catch (const ParseError& error) {
-        reportCommandError(QString::fromUtf8(error.what()), text);
-    } catch (const std::bad_alloc&) {
-        reportCommandError(tr("There is not enough memory."), text);
-    }
-    return false;
 }

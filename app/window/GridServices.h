@@ -1,7 +1,7 @@
 #pragma once
 
-#include "grid/GridHost.h"
-#include "grid/LibraryFilter.h"
+#include "grid/opened/OpenDataset.h"
+#include "grid/opened/OpenDatasets.h"
 
 #include <QObject>
 #include <QString>
@@ -10,8 +10,9 @@ class MainTableView;
 class QStatusBar;
 class UserPrompts;
 
-/// What the main window does for its grids.
-class GridServices final : public QObject, public GridHost
+/// What the main window does for its datasets and grids: keeps what they share and tells the user
+/// what they tell.
+class GridServices final : public QObject
 {
     Q_OBJECT
 
@@ -19,37 +20,25 @@ public:
     /// Both outlive the services.
     GridServices(UserPrompts& prompts, QStatusBar& statusBar);
 
-    [[nodiscard]] LibraryFilter& libraryFilter() override { return m_libraryFilter; }
-    [[nodiscard]] QString uniqueVarName() const override { return m_uniqueVarName; }
-    void setUniqueVarName(const QString& name) { m_uniqueVarName = name; }
-    void reportCommandError(const QString& message, const QString& command) override;
-    void inform(const QString& title, const QString& text) override;
-    void fontSizeChanged(int points) override;
-    void showMessage(const QString& text) override;
+    [[nodiscard]] OpenDatasets& datasets() { return m_datasets; }
+    /// Listens to a grid from now on.
+    void serve(MainTableView& grid);
 
-    /// Runs a typed command on a grid and tells what goes wrong.
+    /// Runs a typed command on a dataset and tells what goes wrong.
+    /// @param opened  null for none, where only the library filter can be set or cleared
+    /// @return        whether nothing did
+    bool run(OpenDataset* opened, const QString& command);
+    /// Tells what went wrong, if anything did.
     /// @return  whether nothing did
-    bool runCommand(MainTableView& grid, const QString& command);
-    /// Runs a statement of a program on a grid and tells what goes wrong.
-    /// @return  whether nothing did
-    bool runStatement(MainTableView& grid, const QString& statement);
-    /// Sets or clears the library filter for what is opened later, and tells what goes wrong.
-    /// @param text  "where a = 1", "clf" or "clear library filter"
-    /// @return      whether nothing did
-    bool runLibraryCommand(const QString& text);
-    /// Puts a condition in the place of a grid's dataset filter, which stays when it is wrong.
-    /// @return  whether nothing went wrong
-    bool replaceDatasetFilter(MainTableView& grid, const QString& condition);
+    bool report(const CommandOutcome& outcome);
+    /// Tells something in passing.
+    void showMessage(const QString& text);
 
 signals:
     void signalFontSizeChanged(int points);
 
 private:
-    template <typename Command>
-    bool attempt(const QString& text, Command command);
-
     UserPrompts& m_prompts;
     QStatusBar& m_statusBar;
-    LibraryFilter m_libraryFilter;
-    QString m_uniqueVarName = QStringLiteral("USUBJID");
+    OpenDatasets m_datasets;
 };

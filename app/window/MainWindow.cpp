@@ -127,7 +127,8 @@ void MainWindow::createCentralArea()
 void MainWindow::createOpener(DatasetLoader load)
 {
     m_opener = new DatasetOpener(
-        DatasetOpener::Surroundings{m_area->mdiArea(), *m_gridServices, *m_prompts, *m_settings,
+        DatasetOpener::Surroundings{m_area->mdiArea(), m_gridServices->datasets(), *m_prompts,
+                                    *m_settings,
                                     load ? std::move(load) : DatasetLoader(&openDataset)},
         this);
     connect(m_opener, &DatasetOpener::signalOpened, this, &MainWindow::prepareWindow);
@@ -223,9 +224,10 @@ void MainWindow::openWorkspace(std::unique_ptr<WorkspaceStore> store)
         QTimer::singleShot(0, qApp, &QCoreApplication::quit);
         return;
     }
-    const QString usual = m_gridServices->uniqueVarName();
-    const QString name = m_store->loadOption(QStringLiteral("uniqueVarName"), usual).trimmed();
-    m_gridServices->setUniqueVarName(name.isEmpty() ? usual : name);
+    QString& uniqueVarName = m_gridServices->datasets().uniqueVarName;
+    const QString name =
+        m_store->loadOption(QStringLiteral("uniqueVarName"), uniqueVarName).trimmed();
+    uniqueVarName = name.isEmpty() ? uniqueVarName : name;
     m_arrangement->restore();
 }
 
@@ -251,6 +253,7 @@ void MainWindow::prepareWindow(DatasetWindow* window)
 {
     connect(window, &DatasetWindow::signalClosed, this, &MainWindow::subWindowClosed);
     m_area->showDatasets(true);
+    m_gridServices->serve(*window->view());
     window->view()->setHeaderMode(m_look->headerMode());
 }
 
@@ -306,7 +309,7 @@ void MainWindow::showWhatIsOpen()
     m_area->showDatasets(isAny);
     if (!isAny) {
         m_counters->showNothingOpen();
-        m_counters->setLibraryFilter(m_gridServices->libraryFilter().text(), QString());
+        m_counters->setLibraryFilter(m_gridServices->datasets().libraryFilter.text(), QString());
         m_docks->showTitlesOf(QString());
     }
 }
@@ -349,7 +352,7 @@ void MainWindow::setLabelStatusBarVar(const QString& text)
 void MainWindow::setLabelStatusBarBy()
 {
     if (m_activeView != nullptr) {
-        m_counters->setByVariables(m_activeView->byVariables());
+        m_counters->setByVariables(m_activeView->opened()->byVariables());
         m_boxes->showByVariables();
     }
 }
@@ -357,7 +360,7 @@ void MainWindow::setLabelStatusBarBy()
 void MainWindow::setLabelStatusBarLf(const QString& filter)
 {
     if (m_activeView != nullptr) {
-        m_counters->setLibraryFilter(filter, m_activeView->libraryFilterProblem());
+        m_counters->setLibraryFilter(filter, m_activeView->opened()->libraryFilterProblem());
         m_boxes->showLibraryFilter(filter);
     }
 }
@@ -478,10 +481,10 @@ void MainWindow::on_actionDocumentation_triggered()
 
 void MainWindow::on_actionOptions_triggered()
 {
-    const QString before = m_gridServices->uniqueVarName();
-    const QString name = m_prompts->editOptions(before);
-    if (name != before) {
-        m_gridServices->setUniqueVarName(name);
+    QString& uniqueVarName = m_gridServices->datasets().uniqueVarName;
+    const QString name = m_prompts->editOptions(uniqueVarName);
+    if (name != uniqueVarName) {
+        uniqueVarName = name;
         m_store->saveOption(QStringLiteral("uniqueVarName"), name);
     }
 }
@@ -492,7 +495,7 @@ void MainWindow::editDataFilter()
     if (m_activeView == nullptr) {
         return;
     }
-    QString text = CommandBoxes::conditionOf(m_activeView->datasetFilterText());
+    QString text = CommandBoxes::conditionOf(m_activeView->opened()->datasetFilterText());
     bool isApplied = false;
     while (!isApplied) {
         const std::optional<QString> edited = m_prompts->editDataFilter(text);
@@ -508,7 +511,7 @@ void MainWindow::editDataFilter()
 void MainWindow::submitProgram()
 {
     if (m_activeView != nullptr) {
-        programrunner::run(m_program->toPlainText(), *m_activeView, *m_gridServices);
+        programrunner::run(m_program->toPlainText(), *m_activeView->opened(), *m_gridServices);
     }
 }
 

@@ -1,39 +1,44 @@
 #include "grid/filter/CommandParser.h"
 
-#include "grid/filter/ConditionParser.h"
-
-void CommandParser::run()
+Command CommandParser::parse(QStringView commandText, Dialect dialect)
 {
-    act();
-    if (!m_tokens.nextIs(TokenKind::End)) {
-        throw ParseError("unexpected trailing text");
-    }
+    CommandParser parser(commandText, dialect);
+    Command::Action action = parser.action();
+    return {std::move(action), !parser.m_tokens.nextIs(TokenKind::End)};
 }
 
-void CommandParser::act()
+Command::Action CommandParser::action()
 {
     const Token word = m_tokens.take(TokenKind::Identifier, "command must start with identifier");
     const auto is = [&](QStringView command) { return compareop::sameWord(word.text, command); };
     if (is(u"clear")) {
-        clear();
-    } else if (is(u"clf")) {
-        m_target.clearLibraryFilter();
-    } else if (is(u"cdf")) {
-        m_target.clearDatasetFilter();
-    } else if (is(u"keep") || is(u"drop")) {
-        keepOrDrop(is(u"keep"));
-    } else if (is(u"table") || is(u"tables") || is(u"tablen")) {
-        table(is(u"tablen"));
-    } else if (is(u"where")) {
-        m_target.applyLibraryFilter(ConditionParser::parse(m_tokens).text);
-    } else if (is(u"if")) {
-        m_target.addDatasetFilter(ConditionParser::parse(m_tokens).text);
-    } else {
-        throw ParseError("unknown command");
+        return clearedFilter();
     }
+    if (is(u"clf")) {
+        return Command::ClearLibraryFilter();
+    }
+    if (is(u"cdf")) {
+        return Command::ClearDatasetFilter();
+    }
+    if (is(u"keep")) {
+        return Command::KeepVariables{listedVariables()};
+    }
+    if (is(u"drop")) {
+        return Command::DropVariables{listedVariables()};
+    }
+    if (is(u"table") || is(u"tables") || is(u"tablen")) {
+        return Command::FrequencyTable{crossedVariables(), is(u"tablen")};
+    }
+    if (is(u"where")) {
+        return Command::SetLibraryFilter{ConditionParser::parse(m_tokens)};
+    }
+    if (is(u"if")) {
+        return Command::AddDatasetFilter{ConditionParser::parse(m_tokens)};
+    }
+    throw ParseError("unknown command");
 }
 
-void CommandParser::clear()
+Command::Action CommandParser::clearedFilter()
 {
     const bool isLibrary = m_tokens.nextIsWord(u"library");
     if (!isLibrary && !m_tokens.nextIsWord(u"dataset")) {
@@ -42,26 +47,21 @@ void CommandParser::clear()
     m_tokens.take();
     m_tokens.take(TokenKind::Identifier, "expect 'filter'");
     if (isLibrary) {
-        m_target.clearLibraryFilter();
-    } else {
-        m_target.clearDatasetFilter();
+        return Command::ClearLibraryFilter();
     }
+    return Command::ClearDatasetFilter();
 }
 
-void CommandParser::keepOrDrop(bool keep)
+QStringList CommandParser::listedVariables()
 {
     QStringList names;
     do {
         names << m_tokens.take(TokenKind::Identifier, "expect variable name").text.toString();
     } while (m_tokens.nextIs(TokenKind::Identifier));
-    if (keep) {
-        m_target.keepVariables(names);
-    } else {
-        m_target.dropVariables(names);
-    }
+    return names;
 }
 
-void CommandParser::table(bool frequencyN)
+QStringList CommandParser::crossedVariables()
 {
     QStringList names;
     names << m_tokens.take(TokenKind::Identifier, "table needs variable(s)").text.toString();
@@ -69,5 +69,5 @@ void CommandParser::table(bool frequencyN)
         m_tokens.take();
         names << m_tokens.take(TokenKind::Identifier, "expect variable").text.toString();
     }
-    m_target.frequencyTable(names, frequencyN);
+    return names;
 }

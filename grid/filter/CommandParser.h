@@ -1,31 +1,27 @@
 #pragma once
 
-#include "grid/filter/CommandTarget.h"
+#include "grid/filter/Command.h"
 #include "grid/filter/TokenStream.h"
 
-/// Reads a command line and carries it out on a target.
+/// Reads a command line.
 ///
 /// The commands, in any letter case: clear library|dataset filter, clf, cdf, keep, drop, table,
 /// tables, tablen, where, if.
 class CommandParser
 {
 public:
-    CommandParser(QStringView commandText, CommandTarget& target,
-                  Dialect dialect = Dialect::Command)
-        : m_tokens(commandText, dialect)
-        , m_target(target)
-    { }
-
-    /// Throws ParseError, as the constructor does. A command that cannot be read changes nothing;
-    /// text that follows a whole command is found only once that has acted.
-    void run();
+    /// Throws ParseError for a text that begins with no whole command.
+    [[nodiscard]] static Command parse(QStringView commandText, Dialect dialect);
 
 private:
-    void act();
-    void clear();
-    void keepOrDrop(bool keep);
-    void table(bool frequencyN);
+    CommandParser(QStringView commandText, Dialect dialect)
+        : m_tokens(commandText, dialect)
+    { }
+
+    Command::Action action();
+    Command::Action clearedFilter();
+    QStringList listedVariables();
+    QStringList crossedVariables();
 
     TokenStream m_tokens;
-    CommandTarget& m_target;
 };

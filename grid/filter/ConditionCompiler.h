@@ -1,6 +1,5 @@
 #pragma once
 
-#include "data/Result.h"
 #include "data/StatDataset.h"
 #include "grid/filter/Condition.h"
 #include "grid/filter/LiteralValue.h"
@@ -15,28 +14,29 @@ public:
         : m_dataset(dataset)
     { }
 
-    /// The test of a condition, for as long as the dataset lives. A failure names the unknown
-    /// variable or shows the impossible literal, or is "The variable types do not match."
-    [[nodiscard]] Result<RowTestPointer> compile(const Condition& condition) const;
+    /// The test of a condition, for as long as the dataset lives. Throws ParseError, which names
+    /// the unknown variable or shows the impossible literal, or is "The variable types do not
+    /// match."
+    [[nodiscard]] RowTestPointer compile(const Condition& condition) const;
 
 private:
-    [[nodiscard]] Result<RowTestPointer> compile(const CompareTerm& term) const;
-    [[nodiscard]] Result<RowTestPointer> compile(const IndexTerm& term) const;
-    [[nodiscard]] Result<RowTestPointer> compile(const InTerm& term) const;
-    [[nodiscard]] Result<RowTestPointer> compile(const NullTerm& term) const;
-    [[nodiscard]] Result<RowTestPointer> compile(const Junction& junction) const;
+    [[nodiscard]] RowTestPointer compile(const CompareTerm& term) const;
+    [[nodiscard]] RowTestPointer compile(const IndexTerm& term) const;
+    [[nodiscard]] RowTestPointer compile(const InTerm& term) const;
+    [[nodiscard]] RowTestPointer compile(const NullTerm& term) const;
+    [[nodiscard]] RowTestPointer compile(const Junction& junction) const;
 
-    [[nodiscard]] Result<int> variableNamed(const QString& name) const;
-    [[nodiscard]] Result<RowTestPointer> compareNumber(int variable, CompareOp op,
-                                                       const LiteralValue& value) const;
-    [[nodiscard]] Result<RowTestPointer> compareText(int variable, CompareOp op,
-                                                     const LiteralValue& value) const;
-    [[nodiscard]] Result<RowTestPointer> numberIsIn(int variable,
-                                                    const std::vector<LiteralValue>& values) const;
-    [[nodiscard]] Result<RowTestPointer> textIsIn(int variable,
-                                                  const std::vector<LiteralValue>& values) const;
+    [[nodiscard]] int variableNamed(const QString& name) const;
+    [[nodiscard]] RowTestPointer compareNumber(int variable, CompareOp op,
+                                               const LiteralValue& value) const;
+    [[nodiscard]] RowTestPointer compareText(int variable, CompareOp op,
+                                             const LiteralValue& value) const;
+    [[nodiscard]] RowTestPointer numberIsIn(int variable,
+                                            const std::vector<LiteralValue>& values) const;
+    [[nodiscard]] RowTestPointer textIsIn(int variable,
+                                          const std::vector<LiteralValue>& values) const;
     [[nodiscard]] RowTestPointer isMissing(int variable) const;
-    [[nodiscard]] Result<double> storedCount(int variable, const LiteralValue& value) const;
+    [[nodiscard]] double storedCount(int variable, const LiteralValue& value) const;
 
     const StatDataset& m_dataset;
 };

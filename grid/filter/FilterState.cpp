@@ -1,35 +1,11 @@
 #include "grid/filter/FilterState.h"
 
-#include "grid/filter/FilterCondition.h"
-#include "grid/filter/FilterStatement.h"
+#include "grid/filter/CompiledCondition.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The compiled condition of a filter text; nothing for an empty text.
-Result<std::optional<FilterCondition>> compiled(QStringView filterText, QStringView word,
-                                                const StatDataset& dataset)
-{
-    if (filterText.trimmed().isEmpty()) {
-        return std::optional<FilterCondition>();
-    }
-    const Result<QString> condition = filterstatement::condition(filterText, word);
-    if (!condition) {
-        return Failure{condition.error()};
-    }
-    Result<FilterCondition> filter = FilterCondition::compile(condition.value(), dataset);
-    if (!filter) {
-        return Failure{filter.error()};
-    }
-    return std::optional(std::move(filter.value()));
-}
-
-}  // namespace
 
 FilterState::FilterState(StatDataset& dataset)
     : m_dataset(dataset)
@@ -38,21 +14,18 @@ FilterState::FilterState(StatDataset& dataset)
     m_dataset.datasetFilterMask().set();
 }
 
-Result<std::size_t> FilterState::applyLibraryFilter(QStringView condition)
+/// The observations for which the condition holds.
+const BitVector& FilterState::match(const ParsedCondition& condition)
 {
-    if (hasLibraryFilter()) {
-        return Failure{"Library Filter supports one level only. "
-                       "Please clear library filter first."};
-    }
-    const Result<FilterCondition> filter = FilterCondition::compile(condition, m_dataset);
-    if (!filter) {
-        return Failure{filter.error()};
-    }
     BitVector& matched = m_dataset.matchedObservations();
-    filter.value().select(matched);
-    m_dataset.libraryFilterMask() = matched;
-    m_libraryCondition = filter.value().text();
-    return selectedCount();
+    CompiledCondition(condition, m_dataset).select(matched);
+    return matched;
+}
+
+void FilterState::setLibraryFilter(const ParsedCondition& condition)
+{
+    m_dataset.libraryFilterMask() = match(condition);
+    m_libraryCondition = condition.text;
 }
 
 void FilterState::clearLibraryFilter()
@@ -61,32 +34,19 @@ void FilterState::clearLibraryFilter()
     m_libraryCondition.clear();
 }
 
-Result<std::size_t> FilterState::addDatasetFilterStep(QStringView condition)
+void FilterState::addDatasetFilterStep(const ParsedCondition& condition)
 {
-    const Result<FilterCondition> filter = FilterCondition::compile(condition, m_dataset);
-    if (!filter) {
-        return Failure{filter.error()};
-    }
-    BitVector& matched = m_dataset.matchedObservations();
-    filter.value().select(matched);
-    BitVector narrowed = m_dataset.datasetFilterMask();
-    narrowed &= matched;
-    m_steps.push_back({filter.value().text(), filter.value().hasOuterOr(), {}, false});
+    BitVector narrowed = match(condition);
+    narrowed &= m_dataset.datasetFilterMask();
+    m_steps.push_back({condition.text, condition.hasOuterOr, {}, false});
     m_steps.back().maskBefore = std::exchange(m_dataset.datasetFilterMask(), std::move(narrowed));
-    return selectedCount();
 }
 
-Result<std::size_t> FilterState::replaceDatasetFilter(QStringView condition)
+void FilterState::replaceDatasetFilter(const ParsedCondition& condition)
 {
-    const Result<FilterCondition> filter = FilterCondition::compile(condition, m_dataset);
-    if (!filter) {
-        return Failure{filter.error()};
-    }
-    BitVector& matched = m_dataset.matchedObservations();
-    filter.value().select(matched);
-    m_steps.push_back({filter.value().text(), filter.value().hasOuterOr(),
-                       std::exchange(m_dataset.datasetFilterMask(), matched), true});
-    return selectedCount();
+    BitVector replacing = match(condition);
+    m_steps.push_back({condition.text, condition.hasOuterOr, {}, true});
+    m_steps.back().maskBefore = std::exchange(m_dataset.datasetFilterMask(), std::move(replacing));
 }
 
 bool FilterState::undoDatasetFilter()
@@ -105,39 +65,9 @@ void FilterState::clearDatasetFilter()
     m_steps.clear();
 }
 
-Result<std::size_t> FilterState::restore(QStringView libraryFilterText,
-                                         QStringView datasetFilterText)
-{
-    const auto library = compiled(libraryFilterText, u"where", m_dataset);
-    const auto dataset = compiled(datasetFilterText, u"if", m_dataset);
-    if (!library || !dataset) {
-        return Failure{library ? dataset.error() : library.error()};
-    }
-    BitVector libraryMask(m_dataset.libraryFilterMask());
-    BitVector datasetMask(libraryMask.set());
-    QString condition;
-    std::vector<Step> steps;
-    if (library.value()) {
-        library.value()->select(libraryMask);
-        condition = library.value()->text();
-        m_dataset.matchedObservations() = libraryMask;
-    }
-    if (dataset.value()) {
-        steps.push_back(
-            {dataset.value()->text(), dataset.value()->hasOuterOr(), datasetMask, false});
-        dataset.value()->select(datasetMask);
-        m_dataset.matchedObservations() = datasetMask;
-    }
-    m_dataset.libraryFilterMask().swap(libraryMask);
-    m_dataset.datasetFilterMask().swap(datasetMask);
-    m_libraryCondition.swap(condition);
-    m_steps.swap(steps);
-    return selectedCount();
-}
-
 QString FilterState::libraryFilterText() const
 {
-    return hasLibraryFilter() ? u"where "_s + m_libraryCondition : QString();
+    return m_libraryCondition.isEmpty() ? QString() : u"where "_s + m_libraryCondition;
 }
 
 QString FilterState::datasetFilterText() const

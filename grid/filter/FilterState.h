@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/Result.h"
 #include "data/StatDataset.h"
+#include "grid/filter/ConditionParser.h"
 
 #include <QString>
 
@@ -10,36 +10,30 @@
 /// The filters in force on one dataset: keeps its two filter masks and the texts that say what they
 /// select. The rows that the condition evaluated last matched stay in matchedObservations().
 ///
-/// What cannot be done is a failure with its reason and changes nothing. What can be gives the
-/// number of observations selected then.
+/// What takes a condition throws ParseError where the dataset cannot be filtered by it, and changes
+/// nothing then.
 class FilterState
 {
 public:
     /// Starts without filters: sets all bits of both masks. The dataset outlives the state.
     explicit FilterState(StatDataset& dataset);
 
-    /// Sets the library filter; refused while one is in force.
-    Result<std::size_t> applyLibraryFilter(QStringView condition);
+    /// Puts the condition in the place of the library filter.
+    void setLibraryFilter(const ParsedCondition& condition);
     void clearLibraryFilter();
 
     /// Narrows the dataset filter by one more condition.
-    Result<std::size_t> addDatasetFilterStep(QStringView condition);
+    void addDatasetFilterStep(const ParsedCondition& condition);
     /// Puts a condition in the place of all steps, as one more step: undone, they are back.
-    Result<std::size_t> replaceDatasetFilter(QStringView condition);
+    void replaceDatasetFilter(const ParsedCondition& condition);
     /// Returns to the mask and the text before the last step; false when there is none.
     bool undoDatasetFilter();
     void clearDatasetFilter();
-
-    /// Replaces all filters by those of two texts as libraryFilterText() and datasetFilterText()
-    /// gave them, empty for none. The dataset filter becomes a single step.
-    Result<std::size_t> restore(QStringView libraryFilterText, QStringView datasetFilterText);
 
     /// "where a = 1"; empty without a library filter.
     [[nodiscard]] QString libraryFilterText() const;
     /// "if a = 1 and b = 2": all steps, each in parentheses if it needs them; empty without any.
     [[nodiscard]] QString datasetFilterText() const;
-    [[nodiscard]] bool hasLibraryFilter() const { return !m_libraryCondition.isEmpty(); }
-    [[nodiscard]] bool hasDatasetFilter() const { return !m_steps.empty(); }
 
     /// The observations that both filters select.
     [[nodiscard]] BitVector combinedMask() const;
@@ -53,6 +47,8 @@ private:
         BitVector maskBefore;
         bool replacesOthers;  ///< those before it do not show in the text
     };
+
+    const BitVector& match(const ParsedCondition& condition);
 
     StatDataset& m_dataset;
     QString m_libraryCondition;

@@ -7,4 +7,10 @@ class ParseError : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
+
+    /// Something follows what was asked for.
+    [[nodiscard]] static ParseError trailingText()
+    {
+        return ParseError("unexpected trailing text");
+    }
 };

@@ -132,7 +132,7 @@ void TestGridsInWindow::boxRunsCommandsOnTheActiveGrid()
     QCOMPARE(box().currentText(), "if AGE > 30 and SEX = 'F'");
     QCOMPARE(view().shownRowCount(), 1);
     submit("keep AGE");
-    QCOMPARE(view().hiddenVariables(), std::vector<int>({0}));
+    QCOMPARE(view().opened()->variables().hidden(), std::vector<int>({0}));
     QCOMPARE(box().currentText(), "if AGE > 30 and SEX = 'F'");
 
     activate(0);

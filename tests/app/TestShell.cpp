@@ -368,12 +368,12 @@ void TestShell::byVariablesBoxSetsTheList()
 {
     open("dm");
     submit("comboBoxBy", "by age SEX;");
-    QCOMPARE(view().byVariables(), (std::vector<std::string>{"AGE", "SEX"}));
+    QCOMPARE(view().opened()->byVariables(), (std::vector<std::string>{"AGE", "SEX"}));
     QCOMPARE(boxText("comboBoxBy"), "AGE SEX");
     QCOMPARE(label("labelStatusBarBy"), "By: AGE SEX");
 
     submit("comboBoxBy", "AGE NOSUCH");
-    QCOMPARE(view().byVariables(), (std::vector<std::string>{"AGE", "SEX"}));
+    QCOMPARE(view().opened()->byVariables(), (std::vector<std::string>{"AGE", "SEX"}));
     QCOMPARE(m_script.notes, QStringList({"warn|Command|unknown command|AGE NOSUCH"}));
     m_script.notes.clear();
 }
@@ -390,7 +390,7 @@ void TestShell::emptyLinesClearWhatTheBoxShows()
     submit("comboBoxLf", "");
     QCOMPARE(rows(), "Rows: 3/3");
     submit("comboBoxBy", "");
-    QVERIFY(view().byVariables().empty());
+    QVERIFY(view().opened()->byVariables().empty());
 }
 
 void TestShell::keyboardGoesToTheBoxAndBack()
@@ -429,7 +429,7 @@ void TestShell::dataFilterReplacesTheDatasetFilter()
 
     m_script.dataFilter = "SEX = \"M  \"";
     trigger("actionEditDataFilter");
-    QCOMPARE(view().datasetFilterText(), "if SEX = \"M  \"");
+    QCOMPARE(view().opened()->datasetFilterText(), "if SEX = \"M  \"");
     m_script.dataFilter = "";
     trigger("actionEditDataFilter");
     QCOMPARE(rows(), "Rows: 3/3");
@@ -457,7 +457,7 @@ void TestShell::wrongDataFilterLeavesTheOldOne()
              QStringList({"data filter|age > 35",
                           "warn|Command|The variable types do not match.|if age > \"x\"",
                           "data filter|age > \"x\""}));  // and is offered to be mended
-    QCOMPARE(view().datasetFilterText(), "if age > 35");
+    QCOMPARE(view().opened()->datasetFilterText(), "if age > 35");
     QCOMPARE(rows(), "Rows: 2/3");
     m_script.notes.clear();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "grid/filter/FilterCondition.h"
+#include "grid/filter/CompiledCondition.h"
+#include "grid/filter/ParseError.h"
 #include "tests/support/ScriptedDataset.h"
 
 #include <gtest/gtest.h>
@@ -26,14 +27,12 @@ public:
 /// The observations that a condition selects, counted from 1 as users see them.
 inline std::vector<int> selected(const StatDataset& dataset, std::string_view condition)
 {
-    const auto filter = FilterCondition::compile(
-        QString::fromUtf8(condition.data(), static_cast<qsizetype>(condition.size())), dataset);
-    if (!filter) {
-        ADD_FAILURE() << condition << ": " << filter.error();
-        return {};
-    }
     BitVector mask;
-    filter.value().select(mask);
+    try {
+        CompiledCondition(QString::fromStdString(std::string(condition)), dataset).select(mask);
+    } catch (const ParseError& error) {
+        ADD_FAILURE() << condition << ": " << error.what();
+    }
     EXPECT_EQ(mask.size(), static_cast<std::size_t>(dataset.observationCount()));
     std::vector<int> observations;
     for (auto bit = mask.find_first(); bit != BitVector::npos; bit = mask.find_next(bit)) {
@@ -45,7 +44,11 @@ inline std::vector<int> selected(const StatDataset& dataset, std::string_view co
 /// Why a condition cannot be compiled.
 inline std::string refusal(const StatDataset& dataset, std::string_view condition)
 {
-    const auto filter = FilterCondition::compile(
-        QString::fromUtf8(condition.data(), static_cast<qsizetype>(condition.size())), dataset);
-    return filter ? "none" : filter.error();
+    try {
+        static_cast<void>(
+            CompiledCondition(QString::fromStdString(std::string(condition)), dataset));
+    } catch (const ParseError& error) {
+        return error.what();
+    }
+    return "none";
 }

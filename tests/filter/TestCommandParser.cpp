@@ -8,30 +8,37 @@
 
 namespace {
 
-/// Notes down what a command asks for.
-class NotingTarget final : public CommandTarget
+/// What a command asks for, in one line.
+struct Notes
 {
-public:
-    void clearLibraryFilter() override { m_notes += "clear library;"; }
-    void clearDatasetFilter() override { m_notes += "clear dataset;"; }
-    void keepVariables(const QStringList& names) override { note("keep", names); }
-    void dropVariables(const QStringList& names) override { note("drop", names); }
-    void frequencyTable(const QStringList& names, bool frequencyN) override
+    std::string operator()(Command::ClearLibraryFilter) const { return "clear library;"; }
+    std::string operator()(Command::ClearDatasetFilter) const { return "clear dataset;"; }
+    std::string operator()(const Command::KeepVariables& keep) const
     {
-        note(frequencyN ? "tablen" : "table", names);
+        return note("keep", keep.names);
     }
-    void applyLibraryFilter(const QString& condition) override { note("where", {condition}); }
-    void addDatasetFilter(const QString& condition) override { note("if", {condition}); }
-
-    [[nodiscard]] const std::string& notes() const { return m_notes; }
+    std::string operator()(const Command::DropVariables& drop) const
+    {
+        return note("drop", drop.names);
+    }
+    std::string operator()(const Command::FrequencyTable& table) const
+    {
+        return note(table.frequencyN ? "tablen" : "table", table.names);
+    }
+    std::string operator()(const Command::SetLibraryFilter& filter) const
+    {
+        return note("where", {filter.condition.text});
+    }
+    std::string operator()(const Command::AddDatasetFilter& filter) const
+    {
+        return note("if", {filter.condition.text});
+    }
 
 private:
-    void note(const std::string& verb, const QStringList& details)
+    static std::string note(const std::string& verb, const QStringList& details)
     {
-        m_notes += verb + ' ' + details.join(u',').toStdString() + ';';
+        return verb + ' ' + details.join(u',').toStdString() + ';';
     }
-
-    std::string m_notes;
 };
 
 struct Case
@@ -47,19 +54,21 @@ std::ostream& operator<<(std::ostream& stream, const Case& row)
     return stream << row.name;
 }
 
-class Command : public testing::TestWithParam<Case>
+class Commands : public testing::TestWithParam<Case>
 { };
 
-TEST_P(Command, hasItsEffectAndError)
+TEST_P(Commands, hasItsEffectAndError)
 {
-    NotingTarget target;
+    std::string notes;
     std::string error;
     try {
-        CommandParser(GetParam().command, target).run();
+        const Command command = CommandParser::parse(GetParam().command, Dialect::Command);
+        notes = std::visit(Notes(), command.action);
+        error = command.hasTrailingText ? ParseError::trailingText().what() : "";
     } catch (const ParseError& thrown) {
         error = thrown.what();
     }
-    EXPECT_EQ(target.notes(), GetParam().effect);
+    EXPECT_EQ(notes, GetParam().effect);
     EXPECT_EQ(error, GetParam().error);
 }
 
@@ -119,9 +128,9 @@ std::string nameOf(const testing::TestParamInfo<Case>& info)
     return info.param.name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Effects, Command, testing::ValuesIn(effects), nameOf);
-INSTANTIATE_TEST_SUITE_P(EffectsBeforeErrors, Command, testing::ValuesIn(effectsBeforeErrors),
+INSTANTIATE_TEST_SUITE_P(Effects, Commands, testing::ValuesIn(effects), nameOf);
+INSTANTIATE_TEST_SUITE_P(EffectsBeforeErrors, Commands, testing::ValuesIn(effectsBeforeErrors),
                          nameOf);
-INSTANTIATE_TEST_SUITE_P(Errors, Command, testing::ValuesIn(errors), nameOf);
+INSTANTIATE_TEST_SUITE_P(Errors, Commands, testing::ValuesIn(errors), nameOf);
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "grid/GridShortcuts.h"
+#include "grid/GridCommands.h"
 #include "tests/support/GridFixture.h"
 
 #include <QClipboard>
@@ -52,7 +52,7 @@ void TestGridKeys::cleanup()
 {
     QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     const QString log = QString::fromStdString(m_grid->log.take());
-    const QStringList notes = m_grid->host.takeNotes();
+    const QStringList notes = m_grid->notes.take();
     m_grid.reset();
     QCOMPARE(log, QString());
     QCOMPARE(notes, QStringList());
@@ -104,8 +104,7 @@ void TestGridKeys::quickFilterByKey()
     m_grid->goTo(row, variable);
     press(static_cast<Qt::Key>(key), static_cast<Qt::KeyboardModifiers>(modifiers));
     QCOMPARE(m_grid->shown(), shown);
-    QCOMPARE(m_grid->view->datasetFilterText(), filter);
-    QCOMPARE(m_grid->view->lastCommand(), filter);
+    QCOMPARE(m_grid->view->opened()->datasetFilterText(), filter);
     QCOMPARE(filters.takeLast().at(0).toString(), filter);
     QCOMPARE(rows.takeLast().at(0).toString(),
              QStringLiteral("Rows: %1/6").arg(shown.count(' ') + 1));
@@ -118,16 +117,16 @@ void TestGridKeys::equalsKeyKeepsTheOperatorSetBefore()
     press(Qt::Key_C);
     m_grid->goTo(0, GridFixture::Age);
     press(Qt::Key_Equal);
-    QCOMPARE(m_grid->view->datasetFilterText(), "if AGE > 34");
+    QCOMPARE(m_grid->view->opened()->datasetFilterText(), "if AGE > 34");
     press(Qt::Key_C);
 
     m_grid->goTo(0, GridFixture::Age);
     press(Qt::Key_L);  // has an operator of its own
-    QCOMPARE(m_grid->view->libraryFilterText(), "where AGE = 34");
+    QCOMPARE(m_grid->view->opened()->libraryFilterText(), "where AGE = 34");
     press(Qt::Key_C, Qt::AltModifier);
     m_grid->goTo(0, GridFixture::Age);
     press(Qt::Key_D);
-    QCOMPARE(m_grid->view->datasetFilterText(), "if AGE > 34");
+    QCOMPARE(m_grid->view->opened()->datasetFilterText(), "if AGE > 34");
 }
 
 void TestGridKeys::inFilterTakesTheSelectedCellsOfTheCurrentColumn()
@@ -142,7 +141,7 @@ void TestGridKeys::inFilterTakesTheSelectedCellsOfTheCurrentColumn()
     select(5, GridFixture::Age);  // 51 again
     select(0, GridFixture::Sex);  // of another column
     press(Qt::Key_I);
-    QCOMPARE(m_grid->view->datasetFilterText(), "if AGE in (51, ., 47)");
+    QCOMPARE(m_grid->view->opened()->datasetFilterText(), "if AGE in (51, ., 47)");
     QCOMPARE(m_grid->shown(), "2 3 5 6");
 
     // Cells that a filter has hidden stay out of the next list.
@@ -155,7 +154,8 @@ void TestGridKeys::inFilterTakesTheSelectedCellsOfTheCurrentColumn()
     m_grid->view->selectionModel()->select(m_grid->view->model()->index(2, GridFixture::Site),
                                            QItemSelectionModel::Select);
     press(Qt::Key_I);
-    QCOMPARE(m_grid->view->datasetFilterText(), "if SEX = 'M' and SITE in (\"X-2\", \"X-1\")");
+    QCOMPARE(m_grid->view->opened()->datasetFilterText(),
+             "if SEX = 'M' and SITE in (\"X-2\", \"X-1\")");
 }
 
 void TestGridKeys::datasetFilterIsUndoneAndCleared()
@@ -167,14 +167,14 @@ void TestGridKeys::datasetFilterIsUndoneAndCleared()
     m_grid->goTo(5, GridFixture::Age);
     press(Qt::Key_D);
     QCOMPARE(m_grid->shown(), "6");
-    QCOMPARE(m_grid->view->datasetFilterText(), "if SEX = \"F\" and AGE = 51");
+    QCOMPARE(m_grid->view->opened()->datasetFilterText(), "if SEX = \"F\" and AGE = 51");
 
     press(Qt::Key_Z);
     QCOMPARE(m_grid->shown(), "1 3 6");
-    QCOMPARE(m_grid->view->datasetFilterText(), "if SEX = \"F\"");
+    QCOMPARE(m_grid->view->opened()->datasetFilterText(), "if SEX = \"F\"");
     QTest::keySequence(m_grid->view.get(), QKeySequence(QKeySequence::Undo));
     QCOMPARE(m_grid->shown(), "1 2 3 4 5 6");
-    QCOMPARE(m_grid->view->datasetFilterText(), "");
+    QCOMPARE(m_grid->view->opened()->datasetFilterText(), "");
     const auto published = rows.count();
     press(Qt::Key_Z);  // with nothing left to undo
     QCOMPARE(rows.count(), published);
@@ -195,11 +195,11 @@ void TestGridKeys::libraryFilterKeySetsOneLevelOnly()
     press(Qt::Key_L);
     QCOMPARE(m_grid->shown(), "2 4");
     QCOMPARE(filters.takeLast().at(0).toString(), "where SEX = \"M\"");
-    QCOMPARE(m_grid->view->datasetFilterText(), "");
+    QCOMPARE(m_grid->view->opened()->datasetFilterText(), "");
 
     m_grid->goTo(1, GridFixture::Age);
     press(Qt::Key_L);
-    QCOMPARE(m_grid->host.takeNotes(),
+    QCOMPARE(m_grid->notes.take(),
              QStringList("error|Library Filter supports one level only. "
                          "Please clear library filter first.|where AGE = 51"));
     QCOMPARE(m_grid->shown(), "2 4");
@@ -231,10 +231,10 @@ void TestGridKeys::columnKeys()
 
     press(Qt::Key_H);  // the last column: the one to its left becomes the current one
     QCOMPARE(m_grid->view->currentVariable(), int(GridFixture::Site));
-    QCOMPARE(m_grid->view->hiddenVariables(), std::vector<int>({1, 2}));
+    QCOMPARE(m_grid->view->opened()->variables().hidden(), std::vector<int>({1, 2}));
     press(Qt::Key_U);
     QCOMPARE(m_grid->columns(), "USUBJID SEX SITE AGE");
-    QCOMPARE(m_grid->view->variableOrder(), std::vector<int>({0, 1, 3, 2}));
+    QCOMPARE(m_grid->view->opened()->variables().order(), std::vector<int>({0, 1, 3, 2}));
     QCOMPARE(variables.takeLast().at(0).toString(), "Vars: 4/4");
     QCOMPARE(changes.count(), 3);
 
@@ -250,7 +250,7 @@ void TestGridKeys::columnKeys()
     QCOMPARE(m_grid->columns(), "");
     QCOMPARE(variables.takeLast().at(0).toString(), "Vars: 0/4");
     press(Qt::Key_D);  // by a cell that nobody sees
-    QCOMPARE(m_grid->view->datasetFilterText(), "");
+    QCOMPARE(m_grid->view->opened()->datasetFilterText(), "");
     press(Qt::Key_U);
     QCOMPARE(m_grid->columns(), "USUBJID SEX SITE AGE");
 }
@@ -286,7 +286,7 @@ void TestGridKeys::byKeyListsEachVariableOnce()
     m_grid->goTo(0, GridFixture::Usubjid);
     press(Qt::Key_B);
     press(Qt::Key_B);
-    QCOMPARE(m_grid->view->byVariables(), std::vector<std::string>({"SEX", "USUBJID"}));
+    QCOMPARE(m_grid->view->opened()->byVariables(), std::vector<std::string>({"SEX", "USUBJID"}));
     QCOMPARE(added.count(), 2);
     QCOMPARE(added.at(1).at(0).toString(), "USUBJID");
 }
@@ -316,7 +316,7 @@ void TestGridKeys::fontKeysStopBelowSix()
     for (int i = 0; i < 12; ++i) {
         press(Qt::Key_Plus, Qt::ControlModifier);
     }
-    QCOMPARE(m_grid->host.takeNotes().last(), "font|22");
+    QCOMPARE(m_grid->notes.take().last(), "font|22");
     QCOMPARE(m_grid->shown(), "1 4");
     m_grid->view->cmdRunCommand("cdf");
     QVERIFY(m_grid->view->rowHeight(0) > rowHeight);
@@ -326,7 +326,7 @@ void TestGridKeys::fontKeysStopBelowSix()
         press(Qt::Key_Minus, Qt::ControlModifier);
     }
     QCOMPARE(size(), 5);
-    const QStringList told = m_grid->host.takeNotes();
+    const QStringList told = m_grid->notes.take();
     QCOMPARE(told.last(), "font|5");
     QCOMPARE(told.count("font|5"), 1);
     QVERIFY(m_grid->view->columnWidth(GridFixture::Usubjid) < width);
@@ -342,7 +342,6 @@ void TestGridKeys::lettersThatAreNoCommandSearchNothing()
 void TestGridKeys::everyShortcutActsOnTheGridAlone()
 {
     const auto shortcuts = m_grid->view->findChildren<QShortcut*>();
-    QCOMPARE(shortcuts.size(), qsizetype(gridshortcuts::table().size()));
     for (const QShortcut* shortcut : shortcuts) {
         QCOMPARE(shortcut->parent(), m_grid->view.get());
         QCOMPARE(shortcut->context(), Qt::WidgetShortcut);
@@ -363,20 +362,17 @@ void TestGridKeys::everyShortcutActsOnTheGridAlone()
 
 void TestGridKeys::containsFilterHasNoKey()
 {
-    const auto table = gridshortcuts::table();
-    const auto entry = std::find_if(table.begin(), table.end(), [](const auto& candidate) {
-        return candidate.command == GridCommand::FilterContains;
-    });
-    QVERIFY(entry != table.end());
-    QCOMPARE(entry->keys, QList<QKeySequence>({QKeySequence()}));
+    const auto keys = gridcommands::entryOf(GridCommand::FilterContains).allKeys();
+    QCOMPARE(keys.size(), std::size_t{1});
+    QCOMPARE(keys.front().sequences(), QList<QKeySequence>({QKeySequence()}));
 
     m_grid->goTo(2, GridFixture::Site);
     m_grid->view->run(GridCommand::FilterContains);
-    QCOMPARE(m_grid->view->datasetFilterText(), "if index(SITE, \"Y-1\") > 0");
+    QCOMPARE(m_grid->view->opened()->datasetFilterText(), "if index(SITE, \"Y-1\") > 0");
     QCOMPARE(m_grid->shown(), "3");
     m_grid->goTo(2, GridFixture::Age);
     m_grid->view->run(GridCommand::FilterContains);
-    const QStringList notes = m_grid->host.takeNotes();
+    const QStringList notes = m_grid->notes.take();
     QCOMPARE(notes.size(), 1);
     QVERIFY2(notes.first().startsWith("error|"), qPrintable(notes.first()));
 }
@@ -391,7 +387,7 @@ void TestGridKeys::clickedHeaderIsTheVariableOfTheKeys()
     QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
                       QPoint(header->sectionPosition(1) + 8, 5));
     QCOMPARE(m_grid->view->currentVariable(), 1);
-    QCOMPARE(m_grid->view->sortKeys().size(), std::size_t{1});
+    QCOMPARE(m_grid->view->opened()->sortKeys().size(), std::size_t{1});
     const QString before = m_grid->columns();
     press(Qt::Key_H);
     QCOMPARE(m_grid->columns(), before.section(' ', 0, 0) + ' ' + before.section(' ', 2));
@@ -403,14 +399,14 @@ void TestGridKeys::keysDoNothingWithoutCells()
     empty.variable("A", TypeCode::Character).variable("B", TypeCode::Double);
     m_grid->view = m_grid->open(empty);
     QVERIFY(m_grid->activate());
-    for (const auto& entry : gridshortcuts::table()) {
+    for (const auto& entry : gridcommands::table()) {
         if (entry.command != GridCommand::Univariate) {
             m_grid->view->run(entry.command);
         }
     }
     QCOMPARE(m_grid->columns(), "A B");
-    QCOMPARE(m_grid->view->datasetFilterText(), "");
-    QCOMPARE(m_grid->host.takeNotes().filter(QRegularExpression("^(?!font)")), QStringList());
+    QCOMPARE(m_grid->view->opened()->datasetFilterText(), "");
+    QCOMPARE(m_grid->notes.take().filter(QRegularExpression("^(?!font)")), QStringList());
 
     m_grid->view->onHeaderClicked(1);  // which tells the variable where no cell can
     press(Qt::Key_H);
@@ -419,7 +415,7 @@ void TestGridKeys::keysDoNothingWithoutCells()
     m_grid->view.reset();
 
     MainTableView view(nullptr);
-    for (const auto& entry : gridshortcuts::table()) {
+    for (const auto& entry : gridcommands::table()) {
         view.run(entry.command);
     }
     view.cmdRunCommand("if A = 1");

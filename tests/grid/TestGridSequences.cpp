@@ -101,7 +101,8 @@ private:
     ScriptedDataset* m_dataset = nullptr;
     std::unique_ptr<ScriptedDataset> m_owned;
     std::unique_ptr<LogCapture> m_log;
-    ScriptedGridHost m_host;
+    OpenDatasets m_datasets;
+    std::unique_ptr<OpenDataset> m_opened;
     std::unique_ptr<MainTableView> m_view;
     std::unique_ptr<QAbstractItemModelTester> m_tester;
     Expectation m_expected;
@@ -115,7 +116,8 @@ void TestGridSequences::start(unsigned seed)
     m_view.reset();
     m_random.seed(seed);
     m_expected = {};
-    m_host.libraryFilter().clear();
+    m_datasets.libraryFilter.clear();
+    m_opened.reset();
     m_owned = std::make_unique<ScriptedDataset>();
     for (int variable = 0; variable < variableCount; ++variable) {
         m_owned->variable("V" + std::to_string(variable), TypeCode::Double);
@@ -129,8 +131,9 @@ void TestGridSequences::start(unsigned seed)
         return ScriptedDataset::Value(number);
     });
     m_dataset = m_owned.get();
-    m_view = std::make_unique<MainTableView>(m_dataset, &m_host);
-    m_view->setModel(new MainTableModel(m_dataset, m_view.get()));
+    m_opened = std::make_unique<OpenDataset>(*m_dataset, &m_datasets);
+    m_view = std::make_unique<MainTableView>(m_opened.get());
+    m_view->setModel(new MainTableModel(m_opened.get(), m_view.get()));
     m_tester = std::make_unique<QAbstractItemModelTester>(m_view->tableModel());
     connect(m_view.get(), &MainTableView::signalObsNo, this,
             [this](const QString& text) { m_rowCounter = text; });
@@ -289,8 +292,8 @@ void TestGridSequences::checkRows(int observationBefore, int rowBefore)
 
 void TestGridSequences::checkColumns()
 {
-    QCOMPARE(m_view->variableOrder(), m_expected.columns);
-    QCOMPARE(m_view->hiddenVariables(),
+    QCOMPARE(m_view->opened()->variables().order(), m_expected.columns);
+    QCOMPARE(m_view->opened()->variables().hidden(),
              std::vector<int>(m_expected.hidden.begin(), m_expected.hidden.end()));
     for (int variable = 0; variable < variableCount; ++variable) {
         const bool hidden = m_expected.hidden.contains(variable);
@@ -310,8 +313,8 @@ void TestGridSequences::checkCounters()
              QStringLiteral("Vars: %1/%2")
                  .arg(variableCount - int(m_expected.hidden.size()))
                  .arg(variableCount));
-    QCOMPARE(m_view->libraryFilterText().isEmpty(), !m_expected.library);
-    QCOMPARE(m_view->datasetFilterText().isEmpty(), m_expected.steps.empty());
+    QCOMPARE(m_view->opened()->libraryFilterText().isEmpty(), !m_expected.library);
+    QCOMPARE(m_view->opened()->datasetFilterText().isEmpty(), m_expected.steps.empty());
 }
 
 void TestGridSequences::showsWhatItOughtToAfterEveryStep_data()

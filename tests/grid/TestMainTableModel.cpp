@@ -1,4 +1,5 @@
 #include "grid/MainTableModel.h"
+#include "grid/opened/OpenDataset.h"
 #include "tests/support/ScriptedDataset.h"
 
 #include <QAbstractItemModelTester>
@@ -61,7 +62,8 @@ void TestMainTableModel::init()
 
 void TestMainTableModel::showsCellsAlignedByType()
 {
-    MainTableModel model(m_dataset.get());
+    OpenDataset opened(*m_dataset);
+    MainTableModel model(&opened);
     const QAbstractItemModelTester tester(&model);
 
     QCOMPARE(model.rowCount(), 3);
@@ -81,7 +83,8 @@ void TestMainTableModel::showsCellsAlignedByType()
 
 void TestMainTableModel::headersShowNamesOrLabelsAndHintAtTheOther()
 {
-    MainTableModel model(m_dataset.get());
+    OpenDataset opened(*m_dataset);
+    MainTableModel model(&opened);
     const QAbstractItemModelTester tester(&model);
     QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     const QStringList names{"NAME", "AGE", "VISIT"};
@@ -99,7 +102,8 @@ void TestMainTableModel::headersShowNamesOrLabelsAndHintAtTheOther()
 
 void TestMainTableModel::sameHeaderModeResetsNothing()
 {
-    MainTableModel model(m_dataset.get());
+    OpenDataset opened(*m_dataset);
+    MainTableModel model(&opened);
     const QAbstractItemModelTester tester(&model);
     QSignalSpy resets(&model, &QAbstractItemModel::modelAboutToBeReset);
 
@@ -109,7 +113,8 @@ void TestMainTableModel::sameHeaderModeResetsNothing()
 
 void TestMainTableModel::sortingCarriesObservationNumbersAlong()
 {
-    MainTableModel model(m_dataset.get());
+    OpenDataset opened(*m_dataset);
+    MainTableModel model(&opened);
     const QAbstractItemModelTester tester(&model);
     QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     QSignalSpy layouts(&model, &QAbstractItemModel::layoutChanged);
@@ -129,7 +134,8 @@ void TestMainTableModel::sortingCarriesObservationNumbersAlong()
 
 void TestMainTableModel::resetsOnlyWhenTheOrderChanges()
 {
-    MainTableModel model(m_dataset.get());
+    OpenDataset opened(*m_dataset);
+    MainTableModel model(&opened);
     const QAbstractItemModelTester tester(&model);
     QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
 
@@ -148,7 +154,8 @@ void TestMainTableModel::hasHeadersWithoutRows()
 {
     ScriptedDataset dataset;
     dataset.variable("A", TypeCode::Double).variable("B", TypeCode::Character);
-    MainTableModel model(&dataset);
+    OpenDataset opened(dataset);
+    MainTableModel model(&opened);
     const QAbstractItemModelTester tester(&model);
 
     model.sortRows({{0, down}});

@@ -37,6 +37,7 @@ private:
 
     std::unique_ptr<ScriptedDataset> m_dataset;
     std::unique_ptr<LogCapture> m_log;
+    std::unique_ptr<OpenDataset> m_opened;
     std::unique_ptr<MainTableView> m_view;
     std::unique_ptr<QAbstractItemModelTester> m_tester;
 };
@@ -47,8 +48,9 @@ void TestMainTableView::init()
     m_dataset = std::make_unique<ScriptedDataset>();
     m_dataset->variable("ID", TypeCode::Character).variable("AGE", TypeCode::Double);
     m_dataset->row({"c", 40.0}).row({"a", 60.0}).row({"d", 50.0}).row({"b", 70.0});
-    m_view = std::make_unique<MainTableView>(m_dataset.get(), nullptr);
-    auto* model = new MainTableModel(m_dataset.get(), m_view.get());
+    m_opened = std::make_unique<OpenDataset>(*m_dataset);
+    m_view = std::make_unique<MainTableView>(m_opened.get());
+    auto* model = new MainTableModel(m_opened.get(), m_view.get());
     m_tester = std::make_unique<QAbstractItemModelTester>(model);
     m_view->setModel(model);
 }
@@ -57,6 +59,7 @@ void TestMainTableView::cleanup()
 {
     m_tester.reset();
     m_view.reset();
+    m_opened.reset();
     m_dataset.reset();
     const std::string unannounced = m_log->take();
     m_log.reset();
@@ -91,7 +94,7 @@ void TestMainTableView::checkRowsMatchMasks() const
 
 void TestMainTableView::countersReadNaWithoutDataset()
 {
-    MainTableView view(nullptr, nullptr);
+    MainTableView view(nullptr);
     QSignalSpy rows(&view, &MainTableView::signalObsNo);
     QSignalSpy variables(&view, &MainTableView::signalVarNo);
 
@@ -145,7 +148,7 @@ void TestMainTableView::clickSortsByThatColumnAloneAndThenReverses()
     QCOMPARE(click(1), SortKeys({{1, Qt::AscendingOrder}}));
     QCOMPARE(m_view->horizontalHeader()->sortIndicatorSection(), 1);
     QCOMPARE(m_view->horizontalHeader()->sortIndicatorOrder(), Qt::AscendingOrder);
-    QCOMPARE(m_view->sortKeys(), SortKeys({{1, Qt::AscendingOrder}}));
+    QCOMPARE(m_view->opened()->sortKeys(), SortKeys({{1, Qt::AscendingOrder}}));
     QCOMPARE(rows.count(), 4);
 }
 
@@ -202,14 +205,14 @@ void TestMainTableView::cornerButtonSelectsAllInDatasetOrder()
     QCOMPARE(resets.count(), 1);
     QCOMPARE(shownObservations(), QStringList({"1", "3", "4"}));
     checkRowsMatchMasks();
-    QVERIFY(m_view->sortKeys().empty());
+    QVERIFY(m_view->opened()->sortKeys().empty());
     QCOMPARE(m_view->horizontalHeader()->sortIndicatorSection(), -1);
     QCOMPARE(m_view->selectionModel()->selection().size(), 1);
     QCOMPARE(m_view->selectionModel()->selection().at(0).height(), 4);
     QCOMPARE(m_view->selectionModel()->selection().at(0).width(), 2);
 
     m_view->onHeaderClicked(1);  // after which the column counts as new again
-    QCOMPARE(m_view->sortKeys(), SortKeys({{1, Qt::AscendingOrder}}));
+    QCOMPARE(m_view->opened()->sortKeys(), SortKeys({{1, Qt::AscendingOrder}}));
 }
 
 void TestMainTableView::worksWithoutCornerButton()
@@ -229,8 +232,9 @@ void TestMainTableView::filteringAtTheEndScrollsBackToWhatIsLeft()
     ScriptedDataset dataset;
     dataset.variable("N", TypeCode::Double);
     dataset.rows(20'000, [](int row, int) { return ScriptedDataset::Value(double(row)); });
-    MainTableView view(&dataset, nullptr);
-    view.setModel(new MainTableModel(&dataset, &view));
+    OpenDataset opened(dataset);
+    MainTableView view(&opened);
+    view.setModel(new MainTableModel(&opened, &view));
     view.resize(400, 300);
     view.show();
     view.scrollToBottom();
@@ -296,8 +300,9 @@ void TestMainTableView::columnsFitTheirContentsWithinReason()
     ScriptedDataset dataset;
     dataset.variable("A", TypeCode::Character).variable("B", TypeCode::Character);
     dataset.row({"x", std::string(500, 'W')});
-    MainTableView view(&dataset, nullptr);
-    view.setModel(new MainTableModel(&dataset, &view));
+    OpenDataset opened(dataset);
+    MainTableView view(&opened);
+    view.setModel(new MainTableModel(&opened, &view));
 
     view.fitColumns();
     QVERIFY(view.columnWidth(0) < 100);
@@ -311,8 +316,9 @@ void TestMainTableView::columnsFitWhatStandsFarBelow()
     ScriptedDataset dataset;
     dataset.variable("N", TypeCode::Double);
     dataset.rows(20000, [](int row, int) { return ScriptedDataset::Value(row * 10000.0); });
-    MainTableView view(&dataset, nullptr);
-    view.setModel(new MainTableModel(&dataset, &view));
+    OpenDataset opened(dataset);
+    MainTableView view(&opened);
+    view.setModel(new MainTableModel(&opened, &view));
 
     view.fitColumns();
     const QString widest = view.model()->index(19999, 0).data().toString();
@@ -323,8 +329,9 @@ void TestMainTableView::emptyDatasetShowsItsColumns()
 {
     ScriptedDataset dataset;
     dataset.variable("A", TypeCode::Character).variable("B", TypeCode::Double);
-    MainTableView view(&dataset, nullptr);
-    view.setModel(new MainTableModel(&dataset, &view));
+    OpenDataset opened(dataset);
+    MainTableView view(&opened);
+    view.setModel(new MainTableModel(&opened, &view));
     QSignalSpy rows(&view, &MainTableView::signalObsNo);
 
     view.onHeaderClicked(1);

@@ -2,9 +2,10 @@
 
 #include "grid/MainTableModel.h"
 #include "grid/MainTableView.h"
+#include "grid/opened/OpenDatasets.h"
+#include "tests/support/GridNotes.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/ScriptedDataset.h"
-#include "tests/support/ScriptedGridHost.h"
 
 #include <QHeaderView>
 #include <QTest>
@@ -48,10 +49,15 @@ public:
 
     std::unique_ptr<MainTableView> open(ScriptedDataset& shown)
     {
-        auto grid = std::make_unique<MainTableView>(&shown, &host);
-        grid->setModel(new MainTableModel(&shown, grid.get()));
+        auto* open = new OpenDataset(shown, &datasets);
+        auto grid = std::make_unique<MainTableView>(open);
+        open->setParent(grid.get());
+        grid->setModel(new MainTableModel(open, grid.get()));
+        notes.listenTo(*grid);
         return grid;
     }
+
+    [[nodiscard]] OpenDataset& opened() const { return *view->opened(); }
 
     /// Makes the view able to take keys.
     [[nodiscard]] bool activate() const
@@ -98,6 +104,7 @@ public:
 
     LogCapture log;
     ScriptedDataset dataset;
-    ScriptedGridHost host;
+    OpenDatasets datasets;
+    GridNotes notes;
     std::unique_ptr<MainTableView> view;
 };

@@ -1,4 +1,4 @@
-#include "grid/GridStatistics.h"
+#include "analysis/panels/StatisticsTable.h"
 
 #include <QHeaderView>
 
@@ -17,12 +17,12 @@ QTableWidget* createTable()
 
 }  // namespace
 
-GridStatistics::~GridStatistics()
+StatisticsTable::~StatisticsTable()
 {
     delete m_table;
 }
 
-void GridStatistics::fillTable(const statistics::Table& contents)
+void StatisticsTable::fillTable(const statistics::Table& contents)
 {
     if (m_table == nullptr) {
         m_table = createTable();
@@ -47,7 +47,7 @@ void GridStatistics::fillTable(const statistics::Table& contents)
     m_table->resizeColumnsToContents();
 }
 
-GridStatistics::Message GridStatistics::messageOf(statistics::Problem problem)
+StatisticsTable::Message StatisticsTable::messageOf(statistics::Problem problem)
 {
     switch (problem) {
     case statistics::Problem::NoColumnSelected:

@@ -6,10 +6,10 @@
 #include <QPointer>
 #include <QTableWidget>
 
-/// The table of statistics that a grid has made last, as a widget that can be put anywhere.
-class GridStatistics
+/// The table of the statistics that were made last, as a widget that can be put anywhere.
+class StatisticsTable
 {
-    Q_DECLARE_TR_FUNCTIONS(GridStatistics)
+    Q_DECLARE_TR_FUNCTIONS(StatisticsTable)
 
 public:
     /// A message for the user.
@@ -19,10 +19,10 @@ public:
         QString text;
     };
 
-    GridStatistics() = default;
-    ~GridStatistics();
-    GridStatistics(const GridStatistics&) = delete;
-    GridStatistics& operator=(const GridStatistics&) = delete;
+    StatisticsTable() = default;
+    ~StatisticsTable();
+    StatisticsTable(const StatisticsTable&) = delete;
+    StatisticsTable& operator=(const StatisticsTable&) = delete;
 
     void fillTable(const statistics::Table& contents);
     /// What the user is told when there are no statistics.
