@@ -65,15 +65,29 @@ constexpr Entry listed(const char* action, const char* description, Entry entry)
 template <CompareOp op>
 void filterBy(MainTableView& view)
 {
-    view.filterByCurrentCell(op);
+    view.cellFilters().setOp(op);
+    view.cmdWhere();
+}
+
+template <auto filter>
+void filterByCells(MainTableView& view)
+{
+    view.filter([&view] { return (view.cellFilters().*filter)(view); });
+}
+
+template <auto clear>
+void change(MainTableView& view)
+{
+    view.filter([&view] {
+        (view.opened()->*clear)();
+        return CommandOutcome();
+    });
 }
 
 constexpr std::array<Entry, commandCount> entries{
-    listed(
-        QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, In operator"),
-        QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator 'in'."),
-        entry(
-            FilterIn, [](MainTableView& view) { view.filterBySelectedCells(); }, key(Qt::Key_I))),
+    listed(QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, In operator"),
+           QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator 'in'."),
+           entry(FilterIn, filterByCells<&CellFilters::isIn>, key(Qt::Key_I))),
     listed(QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Equal"),
            QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator =."),
            entry(
@@ -99,8 +113,7 @@ constexpr std::array<Entry, commandCount> entries{
            QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator <=."),
            entry(FilterLessOrEqual, filterBy<CompareOp::LessOrEqual>,
                  key(Qt::Key_Less, Qt::AltModifier))),
-    entry(
-        FilterContains, [](MainTableView& view) { view.filterByContainedText(); }, noKey()),
+    entry(FilterContains, filterByCells<&CellFilters::contains>, noKey()),
     listed(QT_TRANSLATE_NOOP("ShortcutList", "Dataset Filter, Undo"),
            QT_TRANSLATE_NOOP("ShortcutList", "Undo one step of dataset filter."),
            inMenu(QT_TRANSLATE_NOOP("GridContextMenu", "Undo Dataset Filter\tZ"),
@@ -110,9 +123,8 @@ constexpr std::array<Entry, commandCount> entries{
     listed(QT_TRANSLATE_NOOP("ShortcutList", "Clear Dataset Filter"),
            QT_TRANSLATE_NOOP("ShortcutList", "Clear dataset level filter."),
            inMenu(QT_TRANSLATE_NOOP("GridContextMenu", "Clear Dataset Filter\tC"),
-                  entry(
-                      ClearDatasetFilter, [](MainTableView& view) { view.clearDatasetFilter(); },
-                      key(Qt::Key_C)))),
+                  entry(ClearDatasetFilter, change<&OpenDataset::clearDatasetFilter>,
+                        key(Qt::Key_C)))),
     listed(QT_TRANSLATE_NOOP("ShortcutList", "Library Filter"),
            QT_TRANSLATE_NOOP("ShortcutList", "Filter data with operator =. It is library level."),
            entry(
@@ -120,9 +132,8 @@ constexpr std::array<Entry, commandCount> entries{
     listed(QT_TRANSLATE_NOOP("ShortcutList", "Clear Library Filter"),
            QT_TRANSLATE_NOOP("ShortcutList", "Clear library level filter."),
            inMenu(QT_TRANSLATE_NOOP("GridContextMenu", "Clear Library Filter\tAlt+C"),
-                  entry(
-                      ClearLibraryFilter, [](MainTableView& view) { view.clearLibraryFilter(); },
-                      key(Qt::Key_C, Qt::AltModifier)))),
+                  entry(ClearLibraryFilter, change<&OpenDataset::clearLibraryFilter>,
+                        key(Qt::Key_C, Qt::AltModifier)))),
     listed(QT_TRANSLATE_NOOP("ShortcutList", "Frequency"),
            QT_TRANSLATE_NOOP("ShortcutList",
                              "Get the frequency of the selected variable(s). Select multiple "

@@ -1,5 +1,8 @@
 #include "grid/GridCopy.h"
 
+#include "grid/GridTable.h"
+#include "grid/opened/OpenDataset.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -48,6 +51,28 @@ QString line(const QStringList& texts)
         append(result, text);
     }
     return result;
+}
+
+QString ofSelection(const GridTable& grid, bool includeNames)
+{
+    const GridSelection selection = grid.selected();
+    const std::vector<int> rows = selection.rows();
+    const std::vector<int> variables = selection.variables();
+    const auto cellText = [&](int row, int variable) {
+        return selection.contains(row, variable)
+            ? grid.model()->index(row, variable).data().toString()
+            : QString();
+    };
+    const QString cells = text({rows, variables, cellText});
+    return includeNames ? namesOf(grid, variables) + u'\n' + cells : cells;
+}
+
+QString namesOf(const GridTable& grid, std::span<const int> variables)
+{
+    QStringList names;
+    std::transform(variables.begin(), variables.end(), std::back_inserter(names),
+                   [&](int variable) { return grid.opened()->nameOf(variable); });
+    return line(names);
 }
 
 }  // namespace gridcopy

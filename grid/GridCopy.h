@@ -5,6 +5,8 @@
 #include <functional>
 #include <span>
 
+class GridTable;
+
 /// What the grid puts on the clipboard.
 namespace gridcopy {
 
@@ -23,5 +25,10 @@ struct Cells
 
 /// The same texts in one line.
 [[nodiscard]] QString line(const QStringList& texts);
+
+/// The selected cells of a grid, below a line of their variables' names where they are wanted.
+[[nodiscard]] QString ofSelection(const GridTable& grid, bool includeNames);
+/// The names of these variables in one line.
+[[nodiscard]] QString namesOf(const GridTable& grid, std::span<const int> variables);
 
 }  // namespace gridcopy

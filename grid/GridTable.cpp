@@ -160,12 +160,15 @@ int GridTable::widthOfSpreadRows(int column, int rowCount) const
     return width + (showGrid() ? 1 : 0);
 }
 
-void GridTable::changeFontSize(int step)
+void GridTable::stepFontSize(int step)
 {
     constexpr int smallestToShrink = 6;
-    const int points = fontSize();
-    if (step > 0 || points >= smallestToShrink) {
-        setFontSize(points + step);
+    const int before = fontSize();
+    if (step > 0 || before >= smallestToShrink) {
+        setFontSize(before + step);
+    }
+    if (fontSize() != before) {
+        emit signalFontSizeChanged(fontSize());
     }
 }
 

@@ -42,8 +42,9 @@ public:
 
     /// Makes each column as wide as its contents, within reason. Measures a sample of the rows.
     void fitColumns();
-    /// Makes the letters that many points larger; below 6 points they get no smaller.
-    void changeFontSize(int step);
+    /// Makes the letters that many points larger, as the user wants them in all grids; below 6
+    /// points they get no smaller.
+    void stepFontSize(int step);
     void setFontSize(int points);
     [[nodiscard]] int fontSize() const;
     /// What the horizontal header shows, names or labels.
@@ -54,6 +55,10 @@ public:
 
     /// Finds nothing: the letters are commands, and looking through a million rows takes its time.
     void keyboardSearch(const QString& search) override;
+
+signals:
+    /// The user has given the letters another size, which all grids share.
+    void signalFontSizeChanged(int points);
 
 protected:
     /// Where the user is, in terms that a sort or filter does not change.

@@ -4,6 +4,7 @@
 #include "grid/filter/ParseError.h"
 #include "grid/GridContextMenu.h"
 #include "grid/GridCopy.h"
+#include "grid/GridCounters.h"
 #include "grid/MainTableModel.h"
 #include "grid/WaitCursor.h"
 
@@ -13,7 +14,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QScopeGuard>
 
 #include <algorithm>
 #include <new>
@@ -80,7 +80,7 @@ void MainTableView::showVariables()
 {
     columns().followBits();
     leaveHiddenColumn();
-    emit signalVarNo(variableCounter());
+    emit signalVarNo(gridcounters::variables(dataset()));
     emit signalVarHideUnhide();
 }
 
@@ -103,32 +103,14 @@ void MainTableView::updateAll()
 
 void MainTableView::publishCounters()
 {
-    emit signalObsNo(rowCounter());
-    emit signalVarNo(variableCounter());
+    emit signalObsNo(gridcounters::rows(dataset(), shownRowCount()));
+    emit signalVarNo(gridcounters::variables(dataset()));
 }
 
 void MainTableView::publishFilters()
 {
     emit signalLibraryFilter(opened() == nullptr ? QString() : opened()->libraryFilterText());
     emit signalFilter(opened() == nullptr ? QString() : opened()->datasetFilterText());
-}
-
-QString MainTableView::rowCounter() const
-{
-    if (dataset() == nullptr || dataset()->observationCount() < 0) {
-        return tr("Rows: NA/NA");
-    }
-    return tr("Rows: %1/%2").arg(shownRowCount()).arg(dataset()->observationCount());
-}
-
-QString MainTableView::variableCounter() const
-{
-    if (dataset() == nullptr || dataset()->variableCount() < 0) {
-        return tr("Vars: NA/NA");
-    }
-    return tr("Vars: %1/%2")
-        .arg(opened()->variables().shownCount())
-        .arg(dataset()->variableCount());
 }
 
 // Sorting
@@ -167,7 +149,7 @@ void MainTableView::cmdHideUnhideColumn(int column)
     if (isReady()) {
         columns().followBit(column);
         leaveHiddenColumn();
-        emit signalVarNo(variableCounter());
+        emit signalVarNo(gridcounters::variables(dataset()));
     }
 }
 
@@ -236,43 +218,36 @@ void MainTableView::cmdSelectCol()
 
 // Copies
 
-QStringList MainTableView::namesOf(const std::vector<int>& variables) const
-{
-    QStringList names;
-    std::transform(variables.begin(), variables.end(), std::back_inserter(names),
-                   [this](int variable) { return opened()->nameOf(variable); });
-    return names;
-}
-
 void MainTableView::cmdCopy(bool includeNames)
 {
-    if (!isReady() || !selectionModel()->hasSelection()) {
-        return;
+    if (isReady() && selectionModel()->hasSelection()) {
+        const WaitCursor waitCursor;
+        QGuiApplication::clipboard()->setText(gridcopy::ofSelection(*this, includeNames));
     }
-    const WaitCursor waitCursor;
-    const GridSelection selection = selected();
-    const std::vector<int> rowsToCopy = selection.rows();
-    const std::vector<int> variables = selection.variables();
-    const auto cellText = [&](int row, int variable) {
-        return selection.contains(row, variable) ? model()->index(row, variable).data().toString()
-                                                 : QString();
-    };
-    QString text = gridcopy::text({rowsToCopy, variables, cellText});
-    if (includeNames) {
-        text.prepend(gridcopy::line(namesOf(variables)) + u'\n');
-    }
-    QGuiApplication::clipboard()->setText(text);
 }
 
 void MainTableView::copyColHeader()
 {
-    const QStringList names = namesOf(selectedOrCurrentVariables());
-    if (!names.isEmpty()) {
-        QGuiApplication::clipboard()->setText(gridcopy::line(names));
+    const std::vector<int> variables = selectedOrCurrentVariables();
+    if (!variables.empty()) {
+        QGuiApplication::clipboard()->setText(gridcopy::namesOf(*this, variables));
     }
 }
 
 // Filters
+
+/// Shows the wait cursor while the rows are selected, and not while the user reads what failed.
+void MainTableView::filter(const std::function<CommandOutcome()>& apply)
+{
+    if (!isReady()) {
+        return;
+    }
+    const auto outcome = [&] {
+        const WaitCursor waitCursor;
+        return apply();
+    }();
+    report(outcome);
+}
 
 void MainTableView::report(const CommandOutcome& outcome)
 {
@@ -281,86 +256,22 @@ void MainTableView::report(const CommandOutcome& outcome)
     }
 }
 
-/// The observation of the current cell, -1 when there is none or its column is hidden.
-int MainTableView::currentObservation() const
-{
-    const QModelIndex current = currentIndex();
-    return current.isValid() && isCurrentVariableShown()
-        ? tableModel()->observationAt(current.row())
-        : -1;
-}
-
 void MainTableView::cmdWhere()
 {
-    const int observation = currentObservation();
-    if (observation >= 0) {
-        const WaitCursor waitCursor;
-        report(opened()->filterByCell(currentVariable(), m_quickFilterOp, observation,
-                                      m_quickFilterMode));
-    }
-}
-
-void MainTableView::filterByCurrentCell(CompareOp op)
-{
-    m_quickFilterOp = op;
-    cmdWhere();
+    filter([this] { return m_cellFilters.compare(*this); });
 }
 
 void MainTableView::cmdApplyLf()
 {
-    const auto restore = qScopeGuard([this, op = m_quickFilterOp, mode = m_quickFilterMode] {
-        m_quickFilterOp = op;
-        m_quickFilterMode = mode;
-    });
-    m_quickFilterMode = OpenDataset::FilterKind::Library;
-    filterByCurrentCell(CompareOp::Equal);
-}
-
-void MainTableView::filterBySelectedCells()
-{
-    const int observation = currentObservation();
-    if (observation < 0) {
-        return;
-    }
-    const WaitCursor waitCursor;
-    std::vector<int> observations;
-    for (const int row : selected().rowsOf(currentVariable())) {
-        observations.push_back(tableModel()->observationAt(row));
-    }
-    if (observations.empty()) {
-        observations.push_back(observation);
-    }
-    report(opened()->filterByCells(currentVariable(), observations, m_quickFilterMode));
-}
-
-void MainTableView::filterByContainedText()
-{
-    const int observation = currentObservation();
-    if (observation >= 0) {
-        const WaitCursor waitCursor;
-        report(opened()->filterByCell(currentVariable(), CompareOp::Contains, observation,
-                                      m_quickFilterMode));
-    }
-}
-
-void MainTableView::clearDatasetFilter()
-{
-    const WaitCursor waitCursor;
-    opened()->clearDatasetFilter();
-}
-
-void MainTableView::clearLibraryFilter()
-{
-    const WaitCursor waitCursor;
-    opened()->clearLibraryFilter();
+    filter([this] { return m_cellFilters.compareForLibrary(*this); });
 }
 
 void MainTableView::cmdDfUndo()
 {
-    if (isReady()) {
-        const WaitCursor waitCursor;
+    filter([this] {
         opened()->undo();
-    }
+        return CommandOutcome();
+    });
 }
 
 void MainTableView::cmdRunCommand(const QString& commandText)
@@ -459,15 +370,6 @@ void MainTableView::run(GridCommand command)
         return;
     }
     report(failureOf(QString(), [&] { gridcommands::entryOf(command).run(*this); }));
-}
-
-void MainTableView::stepFontSize(int step)
-{
-    const int before = fontSize();
-    changeFontSize(step);
-    if (fontSize() != before) {
-        emit signalFontSizeChanged(fontSize());
-    }
 }
 
 void MainTableView::showContextMenu(const QPoint& position)

@@ -2,13 +2,14 @@
 
 #include "analysis/Frequencies.h"
 #include "analysis/panels/StatisticsTable.h"
-#include "grid/filter/CompareOp.h"
+#include "grid/CellFilters.h"
 #include "grid/GridCommands.h"
 #include "grid/GridTable.h"
 #include "grid/opened/OpenDataset.h"
 
 #include <QString>
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -36,21 +37,15 @@ public:
     void publishCounters();
     void publishFilters();
 
-    // Commands; what goes wrong is told by signals
-
+    [[nodiscard]] CellFilters& cellFilters() { return m_cellFilters; }
+    /// Changes what filters select under the wait cursor; what goes wrong is told by a signal.
+    void filter(const std::function<CommandOutcome()>& apply);
     /// Runs a command as its key does.
     void run(GridCommand command);
-    /// Compares with the current cell, by this operator and from now on.
-    void filterByCurrentCell(CompareOp op);
-    void filterBySelectedCells();
-    void filterByContainedText();
-    void clearDatasetFilter();
-    void clearLibraryFilter();
     void addCurrentByVariable();
     /// Counts the values of the selected variables, or their distinct subjects, and has them shown.
     void showFrequencyOfSelected(bool frequencyN);
     void showStatistics();
-    void stepFontSize(int step);
 
 signals:
     void signalVarNo(QString label);
@@ -73,8 +68,6 @@ signals:
     void signalInform(QString title, QString text);
     /// Something told in passing.
     void signalMessage(QString text);
-    /// The user has given the letters another size, which all grids share.
-    void signalFontSizeChanged(int points);
 
 public slots:
     /// Hides or shows a column as the dataset's bit says, which someone else has changed.
@@ -121,15 +114,10 @@ private:
     void showFrequency(std::vector<int> variables, bool frequencyN);
     void report(const CommandOutcome& outcome);
     void shiftVariable(int step);
-    [[nodiscard]] QStringList namesOf(const std::vector<int>& variables) const;
-    [[nodiscard]] int currentObservation() const;
     [[nodiscard]] std::vector<int> selectedOrCurrentVariables() const;
-    [[nodiscard]] QString rowCounter() const;
-    [[nodiscard]] QString variableCounter() const;
 
     QString m_lastCommand;
-    OpenDataset::FilterKind m_quickFilterMode = OpenDataset::FilterKind::Dataset;
-    CompareOp m_quickFilterOp = CompareOp::Equal;
+    CellFilters m_cellFilters;
     std::vector<WordsAndCounts> m_frequencies;
     StatisticsTable m_statistics;
 };

@@ -17,6 +17,13 @@
     </message>
 </context>
 <context>
+    <name>CommandFailure</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Arbeitsspeicher reicht nicht aus.</translation>
+    </message>
+</context>
+<context>
     <name>DataFilterDialog</name>
     <message>
         <source>Data Filter</source>
@@ -257,10 +264,22 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
 </context>
 <context>
-    <name>CommandFailure</name>
+    <name>GridCounters</name>
     <message>
-        <source>There is not enough memory.</source>
-        <translation>Der Arbeitsspeicher reicht nicht aus.</translation>
+        <source>Rows: NA/NA</source>
+        <translation>Zeilen: NA/NA</translation>
+    </message>
+    <message>
+        <source>Rows: %1/%2</source>
+        <translation>Zeilen: %1/%2</translation>
+    </message>
+    <message>
+        <source>Vars: NA/NA</source>
+        <translation>Var.: NA/NA</translation>
+    </message>
+    <message>
+        <source>Vars: %1/%2</source>
+        <translation>Var.: %1/%2</translation>
     </message>
 </context>
 <context>
@@ -268,33 +287,6 @@ Möchten Sie den Datensatz neu laden?</translation>
     <message>
         <source>Command</source>
         <translation>Befehl</translation>
-    </message>
-    <message>
-        <source>There is not enough memory.</source>
-        <translation>Der Arbeitsspeicher reicht nicht aus.</translation>
-    </message>
-</context>
-<context>
-    <name>StatisticsTable</name>
-    <message>
-        <source>Descriptive Statistics</source>
-        <translation>Deskriptive Statistik</translation>
-    </message>
-    <message>
-        <source>Please select at least one column.</source>
-        <translation>Bitte wählen Sie mindestens eine Spalte aus.</translation>
-    </message>
-    <message>
-        <source>Desciptive Stattistics</source>
-        <translation>Deskriptive Statistik</translation>
-    </message>
-    <message>
-        <source>Selected variable is not numeric.</source>
-        <translation>Die ausgewählte Variable ist nicht numerisch.</translation>
-    </message>
-    <message>
-        <source>No data available under current filters.</source>
-        <translation>Unter den aktuellen Filtern gibt es keine Daten.</translation>
     </message>
 </context>
 <context>
@@ -536,28 +528,8 @@ Möchten Sie den Datensatz neu laden?</translation>
 <context>
     <name>MainTableView</name>
     <message>
-        <source>Rows: NA/NA</source>
-        <translation>Zeilen: NA/NA</translation>
-    </message>
-    <message>
-        <source>Rows: %1/%2</source>
-        <translation>Zeilen: %1/%2</translation>
-    </message>
-    <message>
-        <source>Vars: NA/NA</source>
-        <translation>Var.: NA/NA</translation>
-    </message>
-    <message>
-        <source>Vars: %1/%2</source>
-        <translation>Var.: %1/%2</translation>
-    </message>
-    <message>
         <source>The variable %1 is hidden.</source>
         <translation>Die Variable %1 ist ausgeblendet.</translation>
-    </message>
-    <message>
-        <source>There is not enough memory.</source>
-        <translation>Der Arbeitsspeicher reicht nicht aus.</translation>
     </message>
 </context>
 <context>
@@ -1017,6 +989,29 @@ Datendateien werden ausschließlich gelesen.</translation>
     <message>
         <source>This application does not run on Windows Server edition. Please download the server edition from the website: %1</source>
         <translation>Dieses Programm läuft nicht auf Windows Server. Bitte laden Sie die Server-Edition von der Website herunter: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StatisticsTable</name>
+    <message>
+        <source>Descriptive Statistics</source>
+        <translation>Deskriptive Statistik</translation>
+    </message>
+    <message>
+        <source>Please select at least one column.</source>
+        <translation>Bitte wählen Sie mindestens eine Spalte aus.</translation>
+    </message>
+    <message>
+        <source>Desciptive Stattistics</source>
+        <translation>Deskriptive Statistik</translation>
+    </message>
+    <message>
+        <source>Selected variable is not numeric.</source>
+        <translation>Die ausgewählte Variable ist nicht numerisch.</translation>
+    </message>
+    <message>
+        <source>No data available under current filters.</source>
+        <translation>Unter den aktuellen Filtern gibt es keine Daten.</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,13 @@
     </message>
 </context>
 <context>
+    <name>CommandFailure</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>内存不足。</translation>
+    </message>
+</context>
+<context>
     <name>DataFilterDialog</name>
     <message>
         <source>Data Filter</source>
@@ -257,10 +264,22 @@ Do you want to reload it?</source>
     </message>
 </context>
 <context>
-    <name>CommandFailure</name>
+    <name>GridCounters</name>
     <message>
-        <source>There is not enough memory.</source>
-        <translation>内存不足。</translation>
+        <source>Rows: NA/NA</source>
+        <translation>行：NA/NA</translation>
+    </message>
+    <message>
+        <source>Rows: %1/%2</source>
+        <translation>行：%1/%2</translation>
+    </message>
+    <message>
+        <source>Vars: NA/NA</source>
+        <translation>变量：NA/NA</translation>
+    </message>
+    <message>
+        <source>Vars: %1/%2</source>
+        <translation>变量：%1/%2</translation>
     </message>
 </context>
 <context>
@@ -268,33 +287,6 @@ Do you want to reload it?</source>
     <message>
         <source>Command</source>
         <translation>命令</translation>
-    </message>
-    <message>
-        <source>There is not enough memory.</source>
-        <translation>内存不足。</translation>
-    </message>
-</context>
-<context>
-    <name>StatisticsTable</name>
-    <message>
-        <source>Descriptive Statistics</source>
-        <translation>描述性统计</translation>
-    </message>
-    <message>
-        <source>Please select at least one column.</source>
-        <translation>请至少选择一列。</translation>
-    </message>
-    <message>
-        <source>Desciptive Stattistics</source>
-        <translation>描述性统计</translation>
-    </message>
-    <message>
-        <source>Selected variable is not numeric.</source>
-        <translation>所选变量不是数值型变量。</translation>
-    </message>
-    <message>
-        <source>No data available under current filters.</source>
-        <translation>当前筛选条件下没有可用数据。</translation>
     </message>
 </context>
 <context>
@@ -536,28 +528,8 @@ Do you want to reload it?</source>
 <context>
     <name>MainTableView</name>
     <message>
-        <source>Rows: NA/NA</source>
-        <translation>行：NA/NA</translation>
-    </message>
-    <message>
-        <source>Rows: %1/%2</source>
-        <translation>行：%1/%2</translation>
-    </message>
-    <message>
-        <source>Vars: NA/NA</source>
-        <translation>变量：NA/NA</translation>
-    </message>
-    <message>
-        <source>Vars: %1/%2</source>
-        <translation>变量：%1/%2</translation>
-    </message>
-    <message>
         <source>The variable %1 is hidden.</source>
         <translation>变量 %1 已隐藏。</translation>
-    </message>
-    <message>
-        <source>There is not enough memory.</source>
-        <translation>内存不足。</translation>
     </message>
 </context>
 <context>
@@ -1017,6 +989,29 @@ Data files are only ever read.</source>
     <message>
         <source>This application does not run on Windows Server edition. Please download the server edition from the website: %1</source>
         <translation>本应用程序不能在 Windows Server 上运行。请从网站下载服务器版：%1</translation>
+    </message>
+</context>
+<context>
+    <name>StatisticsTable</name>
+    <message>
+        <source>Descriptive Statistics</source>
+        <translation>描述性统计</translation>
+    </message>
+    <message>
+        <source>Please select at least one column.</source>
+        <translation>请至少选择一列。</translation>
+    </message>
+    <message>
+        <source>Desciptive Stattistics</source>
+        <translation>描述性统计</translation>
+    </message>
+    <message>
+        <source>Selected variable is not numeric.</source>
+        <translation>所选变量不是数值型变量。</translation>
+    </message>
+    <message>
+        <source>No data available under current filters.</source>
+        <translation>当前筛选条件下没有可用数据。</translation>
     </message>
 </context>
 <context>

@@ -1,38 +1,15 @@
 #include "app/look/Icons.h"
 
 #include "app/look/SvgIconEngine.h"
+#include "data/readers/FileKinds.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
-
-#include <algorithm>
-#include <array>
 
 namespace {
 
 constexpr QStringView folder = u":/icons/resources/icons";
 constexpr QStringView suffix = u".svg";
-
-struct DatasetIcon
-{
-    QStringView fileSuffix;
-    QStringView name;
-};
-
-constexpr std::array datasetIcons{
-    DatasetIcon{u"sas7bdat", u"type-sas7bdat"},
-    DatasetIcon{u"xpt", u"type-xpt"},
-    DatasetIcon{u"sav", u"type-sav"},
-    DatasetIcon{u"dta", u"type-dta"},
-    DatasetIcon{u"rds", u"type-r"},
-    DatasetIcon{u"rdata", u"type-r"},
-    DatasetIcon{u"rda", u"type-r"},
-    DatasetIcon{u"csv", u"type-csv"},
-    DatasetIcon{u"json", u"type-json"},
-    DatasetIcon{u"ndjson", u"type-json"},
-    DatasetIcon{u"dsjc", u"type-json"},
-};
 
 }  // namespace
 
@@ -49,12 +26,8 @@ QIcon icon(const QString& name)
 
 QIcon forDataset(const QString& path)
 {
-    const QString fileSuffix = QFileInfo(path).suffix();
-    const auto* found = std::ranges::find_if(datasetIcons, [&](const DatasetIcon& candidate) {
-        return fileSuffix.compare(candidate.fileSuffix, Qt::CaseInsensitive) == 0;
-    });
-    return icon(found == datasetIcons.end() ? QStringLiteral("type-other")
-                                            : found->name.toString());
+    const filekinds::Suffix* known = filekinds::suffixOf(path);
+    return icon(QString::fromLatin1(known == nullptr ? "type-other" : known->icon));
 }
 
 QIcon application()

@@ -36,9 +36,10 @@ DatasetOpener::DatasetOpener(Surroundings surroundings, QObject* parent)
 
 void DatasetOpener::chooseAndOpen(FileKind kind)
 {
-    const auto [title, filters] = filekinds::dialogTexts(kind);
+    const filekinds::Entry& entry = filekinds::entryOf(kind);
     const QString folder = m_surroundings.settings.lastFolder();
-    const QStringList paths = m_surroundings.prompts.chooseFiles(title, folder, filters);
+    const QStringList paths =
+        m_surroundings.prompts.chooseFiles(entry.title(), folder, entry.filters());
     for (const QString& path : paths) {
         m_surroundings.settings.setLastFolder(QFileInfo(path).absolutePath());
         open(path);

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "app/open/FileKinds.h"
 #include "app/open/OpenFilesMap.h"
-#include "data/readers/DatasetFile.h"
+#include "data/readers/FileKinds.h"
 
 #include <QObject>
 #include <QString>

@@ -30,11 +30,34 @@ void MainActions::createOpeningActions()
     openSpssData = add("actionOpenSpssData", tr("Open SPSS Datasets"));
     openStataData = add("actionOpenStataData", tr("Open Stata Datasets"));
     openCsv = add("actionOpenCsv", tr("Open CSV Files"));
+    for (const auto& [kind, action] : openingActions()) {
+        action->setEnabled(filekinds::entryOf(kind).isReadable());
+    }
     // What these need is not part of this version.
-    for (QAction* action :
-         {openDatasetJson, openFolder, manageLibraries, saveSession, openRData, openCsv}) {
+    for (QAction* action : {openFolder, manageLibraries, saveSession}) {
         action->setEnabled(false);
     }
+}
+
+std::array<std::pair<FileKind, QAction*>, 6> MainActions::openingActions() const
+{
+    return {{{FileKind::Sas, openSasData},
+             {FileKind::DatasetJson, openDatasetJson},
+             {FileKind::R, openRData},
+             {FileKind::Spss, openSpssData},
+             {FileKind::Stata, openStataData},
+             {FileKind::Csv, openCsv}}};
+}
+
+QList<QAction*> MainActions::readableKinds() const
+{
+    QList<QAction*> actions;
+    for (const auto& [kind, action] : openingActions()) {
+        if (filekinds::entryOf(kind).isReadable()) {
+            actions << action;
+        }
+    }
+    return actions;
 }
 
 void MainActions::createFileActions()

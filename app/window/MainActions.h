@@ -1,8 +1,11 @@
 #pragma once
 
+#include "data/readers/FileKinds.h"
+
 #include <QCoreApplication>
 
 #include <array>
+#include <utility>
 
 class QAction;
 class QActionGroup;
@@ -20,6 +23,10 @@ public:
 
     explicit MainActions(QObject* window);
 
+    /// What opens files, with the kinds that they open.
+    [[nodiscard]] std::array<std::pair<FileKind, QAction*>, 6> openingActions() const;
+    /// Those of them whose files can be read.
+    [[nodiscard]] QList<QAction*> readableKinds() const;
     /// Switches off what has nothing to work on while no dataset is open.
     void setDatasetOpen(bool isOpen);
 

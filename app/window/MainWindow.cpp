@@ -110,7 +110,7 @@ void MainWindow::createCentralArea()
 {
     m_area = new DatasetsArea(this);
     auto* empty = new EmptyState(m_area);
-    empty->setActions({m_actions->openSasData, m_actions->openSpssData, m_actions->openStataData});
+    empty->setActions(m_actions->readableKinds());
     empty->setRecentFiles(m_recentFiles->paths());
     m_area->setEmptyState(empty);
     setCentralWidget(m_area);

@@ -1,0 +1,139 @@
+#include "data/readers/FileKinds.h"
+
+#include "data/FilePath.h"
+#include "data/readers/DtaDoc.h"
+#include "data/readers/SasDoc.h"
+#include "data/readers/SavDoc.h"
+#include "data/readers/XptDoc.h"
+
+#include <fmt/format.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+
+namespace filekinds {
+namespace {
+
+template <typename Doc>
+Result<OpenedDataset> readWith(std::unique_ptr<Doc> doc, SourceKind kind, const QString& path,
+                               const OpenOptions& options)
+{
+    doc->setSourceKind(kind);
+    doc->setValuesWanted(!options.metadataOnly);
+    if (doc->load(path) != 0) {
+        return Failure{doc->loadError()};
+    }
+    OpenedDataset opened;
+    if constexpr (std::is_same_v<Doc, XptDoc>) {
+        opened.members = doc->memberNames();
+    }
+    opened.dataset = std::move(doc);
+    return opened;
+}
+
+/// A reader whose files hold one dataset each.
+template <typename Doc, SourceKind kind>
+Result<OpenedDataset> readSingle(const QString& path, const OpenOptions& options)
+{
+    if (!options.member.empty()) {
+        return Failure{
+            fmt::format("{}: A file of this kind holds one dataset only; it has none named {}",
+                        filepath::displayName(path), options.member)};
+    }
+    return readWith(std::make_unique<Doc>(), kind, path, options);
+}
+
+Result<OpenedDataset> readTransport(const QString& path, const OpenOptions& options)
+{
+    auto doc = std::make_unique<XptDoc>();
+    doc->setMember(options.member);
+    return readWith(std::move(doc), SourceKind::Sas, path, options);
+}
+
+constexpr std::array sasSuffixes{
+    Suffix{"sas7bdat", "type-sas7bdat", readSingle<SasDoc, SourceKind::Sas>},
+    Suffix{"xpt", "type-xpt", readTransport},
+};
+constexpr std::array jsonSuffixes{
+    Suffix{"json", "type-json"},
+    Suffix{"ndjson", "type-json"},
+    Suffix{"dsjc", "type-json"},
+};
+constexpr std::array rSuffixes{
+    Suffix{"rds", "type-r"},
+    Suffix{"rdata", "type-r"},
+    Suffix{"rda", "type-r"},
+};
+constexpr std::array spssSuffixes{
+    Suffix{"sav", "type-sav", readSingle<SavDoc, SourceKind::Spss>},
+};
+constexpr std::array stataSuffixes{
+    Suffix{"dta", "type-dta", readSingle<DtaDoc, SourceKind::Stata>},
+};
+constexpr std::array csvSuffixes{
+    Suffix{"csv", "type-csv"},
+};
+
+constexpr std::array entries{
+    Entry{
+        FileKind::Sas, QT_TRANSLATE_NOOP("FileKinds", "Open SAS Datasets"),
+        QT_TRANSLATE_NOOP("FileKinds", "SAS Data Files (*.sas7bdat);; SAS Transport Files (*.xpt)"),
+        sasSuffixes},
+    Entry{FileKind::DatasetJson, QT_TRANSLATE_NOOP("FileKinds", "Open Dataset-JSON Files"),
+          QT_TRANSLATE_NOOP("FileKinds", "Dataset-JSON Files (*.json *.ndjson)"), jsonSuffixes},
+    Entry{FileKind::R, QT_TRANSLATE_NOOP("FileKinds", "Open R Datasets"),
+          QT_TRANSLATE_NOOP("FileKinds",
+                            "R Data Files (*.rds);; R Data Files (*.rdata);; R Data Files (*.rda)"),
+          rSuffixes},
+    Entry{FileKind::Spss, QT_TRANSLATE_NOOP("FileKinds", "Open SPSS Datasets"),
+          QT_TRANSLATE_NOOP("FileKinds", "SPSS Data Files (*.sav)"), spssSuffixes},
+    Entry{FileKind::Stata, QT_TRANSLATE_NOOP("FileKinds", "Open Stata Datasets"),
+          QT_TRANSLATE_NOOP("FileKinds", "Stata Data Files (*.dta)"), stataSuffixes},
+    Entry{FileKind::Csv, QT_TRANSLATE_NOOP("FileKinds", "Open CSV Files"),
+          QT_TRANSLATE_NOOP("FileKinds", "CSV (Comma delimited) (*.csv)"), csvSuffixes},
+};
+
+}  // namespace
+
+bool Entry::isReadable() const
+{
+    return std::any_of(suffixes.begin(), suffixes.end(),
+                       [](const Suffix& suffix) { return suffix.reader != nullptr; });
+}
+
+QString Entry::title() const
+{
+    return QCoreApplication::translate("FileKinds", dialogTitle);
+}
+
+QString Entry::filters() const
+{
+    return QCoreApplication::translate("FileKinds", dialogFilters);
+}
+
+std::span<const Entry> table()
+{
+    return entries;
+}
+
+const Entry& entryOf(FileKind kind)
+{
+    return entries.at(static_cast<std::size_t>(kind));
+}
+
+const Suffix* suffixOf(const QString& path)
+{
+    for (const Entry& entry : entries) {
+        for (const Suffix& suffix : entry.suffixes) {
+            const QString ending = u'.' + QString::fromLatin1(suffix.suffix);
+            if (path.endsWith(ending, Qt::CaseInsensitive)) {
+                return &suffix;
+            }
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace filekinds
