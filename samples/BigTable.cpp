@@ -1,10 +1,8 @@
 #include "samples/BigTable.h"
 
-#include "samples/Calendar.h"
 #include "samples/Random.h"
-#include "samples/RowWriter.h"
+#include "samples/TableWriter.h"
 
-#include <array>
 #include <cmath>
 
 namespace samples {
@@ -41,22 +39,27 @@ const Texts severities{"MILD", "MODERATE", "SEVERE"};
 const Texts races{"WHITE", "ASIAN", "BLACK OR AFRICAN AMERICAN", "OTHER", "NOT REPORTED"};
 const Texts sexes{"F", "M"};
 const Texts comments{"see page 2", "entered late", "queried & answered", "second reading"};
+const Texts sites = numbered("Site ", 40);
+const Texts countries = numbered("C", 40);
+const Texts visits = numbered("WEEK ", 40);
+const Texts tests = combine({"Serum", "Plasma", "Urine", "Blood"}, numbered("analyte ", 10));
+const Texts bodySystems =
+    combine({"Upper", "Lower", "Inner", "Outer"}, numbered("body system ", 10));
+const Texts terms =
+    combine(combine({"acute", "chronic", "mild", "recurrent", "sudden"}, numbered("type ", 20)),
+            numbered("finding of site ", 100));
 
 /// The rows one after another, from one stream of random values.
 class RowMaker
 {
 public:
-    explicit RowMaker(RowWriter& writer)
-        : m_writer(writer)
-    { }
-
-    void addRow()
+    const Row& next()
     {
         ++m_row;
-        m_writer.beginRow();
+        m_cells.clear();
         addTexts();
         addNumbers();
-        m_writer.endRow();
+        return m_cells;
     }
 
 private:
@@ -64,68 +67,53 @@ private:
     void addNumbers();
     void text(const Texts& texts, double share = 0.95)
     {
-        const bool isPresent = m_random.chance(share);
-        m_writer.addText(isPresent ? std::string_view(m_random.pick(texts)) : "");
+        m_cells.emplace_back(m_random.chance(share) ? m_random.pick(texts) : std::string());
     }
-    void number(double value) { m_writer.addNumber(m_random.chance(0.05) ? missing : value); }
-    [[nodiscard]] double decimals(double mean, double deviation, double scale)
+    void number(double value) { m_cells.emplace_back(m_random.chance(0.05) ? missing : value); }
+    /// Around the mean, with one decimal.
+    [[nodiscard]] double decimal(double mean, double deviation)
     {
-        return std::round(m_random.normal(mean, deviation) * scale) / scale;
+        return std::round(m_random.normal(mean, deviation) * 10) / 10;
     }
 
-    RowWriter& m_writer;
+    Row m_cells;
     Random m_random{1, "big table"};
     long m_row = 0;
     long m_subject = 0;
-    Texts m_terms =
-        combine(combine({"acute", "chronic", "mild", "recurrent", "sudden"}, numbered("type ", 20)),
-                numbered("finding of site ", 100));
-    Texts m_sites = numbered("Site ", 40);
-    Texts m_bodySystems =
-        combine({"Upper", "Lower", "Inner", "Outer"}, numbered("body system ", 10));
-    Texts m_visits = numbered("WEEK ", 40);
-    Texts m_tests = combine({"Serum", "Plasma", "Urine", "Blood"}, numbered("analyte ", 10));
-    Texts m_countries = numbered("C", 40);
 };
 
 void RowMaker::addTexts()
 {
     // About one row in fifty goes on with the subject of the row before.
     m_subject += m_row == 1 || !m_random.chance(0.02) ? 1 : 0;
-    const auto digits = std::to_string(m_subject);
-    const std::size_t zeros = digits.size() < 8 ? 8 - digits.size() : 0;
-    m_writer.addText("QLN-101-" + std::string(zeros, '0') + digits);
-    text(m_sites);
-    text(m_countries);
-    text(investigators);
-    text(sexes);
-    text(races);
-    text(m_terms);
-    text(m_bodySystems);
-    text(severities);
-    text(m_visits);
-    text(m_tests);
+    m_cells.emplace_back("QLN-101-" + std::to_string(100'000'000 + m_subject).substr(1));
+    for (const auto* const texts : {&sites, &countries, &investigators, &sexes, &races, &terms,
+                                    &bodySystems, &severities, &visits, &tests}) {
+        text(*texts);
+    }
     text(comments, 0.01);
 }
 
 void RowMaker::addNumbers()
 {
-    const double days = sasDate(makeDate(2023, 1, 1)) + m_random.between(0, 729);
-    const double base = decimals(50, 12, 10);
+    constexpr double firstDay = 23011;  // 1 January 2023
+    constexpr double secondsADay = 86400;
+    const double day = firstDay + m_random.between(0, 729);
+    const double base = decimal(50, 12);
     const double value = std::round(m_random.uniform() * 1e6) / 1e4;
     number(double(m_row));
     number(m_random.between(18, 90));
     number(m_random.between(1, 40));
     number(10.0 * m_random.between(0, 4));
-    number(decimals(171, 9, 10));
-    number(decimals(77, 13, 10));
+    number(decimal(171, 9));
+    number(decimal(77, 13));
     number(base);
     number(value);
     number(value - base);
     number(m_random.uniform());
     number(m_random.between(-14, 400));
-    number(days);
-    number(days * 86400 + m_random.between(0, 86399));
+    number(day);
+    number(day * secondsADay + m_random.between(0, 86399));
 }
 
 }  // namespace
@@ -165,12 +153,9 @@ TableShape bigTableShape()
 
 void writeBigTable(const std::filesystem::path& path, long rowCount, const WriteOptions& options)
 {
-    RowWriter writer(path, bigTableShape(), rowCount, options);
-    RowMaker maker(writer);
-    for (long row = 0; row < rowCount; ++row) {
-        maker.addRow();
-    }
-    writer.finish();
+    RowMaker maker;
+    writeRows(
+        path, bigTableShape(), rowCount, [&]() -> const Row& { return maker.next(); }, options);
 }
 
 }  // namespace samples

@@ -7,7 +7,7 @@
 namespace samples {
 
 /// What ReadStat 1.1.8 writes otherwise than SAS does, put right in a finished file. Each function
-/// throws std::runtime_error naming the file when it does not find the place.
+/// throws std::exception when it does not find the place.
 
 /// Declares the texts of a SAS7BDAT file to be Windows-1252.
 void declareWindows1252(const std::filesystem::path& sasFile);

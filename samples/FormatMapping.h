@@ -5,6 +5,18 @@
 
 namespace samples {
 
+/// What the numbers of a column are: days or seconds from 1960, seconds from midnight.
+enum class Meaning
+{
+    Number,
+    Date,
+    DateTime,
+    Time
+};
+
+/// As the column's format tells.
+[[nodiscard]] Meaning meaningOf(const Column& column);
+
 /// The column's display format in the file's own notation: "DATE9" for SAS, "DATE11" for SPSS,
 /// "%td" for Stata. Empty where the kind needs none. A SAS7BDAT file stores width and decimals
 /// apart, so for it this is the bare name.

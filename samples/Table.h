@@ -56,11 +56,4 @@ struct Table : TableShape
             .decimals = decimals};
 }
 
-/// Makes every character column exactly as long as its longest text, at least one byte.
-void fitTextLengths(Table& table);
-
-/// Index of a column by its exact name.
-/// @throws std::out_of_range naming the column when there is none
-[[nodiscard]] std::size_t columnIndex(const TableShape& table, const std::string& name);
-
 }  // namespace samples

@@ -2,17 +2,13 @@
 
 #include <algorithm>
 #include <cctype>
+#include <map>
 #include <stdexcept>
 #include <string>
 
 namespace samples {
 
 namespace {
-
-[[noreturn]] void refuse(const std::filesystem::path& path, const std::string& what)
-{
-    throw std::runtime_error(path.string() + ": " + what);
-}
 
 std::string lowerSuffix(const std::filesystem::path& path)
 {
@@ -23,66 +19,40 @@ std::string lowerSuffix(const std::filesystem::path& path)
     return suffix;
 }
 
-void checkRelease(const std::filesystem::path& path, FileKind kind, int release)
+/// What the library would leave out without a word, or write as no program ever did.
+bool isPossible(FileKind kind, const WriteOptions& options)
 {
+    const bool isUtf8 = options.encoding == TextEncoding::Utf8;
     switch (kind) {
     case FileKind::Transport:
-        if (release != 5 && release != 8) {
-            refuse(path, "a transport file has version 5 or 8");
-        }
-        break;
-    case FileKind::Stata:
-        // No program ever wrote 116.
-        if (release < 111 || release > 119 || release == 116) {
-            refuse(path, "a Stata file has release 111 to 115 or 117 to 119");
-        }
-        break;
+        return (options.release == 5 || options.release == 8)
+            && options.compression == Compression::None;
     case FileKind::Sas:
+        return options.release == 0;
     case FileKind::Spss:
-        if (release != 0) {
-            refuse(path, "this kind of file has no release to choose");
-        }
-        break;
+        return options.release == 0 && isUtf8;
+    case FileKind::Stata:
+        return options.release >= 111 && options.release <= 119 && options.release != 116
+            && (isUtf8 || options.release < 118);
     }
-}
-
-void checkCompression(const std::filesystem::path& path, FileKind kind, Compression compression)
-{
-    if (compression == Compression::Rows && kind != FileKind::Sas && kind != FileKind::Spss) {
-        refuse(path, "row compression is for SAS7BDAT and SPSS files");
-    }
-    if (compression == Compression::Zlib && kind != FileKind::Spss) {
-        refuse(path, "zlib compression is for SPSS files");
-    }
-}
-
-void checkEncoding(const std::filesystem::path& path, FileKind kind, const WriteOptions& options)
-{
-    const bool alwaysUtf8 =
-        kind == FileKind::Spss || (kind == FileKind::Stata && options.release >= 118);
-    if (options.encoding != TextEncoding::Utf8 && alwaysUtf8) {
-        refuse(path, "texts of this kind of file are UTF-8");
-    }
+    return false;
 }
 
 }  // namespace
 
 FileKind kindOfFile(const std::filesystem::path& path)
 {
-    const auto suffix = lowerSuffix(path);
-    if (suffix == ".xpt") {
-        return FileKind::Transport;
+    static const std::map<std::string, FileKind> kinds{{".xpt", FileKind::Transport},
+                                                       {".sas7bdat", FileKind::Sas},
+                                                       {".sav", FileKind::Spss},
+                                                       {".zsav", FileKind::Spss},
+                                                       {".dta", FileKind::Stata}};
+    const auto found = kinds.find(lowerSuffix(path));
+    if (found == kinds.end()) {
+        throw std::runtime_error(path.string()
+                                 + ": the suffix is none of .xpt, .sas7bdat, .sav, .zsav, .dta");
     }
-    if (suffix == ".sas7bdat") {
-        return FileKind::Sas;
-    }
-    if (suffix == ".sav" || suffix == ".zsav") {
-        return FileKind::Spss;
-    }
-    if (suffix == ".dta") {
-        return FileKind::Stata;
-    }
-    refuse(path, "the suffix is none of .xpt, .sas7bdat, .sav, .zsav, .dta");
+    return found->second;
 }
 
 WriteOptions checkedOptions(const std::filesystem::path& path, WriteOptions options)
@@ -97,9 +67,10 @@ WriteOptions checkedOptions(const std::filesystem::path& path, WriteOptions opti
     if (lowerSuffix(path) == ".zsav" && options.compression == Compression::None) {
         options.compression = Compression::Zlib;
     }
-    checkRelease(path, kind, options.release);
-    checkCompression(path, kind, options.compression);
-    checkEncoding(path, kind, options);
+    if (!isPossible(kind, options)) {
+        throw std::runtime_error(path.string() + ": this kind of file has no such release, "
+                                 + "compression or encoding");
+    }
     if (kind == FileKind::Stata && options.release < 118) {
         options.encoding = TextEncoding::Windows1252;
     }

@@ -2,9 +2,10 @@
 #include "samples/Study.h"
 #include "samples/TableWriter.h"
 
+#include <QString>
+
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <iostream>
@@ -60,26 +61,18 @@ void report(const std::filesystem::path& path, std::size_t rows, std::size_t col
     std::cout << path.string() << ": " << rows << " rows, " << columns << " columns\n";
 }
 
-std::string lowerCase(std::string text)
-{
-    for (auto& letter : text) {
-        letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
-    }
-    return text;
-}
-
 void writeStudy(const std::filesystem::path& directory)
 {
     constexpr std::array inEveryKind{"DM", "AE", "ADSL"};
     std::filesystem::create_directories(directory);
-    const samples::Study study;
-    for (const auto& table : study.tables()) {
+    for (const auto& table : samples::studyTables()) {
         std::vector<std::string> suffixes{".xpt"};
         if (std::ranges::find(inEveryKind, table.name) != inEveryKind.end()) {
             suffixes.insert(suffixes.end(), {".sas7bdat", ".sav", ".dta"});
         }
+        const auto name = QString::fromStdString(table.name).toLower().toStdString();
         for (const auto& suffix : suffixes) {
-            const auto path = directory / (lowerCase(table.name) + suffix);
+            const auto path = directory / (name + suffix);
             samples::writeTable(path, table);
             report(path, table.rows.size(), table.columns.size());
         }

@@ -36,13 +36,11 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Each table of a small study in every format: 36 files.
+/// Each table of the sample study in every format: 36 files.
 void TestManyFiles::writeStudy() const
 {
-    constexpr int subjects = 12;
-    const samples::Study study(samples::Study::defaultSeed, subjects);
     QVERIFY(QDir(m_folder.path()).mkpath("study"));
-    for (const samples::Table& table : study.tables()) {
+    for (const samples::Table& table : samples::studyTables()) {
         for (const char* suffix : {".xpt", ".sas7bdat", ".sav", ".dta"}) {
             const std::string name = table.name + suffix;
             samples::writeTable(m_folder.filePath("study").toStdString() + '/' + name, table);
