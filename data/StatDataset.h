@@ -162,6 +162,8 @@ protected:
     /// clear.
     void resizeBits();
 
+    friend class CellLoader;
+
     DatasetHeader m_header;
     int m_observationCount = 0;
     int m_variableCount = 0;

@@ -1,8 +1,35 @@
 #include "data/readers/DtaDoc.h"
 
 #include "data/readers/ByteView.h"
+#include "data/readers/DtaLayout.h"
+#include "data/readers/ReadStatLoad.h"
 #include "data/values/StataFormat.h"
-#include "data/values/Texts.h"
+
+class DtaDoc::Load : public ReadStatLoad
+{
+public:
+    explicit Load(DtaDoc& dataset)
+        : ReadStatLoad(dataset)
+        , m_dataset(dataset)
+    { }
+
+private:
+    std::string prepare(const FileReader& file, ParserInput& input) override;
+    readstat_error_t parse(readstat_parser_t* parser, const char* path) override;
+    int acceptMetadata(const readstat_metadata_t& metadata) override;
+    std::string complete(const FileReader& file) override;
+
+    void resolveLongStrings(const FileReader& file, const LongStrings& strings);
+    [[nodiscard]] LongStrings::key_type longStringKey(std::uint64_t reference) const;
+
+    DtaDoc& m_dataset;
+    DtaLayout m_layout;
+};
+
+int DtaDoc::load(const QString& path)
+{
+    return Load(*this).run(path);
+}
 
 std::string DtaDoc::cellText(int row, int column) const
 {
@@ -30,7 +57,7 @@ std::string DtaDoc::formatNumeric(double number, std::string_view format, int, i
     return stata::formatNumeric(number, format);
 }
 
-std::string DtaDoc::prepare(const FileReader& file, ParserInput& input)
+std::string DtaDoc::Load::prepare(const FileReader& file, ParserInput& input)
 {
     Result<DtaLayout> layout = readDtaLayout(file);
     if (!layout) {
@@ -38,7 +65,7 @@ std::string DtaDoc::prepare(const FileReader& file, ParserInput& input)
     }
     m_layout = std::move(layout).value();
     // Before release 118 files declare no encoding; nearly all come from Windows.
-    setDecoder(TextDecoder(m_layout.release >= 118 ? "UTF-8" : "WINDOWS-1252"));
+    cells().setDecoder(TextDecoder(m_layout.release >= 118 ? "UTF-8" : "WINDOWS-1252"));
     if (m_layout.longStringsOffset > 0) {
         // The library reads past long strings that end without a NUL, and takes the references of
         // release 119 for those of 118. It is shown an empty section.
@@ -48,42 +75,41 @@ std::string DtaDoc::prepare(const FileReader& file, ParserInput& input)
     return {};
 }
 
-readstat_error_t DtaDoc::parse(readstat_parser_t* parser, const char* path)
+readstat_error_t DtaDoc::Load::parse(readstat_parser_t* parser, const char* path)
 {
     return readstat_parse_dta(parser, path, this);
 }
 
-int DtaDoc::acceptMetadata(const readstat_metadata_t& metadata)
+int DtaDoc::Load::acceptMetadata(const readstat_metadata_t& metadata)
 {
     copyCommonMetadata(metadata);
-    m_header.fileLabel = decoded(metadata.file_label);
-    m_header.is64Bit = metadata.is64bit != 0;
-    m_header.observationLength = m_layout.rowLength;
+    DatasetHeader& header = m_dataset.m_header;
+    header.fileLabel = decoded(metadata.file_label);
+    header.is64Bit = metadata.is64bit != 0;
+    header.observationLength = m_layout.rowLength;
     const std::int64_t mostRows = m_layout.rowLength > 0 ? fileSize() / m_layout.rowLength : 0;
-    return resizeDataset(metadata.row_count, metadata.var_count, mostRows);
+    return beginRows(metadata.row_count, metadata.var_count, mostRows);
 }
 
-std::string DtaDoc::complete(const FileReader& file)
+std::string DtaDoc::Load::complete(const FileReader& file)
 {
-    std::string problem;
-    if (m_valuesWanted && !m_layout.longStringVariables.empty()) {
-        const Result<LongStrings> strings = readLongStrings(file, m_layout);
-        if (strings) {
-            resolveLongStrings(file, strings.value());
-        } else {
-            problem = strings.error();
-        }
+    if (!m_dataset.m_valuesWanted || m_layout.longStringVariables.empty()) {
+        return {};
     }
-    m_layout = {};
-    return problem;
+    const Result<LongStrings> strings = readLongStrings(file, m_layout);
+    if (!strings) {
+        return strings.error();
+    }
+    resolveLongStrings(file, strings.value());
+    return {};
 }
 
-void DtaDoc::resolveLongStrings(const FileReader& file, const LongStrings& strings)
+void DtaDoc::Load::resolveLongStrings(const FileReader& file, const LongStrings& strings)
 {
     const std::int64_t length = m_layout.rowLength;
     const std::int64_t rowsAtOnce = std::max<std::int64_t>((256 << 10) / length, 1);
     std::vector<char> bytes;
-    for (int row = 0; row < m_observationCount; ++row) {
+    for (int row = 0; row < m_dataset.m_observationCount; ++row) {
         const std::int64_t at = row % rowsAtOnce;
         if (at == 0) {
             bytes = file.bytesAt(m_layout.dataOffset + row * length, rowsAtOnce * length);
@@ -92,8 +118,9 @@ void DtaDoc::resolveLongStrings(const FileReader& file, const LongStrings& strin
         for (const auto& [variable, offset] : m_layout.longStringVariables) {
             const auto place = static_cast<std::size_t>(at * length + offset);
             const auto found = strings.find(longStringKey(rows.u64(place)));
-            if (found != strings.end() && isColumn(variable) && isCharacter(variable)) {
-                setText(row, variable, texts::trimmedView(found->second));
+            if (found != strings.end() && m_dataset.isColumn(variable)
+                && m_dataset.isCharacter(variable)) {
+                putText(row, variable, found->second);
             }
         }
     }
@@ -101,7 +128,7 @@ void DtaDoc::resolveLongStrings(const FileReader& file, const LongStrings& strin
 
 /// A reference is a variable number and, in the bytes left of eight, an observation number, in the
 /// byte order of the file.
-LongStrings::key_type DtaDoc::longStringKey(std::uint64_t reference) const
+LongStrings::key_type DtaDoc::Load::longStringKey(std::uint64_t reference) const
 {
     const unsigned bits = m_layout.release >= 119 ? 24 : m_layout.release == 118 ? 16 : 32;
     const std::uint64_t variable = m_layout.littleEndian

@@ -1,6 +1,7 @@
 #include "data/readers/SavDoc.h"
 
 #include "data/readers/ByteView.h"
+#include "data/readers/ReadStatLoad.h"
 
 #include <memory>
 
@@ -59,7 +60,33 @@ private:
 
 }  // namespace
 
-std::string SavDoc::prepare(const FileReader& file, ParserInput& input)
+class SavDoc::Load : public ReadStatLoad
+{
+public:
+    explicit Load(SavDoc& dataset)
+        : ReadStatLoad(dataset)
+        , m_dataset(dataset)
+    { }
+
+private:
+    std::string prepare(const FileReader& file, ParserInput& input) override;
+    readstat_error_t parse(readstat_parser_t* parser, const char* path) override;
+    int acceptMetadata(const readstat_metadata_t& metadata) override;
+    [[nodiscard]] bool isSuccess(readstat_error_t code) const override;
+
+    SavDoc& m_dataset;
+    ParserInput* m_input = nullptr;  ///< for the parse, which comes within its life
+    bool m_isRenamedUtf8 = false;
+    bool m_isZlib = false;
+    bool m_isRowCompressed = false;
+};
+
+int SavDoc::load(const QString& path)
+{
+    return Load(*this).run(path);
+}
+
+std::string SavDoc::Load::prepare(const FileReader& file, ParserInput& input)
 {
     m_input = &input;
     const std::vector<char> bytes = file.bytesAt(0, headerSize);
@@ -80,7 +107,7 @@ std::string SavDoc::prepare(const FileReader& file, ParserInput& input)
     return {};
 }
 
-readstat_error_t SavDoc::parse(readstat_parser_t* parser, const char* path)
+readstat_error_t SavDoc::Load::parse(readstat_parser_t* parser, const char* path)
 {
     // Of UTF-8 texts the library drops NUL bytes, and where the first part of a very long text
     // holds nothing else, it writes in front of its buffer. It knows UTF-8 by this one spelling
@@ -92,28 +119,27 @@ readstat_error_t SavDoc::parse(readstat_parser_t* parser, const char* path)
     return readstat_parse_sav(parser, path, this);
 }
 
-int SavDoc::acceptMetadata(const readstat_metadata_t& metadata)
+int SavDoc::Load::acceptMetadata(const readstat_metadata_t& metadata)
 {
     copyCommonMetadata(metadata);
-    m_header.encoding = m_isRenamedUtf8     ? "UTF-8"
+    DatasetHeader& header = m_dataset.m_header;
+    header.encoding = m_isRenamedUtf8       ? "UTF-8"
         : metadata.file_encoding == nullptr ? ""
                                             : metadata.file_encoding;
-    setDecoder(TextDecoder(m_header.encoding));
-    m_header.fileLabel = decoded(metadata.file_label);
-    m_header.is64Bit = metadata.is64bit != 0;
+    cells().setDecoder(TextDecoder(header.encoding));
+    header.fileLabel = decoded(metadata.file_label);
+    header.is64Bit = metadata.is64bit != 0;
     if (rowCountIsUnknown()) {
-        resizeVariables(static_cast<int>(metadata.var_count));
-        reserveRows(0);
-        return READSTAT_HANDLER_OK;
+        return beginUncountedRows(metadata.var_count);
     }
     // A compressed case takes a byte for each of its values at least, a plain one eight.
     const std::int64_t bytesPerValue = m_isZlib || m_isRowCompressed ? 1 : 8;
     const std::int64_t unpacked = m_isZlib ? fileSize() * largestZlibRatio : fileSize();
     const std::int64_t values = std::max<std::int64_t>(metadata.var_count, 1);
-    return resizeDataset(metadata.row_count, metadata.var_count, unpacked / bytesPerValue / values);
+    return beginRows(metadata.row_count, metadata.var_count, unpacked / bytesPerValue / values);
 }
 
-bool SavDoc::isSuccess(readstat_error_t code) const
+bool SavDoc::Load::isSuccess(readstat_error_t code) const
 {
     return code == READSTAT_OK
         || (rowCountIsUnknown() && code == READSTAT_ERROR_ROW_COUNT_MISMATCH);

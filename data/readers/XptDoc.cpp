@@ -1,5 +1,8 @@
 #include "data/readers/XptDoc.h"
 
+#include "data/readers/ReadStatLoad.h"
+#include "data/readers/XptLayout.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -16,16 +19,44 @@ bool sameName(const std::string& one, const std::string& other)
 
 }  // namespace
 
-std::string XptDoc::prepare(const FileReader& file, ParserInput& input)
+class XptDoc::Load : public ReadStatLoad
 {
-    setDecoder(TextDecoder());
+public:
+    explicit Load(XptDoc& dataset)
+        : ReadStatLoad(dataset)
+        , m_dataset(dataset)
+    { }
+
+private:
+    std::string prepare(const FileReader& file, ParserInput& input) override;
+    readstat_error_t parse(readstat_parser_t* parser, const char* path) override;
+    int acceptMetadata(const readstat_metadata_t& metadata) override;
+    void completeVariable(int index) override;
+    std::string complete(const FileReader& file) override;
+
+    std::string chooseMember(const XptLayout& layout);
+    void hideDamagedTimes(const XptLayout& layout, ParserInput& input);
+
+    XptDoc& m_dataset;
+    XptMember m_member;
+    bool m_timesAreKnown = true;
+};
+
+int XptDoc::load(const QString& path)
+{
+    return Load(*this).run(path);
+}
+
+std::string XptDoc::Load::prepare(const FileReader& file, ParserInput& input)
+{
+    cells().setDecoder(TextDecoder());
     const Result<XptLayout> layout = readXptLayout(file);
     if (!layout) {
         return decoded(layout.error().c_str());  // it may quote the file
     }
-    m_memberNames.clear();
+    m_dataset.m_memberNames.clear();
     for (const XptMember& member : layout.value().members) {
-        m_memberNames.push_back(decoded(member.name.c_str()));
+        m_dataset.m_memberNames.push_back(decoded(member.name.c_str()));
     }
     if (std::string problem = chooseMember(layout.value()); !problem.empty()) {
         return problem;
@@ -39,7 +70,7 @@ std::string XptDoc::prepare(const FileReader& file, ParserInput& input)
 }
 
 /// Where a time cannot be read, the library looks for the month in memory it never set.
-void XptDoc::hideDamagedTimes(const XptLayout& layout, ParserInput& input)
+void XptDoc::Load::hideDamagedTimes(const XptLayout& layout, ParserInput& input)
 {
     constexpr std::string_view someTime = "01JAN70:00:00:00";
     for (const std::int64_t offset : layout.damagedTimes) {
@@ -51,16 +82,16 @@ void XptDoc::hideDamagedTimes(const XptLayout& layout, ParserInput& input)
     m_timesAreKnown = layout.damagedTimes.empty() && m_member.damagedTimes.empty();
 }
 
-std::string XptDoc::chooseMember(const XptLayout& layout)
+std::string XptDoc::Load::chooseMember(const XptLayout& layout)
 {
-    const auto found = m_memberName.empty()
+    const auto found = m_dataset.m_memberName.empty()
         ? layout.members.begin()
         : std::find_if(layout.members.begin(), layout.members.end(), [&](const XptMember& one) {
-              return sameName(decoded(one.name.c_str()), m_memberName);
+              return sameName(decoded(one.name.c_str()), m_dataset.m_memberName);
           });
     if (found == layout.members.end()) {
-        return fmt::format("It has no data set named {}; it has {}", m_memberName,
-                           fmt::join(m_memberNames, ", "));
+        return fmt::format("It has no data set named {}; it has {}", m_dataset.m_memberName,
+                           fmt::join(m_dataset.m_memberNames, ", "));
     }
     m_member = *found;
     if (m_member.rowLength <= 0 && !m_member.variables.empty()) {
@@ -69,34 +100,35 @@ std::string XptDoc::chooseMember(const XptLayout& layout)
     return {};
 }
 
-readstat_error_t XptDoc::parse(readstat_parser_t* parser, const char* path)
+readstat_error_t XptDoc::Load::parse(readstat_parser_t* parser, const char* path)
 {
     return readstat_parse_xport(parser, path, this);
 }
 
-int XptDoc::acceptMetadata(const readstat_metadata_t& metadata)
+int XptDoc::Load::acceptMetadata(const readstat_metadata_t& metadata)
 {
     if (metadata.row_count != -1) {
         return READSTAT_HANDLER_OK;  // the library tells no row count of a transport file
     }
     copyCommonMetadata(metadata);
+    DatasetHeader& header = m_dataset.m_header;
     if (!m_timesAreKnown) {
-        m_header.creationTime = 0;
-        m_header.modificationTime = 0;
+        header.creationTime = 0;
+        header.modificationTime = 0;
     }
-    m_header.tableName = decoded(m_member.name.c_str());
-    m_header.fileLabel = decoded(metadata.file_label);
-    m_header.memberType = {};
-    m_header.encoding = {};
-    m_header.release = {};
-    m_header.host = {};
-    m_header.observationLength = m_member.rowLength;
+    header.tableName = decoded(m_member.name.c_str());
+    header.fileLabel = decoded(metadata.file_label);
+    header.memberType = {};
+    header.encoding = {};
+    header.release = {};
+    header.host = {};
+    header.observationLength = m_member.rowLength;
     // The library drops all blank rows at the end; those that cannot be padding stay empty rows
     // here.
-    return resizeDataset(m_member.rowCount, metadata.var_count, m_member.rowCount);
+    return beginRows(m_member.rowCount, metadata.var_count, m_member.rowCount);
 }
 
-void XptDoc::completeVariable(int index)
+void XptDoc::Load::completeVariable(int index)
 {
     const auto at = static_cast<std::size_t>(index);
     if (at >= m_member.variables.size()) {
@@ -105,15 +137,15 @@ void XptDoc::completeVariable(int index)
     const auto& variable = m_member.variables[at];
     const FormatRecord& format = variable.format;
     const FormatRecord& informat = variable.informat;
-    setFormats(index, decoded(format.name.c_str()), format.width, format.decimals,
-               sasFormatText(decoded(informat.name.c_str()), informat.width, informat.decimals));
+    m_dataset.setFormats(
+        index, decoded(format.name.c_str()), format.width, format.decimals,
+        sasFormatText(decoded(informat.name.c_str()), informat.width, informat.decimals));
 }
 
-std::string XptDoc::complete(const FileReader&)
+std::string XptDoc::Load::complete(const FileReader&)
 {
-    if (m_valuesWanted) {
-        normaliseFormats();
+    if (m_dataset.m_valuesWanted) {
+        m_dataset.normaliseFormats();
     }
-    m_member = {};
     return {};
 }

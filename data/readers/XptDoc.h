@@ -1,7 +1,6 @@
 #pragma once
 
 #include "data/readers/SasDataset.h"
-#include "data/readers/XptLayout.h"
 
 #include <string>
 #include <vector>
@@ -11,24 +10,16 @@
 class XptDoc : public SasDataset
 {
 public:
+    [[nodiscard]] int load(const QString& path) override;
+
     /// Which data set of the file to load, in any letter case; the first when empty.
     void setMember(std::string name) { m_memberName = std::move(name); }
     /// The names of all data sets of the file, in its order; known after a load.
     [[nodiscard]] const std::vector<std::string>& memberNames() const { return m_memberNames; }
 
-protected:
-    std::string prepare(const FileReader& file, ParserInput& input) override;
-    readstat_error_t parse(readstat_parser_t* parser, const char* path) override;
-    int acceptMetadata(const readstat_metadata_t& metadata) override;
-    void completeVariable(int index) override;
-    std::string complete(const FileReader& file) override;
-
 private:
-    std::string chooseMember(const XptLayout& layout);
-    void hideDamagedTimes(const XptLayout& layout, ParserInput& input);
+    class Load;
 
     std::string m_memberName;
     std::vector<std::string> m_memberNames;
-    XptMember m_member;
-    bool m_timesAreKnown = true;
 };

@@ -1,5 +1,4 @@
 #include "data/readers/DatasetFile.h"
-#include "data/readers/ReadStatDoc.h"
 #include "samples/TableWriter.h"
 #include "tests/support/TemporaryFolder.h"
 
