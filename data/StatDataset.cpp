@@ -1,10 +1,11 @@
 #include "data/StatDataset.h"
 
-#include "data/values/SpssFormat.h"
+#include "data/values/NumberText.h"
 #include "data/values/Texts.h"
 
 #include <algorithm>
 #include <cctype>
+#include <cmath>
 #include <cwctype>
 
 StatDataset::~StatDataset() = default;
@@ -70,10 +71,9 @@ std::string StatDataset::formatCharacter(std::string_view text, std::string_view
     return std::string(text);
 }
 
-std::string StatDataset::formatNumeric(double number, std::string_view format, int, int) const
+std::string StatDataset::formatNumeric(double number, std::string_view, int, int) const
 {
-    // Of the datasets that come here only SPSS files carry formats; the others show plain numbers.
-    return spss::formatNumeric(number, format);
+    return std::isnan(number) ? "." : numbertext::shortest(number);
 }
 
 bool StatDataset::isNumeric(int column) const

@@ -88,7 +88,8 @@ public:
     /// empty.
     [[nodiscard]] virtual std::string
     formatCharacter(std::string_view text, std::string_view format, int width, int decimals) const;
-    /// The number as its format shows it.
+    /// The number as its format shows it; the fewest digits, and a point for NaN, where the file
+    /// knows no formats.
     [[nodiscard]] virtual std::string formatNumeric(double number, std::string_view format,
                                                     int width, int decimals) const;
     virtual ~StatDataset();

@@ -2,6 +2,7 @@
 
 #include "data/readers/ByteView.h"
 #include "data/readers/ReadStatLoad.h"
+#include "data/values/SpssFormat.h"
 
 #include <memory>
 
@@ -84,6 +85,11 @@ private:
 int SavDoc::load(const QString& path)
 {
     return Load(*this).run(path);
+}
+
+std::string SavDoc::formatNumeric(double number, std::string_view format, int, int) const
+{
+    return spss::formatNumeric(number, format);
 }
 
 std::string SavDoc::Load::prepare(const FileReader& file, ParserInput& input)

@@ -8,6 +8,9 @@ class SavDoc : public ReadStatDoc
 public:
     [[nodiscard]] int load(const QString& path) override;
 
+    [[nodiscard]] std::string formatNumeric(double number, std::string_view format, int width,
+                                            int decimals) const override;
+
 private:
     class Load;
 };
