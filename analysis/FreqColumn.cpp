@@ -59,9 +59,10 @@ void FreqColumn::encodeNumbers(const StatDataset& dataset, int variable,
                                std::span<const std::uint32_t> rows)
 {
     const std::uint64_t zero = freqnumbers::orderedBits(0.0);
+    const MissingMark mark = dataset.missingMark(variable);
     bool hasPositiveZero = false;
     m_keys = encode(dataset, variable, rows, m_codes, [&](const CellValue& cell) {
-        const double number = std::get<1>(cell);
+        const double number = mark.unified(std::get<1>(cell));
         if (number == 0.0) {
             hasPositiveZero = hasPositiveZero || !std::signbit(number);
             return zero;

@@ -30,9 +30,11 @@ std::array<std::string, labels.size()> textsOf(const Summary& summary)
 std::vector<double> samplesOf(const StatDataset& dataset, int variable, const FreqGroups& groups,
                               const std::vector<std::uint32_t>& rows)
 {
+    const MissingMark mark = dataset.missingMark(variable);
     std::vector<RankedRow> entries(rows.size());
     for (std::size_t place = 0; place < rows.size(); ++place) {
-        const double number = dataset.numericValue(static_cast<int>(rows[place]), variable);
+        const double number =
+            mark.unified(dataset.numericValue(static_cast<int>(rows[place]), variable));
         entries[place] = {freqnumbers::orderedBits(number), groups.groupOfPlace()[place]};
     }
     radixSort(entries);

@@ -80,6 +80,11 @@ double InMemoryDataset::numericValue(int row, int column) const
     return value.index() == 1 ? std::get<1>(value) : std::numeric_limits<double>::quiet_NaN();
 }
 
+MissingMark InMemoryDataset::missingMark(int) const
+{
+    return MissingMark(missing);
+}
+
 InMemoryDatasetBuilder::InMemoryDatasetBuilder()
     : m_dataset(std::make_unique<InMemoryDataset>())
 { }

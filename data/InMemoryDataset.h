@@ -26,6 +26,8 @@ public:
     /// Throws std::out_of_range outside the cells; NaN for a cell that holds a text.
     [[nodiscard]] double numericValue(int row, int column) const override;
 
+    [[nodiscard]] MissingMark missingMark(int column) const override;
+
     /// What the numeric cells hold where a number is missing.
     static constexpr double missing = -std::numeric_limits<double>::infinity();
 

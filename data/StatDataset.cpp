@@ -97,6 +97,21 @@ double StatDataset::numericValue(int row, int column) const
     return std::get<1>(cell(row, column));
 }
 
+MissingMark StatDataset::missingMark(int) const
+{
+    return {};
+}
+
+std::string_view StatDataset::missingText(int) const
+{
+    return {};
+}
+
+DateScale StatDataset::dateScale(int column) const
+{
+    return DateScale::ofSas(m_formats[static_cast<std::size_t>(column)]);
+}
+
 const CellValue& StatDataset::cell(int row, int column) const
 {
     return m_cells[cellIndex(row, column)];

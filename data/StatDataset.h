@@ -2,6 +2,8 @@
 
 #include "data/cells/CellStore.h"
 #include "data/cells/TextPool.h"
+#include "data/values/DateScale.h"
+#include "data/values/MissingMark.h"
 
 #include <boost/dynamic_bitset.hpp>
 #include <cstdint>
@@ -101,6 +103,15 @@ public:
     /// The cell's number as it is stored: NaN where missing. Throws std::bad_variant_access for a
     /// text; the row and the column are not checked.
     [[nodiscard]] virtual double numericValue(int row, int column) const;
+
+    // What a variable is comes from the reader of its file, and so does the meaning of its values.
+
+    /// What its cells hold where a number is missing, for walks over whole columns.
+    [[nodiscard]] virtual MissingMark missingMark(int column) const;
+    /// The text that stands for a missing one besides the empty text; empty where none does.
+    [[nodiscard]] virtual std::string_view missingText(int column) const;
+    /// How it counts dates and times; as SAS does unless the reader knows better.
+    [[nodiscard]] virtual DateScale dateScale(int column) const;
 
     [[nodiscard]] const DatasetHeader& header() const { return m_header; }
     [[nodiscard]] SourceKind sourceKind() const { return m_sourceKind; }

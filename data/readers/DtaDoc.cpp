@@ -57,6 +57,11 @@ std::string DtaDoc::formatNumeric(double number, std::string_view format, int, i
     return stata::formatNumeric(number, format);
 }
 
+DateScale DtaDoc::dateScale(int column) const
+{
+    return DateScale::ofStata(m_formats[static_cast<std::size_t>(column)]);
+}
+
 std::string DtaDoc::Load::prepare(const FileReader& file, ParserInput& input)
 {
     Result<DtaLayout> layout = readDtaLayout(file);

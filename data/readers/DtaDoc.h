@@ -13,6 +13,7 @@ public:
                                                 VariableAttribute attribute) const override;
     [[nodiscard]] std::string formatNumeric(double number, std::string_view format, int width,
                                             int decimals) const override;
+    [[nodiscard]] DateScale dateScale(int column) const override;
 
 private:
     class Load;

@@ -92,6 +92,11 @@ std::string SavDoc::formatNumeric(double number, std::string_view format, int, i
     return spss::formatNumeric(number, format);
 }
 
+DateScale SavDoc::dateScale(int column) const
+{
+    return DateScale::ofSpss(m_formats[static_cast<std::size_t>(column)]);
+}
+
 std::string SavDoc::Load::prepare(const FileReader& file, ParserInput& input)
 {
     m_input = &input;

@@ -10,6 +10,7 @@ public:
 
     [[nodiscard]] std::string formatNumeric(double number, std::string_view format, int width,
                                             int decimals) const override;
+    [[nodiscard]] DateScale dateScale(int column) const override;
 
 private:
     class Load;

@@ -1,6 +1,5 @@
 #include "grid/filter/ConditionCompiler.h"
 
-#include "grid/filter/DateScale.h"
 #include "grid/filter/NumberTests.h"
 #include "grid/filter/ParseError.h"
 #include "grid/filter/TextTests.h"
@@ -35,7 +34,7 @@ RowTestPointer negatedIf(bool negated, RowTestPointer test)
 
 NumberColumn numberColumn(const StatDataset& dataset, int variable)
 {
-    return {CellColumn(dataset, variable), missingnumbers::markOf(dataset, variable)};
+    return {CellColumn(dataset, variable), dataset.missingMark(variable)};
 }
 
 TextColumn textColumn(const StatDataset& dataset, int variable)
@@ -197,15 +196,16 @@ RowTestPointer ConditionCompiler::isMissing(int variable) const
         return numbertests::isMissing(numberColumn(m_dataset, variable));
     }
     std::vector<std::string> texts{{}};
-    if (m_dataset.sourceKind() == SourceKind::R) {
-        texts.emplace_back(missingnumbers::textInR);
+    if (const std::string_view text = m_dataset.missingText(variable); !text.empty()) {
+        texts.emplace_back(text);
     }
     return texttests::isOneOf(textColumn(m_dataset, variable), std::move(texts));
 }
 
 double ConditionCompiler::storedCount(int variable, const LiteralValue& value) const
 {
-    const std::optional<double> count = DateScale::of(m_dataset, variable).storedCount(value);
+    const std::optional<double> count =
+        m_dataset.dateScale(variable).storedCount(value.content(), value.number);
     if (!count) {
         throw ParseError(fmt::format(
             "{} does not count days or seconds and cannot be compared with a date or time",

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/Result.h"
+#include "data/values/DateScale.h"
 #include "grid/filter/Condition.h"
 
 #include <string>
@@ -22,9 +23,19 @@ struct LiteralValue
     double number = 0;
     std::string text;  ///< UTF-8, without quotes
 
-    [[nodiscard]] bool isDateOrTime() const
+    /// What `number` counts.
+    [[nodiscard]] DateScale::Content content() const
     {
-        return kind == Kind::Date || kind == Kind::Time || kind == Kind::DateTime;
+        switch (kind) {
+        case Kind::Date:
+            return DateScale::Content::Date;
+        case Kind::Time:
+            return DateScale::Content::Time;
+        case Kind::DateTime:
+            return DateScale::Content::DateTime;
+        default:
+            return DateScale::Content::Number;
+        }
     }
 };
 

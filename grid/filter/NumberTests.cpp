@@ -8,46 +8,31 @@ namespace numbertests {
 namespace {
 
 /// @tparam Holds  asked with each number, NaN for all missing ones
-template <MissingMark mark, typename Holds>
+template <typename Holds>
 class NumberTest : public RowTest
 {
 public:
-    NumberTest(const CellColumn& cells, Holds holds)
-        : m_cells(cells)
+    NumberTest(const NumberColumn& column, Holds holds)
+        : m_column(column)
         , m_holds(std::move(holds))
     { }
 
     [[nodiscard]] std::uint64_t word(std::size_t first, unsigned count) const override
     {
-        return m_cells.word(first, count, [this](const CellValue& cell) {
-            const double number = cells::number(cell);
-            if constexpr (mark != MissingMark::NanOnly) {
-                if (missingnumbers::isMissing(number, mark)) {
-                    return m_holds(std::numeric_limits<double>::quiet_NaN());
-                }
-            }
-            return m_holds(number);
+        return m_column.cells.word(first, count, [this](const CellValue& cell) {
+            return m_holds(m_column.mark.unified(cells::number(cell)));
         });
     }
 
 private:
-    CellColumn m_cells;
+    NumberColumn m_column;
     Holds m_holds;
 };
 
 template <typename Holds>
 RowTestPointer make(const NumberColumn& column, Holds holds)
 {
-    switch (column.mark) {
-    case MissingMark::MinusInfinity:
-        return std::make_unique<NumberTest<MissingMark::MinusInfinity, Holds>>(column.cells, holds);
-    case MissingMark::SmallestInteger:
-        return std::make_unique<NumberTest<MissingMark::SmallestInteger, Holds>>(column.cells,
-                                                                                 holds);
-    case MissingMark::NanOnly:
-        break;
-    }
-    return std::make_unique<NumberTest<MissingMark::NanOnly, Holds>>(column.cells, holds);
+    return std::make_unique<NumberTest<Holds>>(column, std::move(holds));
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include "grid/filter/CellColumn.h"
 #include "grid/filter/CompareOp.h"
-#include "grid/filter/MissingNumbers.h"
 #include "grid/filter/RowTest.h"
 
 #include <vector>

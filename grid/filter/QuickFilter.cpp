@@ -3,9 +3,8 @@
 #include "data/values/NumberText.h"
 #include "data/values/Texts.h"
 #include "grid/filter/DateLiteral.h"
-#include "grid/filter/DateScale.h"
 #include "grid/filter/Lexer.h"
-#include "grid/filter/MissingNumbers.h"
+#include "grid/filter/LiteralValue.h"
 #include "grid/filter/ParseError.h"
 #include "grid/filter/TextTests.h"
 
@@ -20,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Kind = LiteralValue::Kind;
+using Content = DateScale::Content;
 
 bool isIdentifier(QStringView name)
 {
@@ -60,20 +59,20 @@ struct DateText
 };
 
 /// A SAS count as the content of a literal and its suffix.
-std::optional<DateText> dateText(Kind content, double count)
+std::optional<DateText> dateText(Content content, double count)
 {
     std::optional<std::string> text;
     const char* suffix = "";
     switch (content) {
-    case Kind::Date:
+    case Content::Date:
         text = dateliteral::formatDate(count);
         suffix = "d";
         break;
-    case Kind::Time:
+    case Content::Time:
         text = dateliteral::formatTime(count);
         suffix = "t";
         break;
-    case Kind::DateTime:
+    case Content::DateTime:
         text = dateliteral::formatDateTime(count);
         suffix = "dt";
         break;
@@ -93,7 +92,8 @@ std::optional<QString> dateLiteral(const DateScale& scale, double stored)
     const QString text =
         QString::fromStdString(fmt::format("\"{}\"{}", written->text, written->suffix));
     const Result<LiteralValue> read = valueOf({TokenKind::String, text});
-    const bool isSame = read && scale.storedCount(read.value()) == stored;
+    const bool isSame =
+        read && scale.storedCount(read.value().content(), read.value().number) == stored;
     return isSame ? std::optional(text) : std::nullopt;
 }
 
@@ -191,13 +191,13 @@ Result<QString> QuickFilter::literal(const Value& value) const
 
 Result<QString> QuickFilter::number(double value) const
 {
-    if (missingnumbers::isMissing(value, missingnumbers::markOf(m_dataset, m_variable))) {
+    if (m_dataset.missingMark(m_variable).isMissing(value)) {
         return QString(u'.');
     }
     if (std::isinf(value)) {
         return Failure{"An infinite number cannot be written in a filter"};
     }
-    if (const auto date = dateLiteral(DateScale::of(m_dataset, m_variable), value)) {
+    if (const auto date = dateLiteral(m_dataset.dateScale(m_variable), value)) {
         return *date;
     }
     return QString::fromStdString(numbertext::shortest(value));

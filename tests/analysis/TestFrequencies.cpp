@@ -214,7 +214,7 @@ TEST(Frequencies, takesNullTextsForEmptyOnes)
     const auto dataset = builder.build();
 
     EXPECT_EQ(plain(*dataset, {1}), Lines{"\"\":3"});
-    EXPECT_EQ(plain(*dataset, {2}), (Lines{"-inf:2", "3:1"})) << "its missing marker is a number";
+    EXPECT_EQ(plain(*dataset, {2}), (Lines{"*:2", "3:1"})) << "its missing marker";
     EXPECT_EQ(distinct(*dataset, {1}), Lines{"\"\":2"});
 
     InMemoryDatasetBuilder nulls;

@@ -208,4 +208,16 @@ TEST(Statistics, describeTheNarrowNumericTypes)
               (Texts{"3", "1", "0.5", "0.5", "0.5", "0.5", "0", "0"}));
 }
 
+TEST(Statistics, takeTheMissingMarkerOfABuiltDatasetForNan)
+{
+    InMemoryDatasetBuilder builder;
+    builder.addVariable({.name = "X"}).addNumber(2).addMissing();
+    const auto dataset = builder.build();
+    Texts texts;
+    for (const Texts& row : describe(*dataset, {0}).rows) {
+        texts.push_back(row.back());
+    }
+    EXPECT_EQ(texts, (Texts{"2", "nan", "nan", "nan", "2", "nan", "nan"}));
+}
+
 }  // namespace

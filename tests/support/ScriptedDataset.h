@@ -10,7 +10,8 @@
 #include <utility>
 #include <variant>
 
-/// A dataset for tests that takes any type codes and claims to come from any kind of file.
+/// A dataset for tests that takes any type codes and claims to come from any kind of file, whose
+/// missing values and dates it has.
 /// Variables first, then rows. Numbers show as plain text, missing ones as a point, under every
 /// type code.
 class ScriptedDataset : public StatDataset
@@ -65,6 +66,32 @@ public:
     {
         m_header.tableName = std::move(name);
         return *this;
+    }
+
+    [[nodiscard]] MissingMark missingMark(int column) const override
+    {
+        const TypeCode type = m_typeCodes[static_cast<std::size_t>(column)];
+        const bool isInteger = type == TypeCode::Int8 || type == TypeCode::Int32;
+        return sourceKind() == SourceKind::R && isInteger ? MissingMark(-2147483648.0)
+                                                          : MissingMark();
+    }
+    [[nodiscard]] std::string_view missingText(int) const override
+    {
+        return sourceKind() == SourceKind::R ? "N/A" : "";
+    }
+    [[nodiscard]] DateScale dateScale(int column) const override
+    {
+        const std::string& format = m_formats[static_cast<std::size_t>(column)];
+        switch (sourceKind()) {
+        case SourceKind::R:
+            return DateScale::ofR(format);
+        case SourceKind::Spss:
+            return DateScale::ofSpss(format);
+        case SourceKind::Stata:
+            return DateScale::ofStata(format);
+        default:
+            return DateScale::ofSas(format);
+        }
     }
 
     [[nodiscard]] std::string cellText(int row, int column) const override

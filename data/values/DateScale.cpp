@@ -1,4 +1,4 @@
-#include "grid/filter/DateScale.h"
+#include "data/values/DateScale.h"
 
 #include "data/values/CivilTime.h"
 
@@ -46,7 +46,7 @@ std::string bareName(const std::string& format)
 }
 
 template <typename Dates, typename DateTimes, typename Times>
-LiteralValue::Kind contentOf(const std::string& format, const Dates& dates,
+DateScale::Content contentOf(const std::string& format, const Dates& dates,
                              const DateTimes& dateTimes, const Times& times)
 {
     const std::string name = bareName(format);
@@ -54,39 +54,21 @@ LiteralValue::Kind contentOf(const std::string& format, const Dates& dates,
         return std::find(names.begin(), names.end(), name) != names.end();
     };
     if (isIn(dates)) {
-        return LiteralValue::Kind::Date;
+        return DateScale::Content::Date;
     }
     if (isIn(dateTimes)) {
-        return LiteralValue::Kind::DateTime;
+        return DateScale::Content::DateTime;
     }
-    return isIn(times) ? LiteralValue::Kind::Time : LiteralValue::Kind::Number;
+    return isIn(times) ? DateScale::Content::Time : DateScale::Content::Number;
 }
 
 }  // namespace
-
-DateScale DateScale::of(const StatDataset& dataset, int variable)
-{
-    const std::string& format = dataset.formats()[static_cast<std::size_t>(variable)];
-    switch (dataset.sourceKind()) {
-    case SourceKind::R:
-        return ofR(format);
-    case SourceKind::Spss:
-        return ofSpss(format);
-    case SourceKind::Stata:
-        return ofStata(format);
-    case SourceKind::Sas:
-    case SourceKind::Csv:
-    case SourceKind::DatasetJson:
-        break;
-    }
-    return ofSas(format);
-}
 
 DateScale DateScale::ofSas(const std::string& format)
 {
     DateScale scale;
     scale.m_content = contentOf(format, sasDates, sasDateTimes, sasTimes);
-    scale.m_unitsPerDay = scale.m_content == Kind::Date ? 1 : secondsPerDay;
+    scale.m_unitsPerDay = scale.m_content == Content::Date ? 1 : secondsPerDay;
     return scale;
 }
 
@@ -106,10 +88,10 @@ DateScale DateScale::ofStata(const std::string& format)
     std::string_view code = format;
     code.remove_prefix(std::min(code.find_first_not_of("%-"), code.size()));
     if (code.starts_with("td") || code.starts_with('d')) {
-        scale.m_content = Kind::Date;
+        scale.m_content = Content::Date;
         scale.m_isSasCount = false;
     } else if (code.starts_with("tc") || code.starts_with("tC")) {
-        scale.m_content = Kind::DateTime;
+        scale.m_content = Content::DateTime;
         scale.m_isSasCount = false;
         scale.m_unitsPerDay = 1000 * secondsPerDay;
     } else {
@@ -122,9 +104,9 @@ DateScale DateScale::ofR(const std::string& format)
 {
     DateScale scale;
     if (format == "%d%b%Y") {
-        scale.m_content = Kind::Date;
+        scale.m_content = Content::Date;
     } else if (format == "%d%b%Y:%H:%M:%S") {
-        scale.m_content = Kind::DateTime;
+        scale.m_content = Content::DateTime;
         scale.m_unitsPerDay = secondsPerDay;
     } else {
         return scale;
@@ -134,25 +116,25 @@ DateScale DateScale::ofR(const std::string& format)
     return scale;
 }
 
-std::optional<double> DateScale::storedCount(const LiteralValue& literal) const
+std::optional<double> DateScale::storedCount(Content what, double sasCount) const
 {
-    if (!literal.isDateOrTime()) {
-        return literal.number;
+    if (what == Content::Number) {
+        return sasCount;
     }
     if (m_countsPeriods) {
         return std::nullopt;
     }
     if (m_isSasCount) {
-        return literal.number;
+        return sasCount;
     }
-    switch (literal.kind) {
-    case Kind::Date:
-        return (literal.number - m_epoch) * m_unitsPerDay;
-    case Kind::DateTime:
-        return secondsToUnits(literal.number - m_epoch * secondsPerDay);
+    switch (what) {
+    case Content::Date:
+        return (sasCount - m_epoch) * m_unitsPerDay;
+    case Content::DateTime:
+        return secondsToUnits(sasCount - m_epoch * secondsPerDay);
     default:
         // A time of day has no epoch, and is not counted in days.
-        return m_unitsPerDay > secondsPerDay ? secondsToUnits(literal.number) : literal.number;
+        return m_unitsPerDay > secondsPerDay ? secondsToUnits(sasCount) : sasCount;
     }
 }
 
@@ -169,9 +151,9 @@ double DateScale::sasCount(double stored) const
         return stored;
     }
     switch (m_content) {
-    case Kind::Date:
+    case Content::Date:
         return stored / m_unitsPerDay + m_epoch;
-    case Kind::DateTime:
+    case Content::DateTime:
         return stored / (m_unitsPerDay / secondsPerDay) + m_epoch * secondsPerDay;
     default:
         return stored;
