@@ -1,14 +1,7 @@
 #pragma once
 
-#include <filesystem>
-#include <string>
+#include <QString>
 
-namespace fuzz {
-
-/// Opens the file, its description alone and as a whole, and every dataset in it; reads whatever
-/// can be read of them.
-/// @return  which promise of the readers is broken; empty when none is. A file that is refused with
-///          a message keeps the promise.
-[[nodiscard]] std::string brokenPromise(const std::filesystem::path& path);
-
-}  // namespace fuzz
+/// Opens the file as every part of the program does, each of its first datasets as description and
+/// as a whole, and aborts with a message where an opened dataset, or a failure, breaks a promise.
+void checkDatasetFile(const QString& path);
