@@ -1,10 +1,7 @@
 #include "cli/CommandLine.h"
 
-#include "cli/ContentsCommand.h"
-#include "cli/FreqCommand.h"
-#include "cli/RowsCommand.h"
+#include "cli/Commands.h"
 #include "cli/Selection.h"
-#include "cli/StatsCommand.h"
 #include "data/FilePath.h"
 #include "data/Version.h"
 

@@ -1,4 +1,4 @@
-#include "cli/ContentsCommand.h"
+#include "cli/Commands.h"
 
 #include <fmt/chrono.h>
 #include <fmt/format.h>
@@ -78,11 +78,7 @@ void printJson(const OpenedDataset& opened, const std::vector<Field>& fields)
                            text != nullptr ? jsonText(*text)
                                            : std::to_string(std::get<1>(field.value)));
     }
-    out += "\"members\":[";
-    for (std::size_t i = 0; i < opened.members.size(); ++i) {
-        out += (i == 0 ? "" : ",") + jsonText(opened.members[i]);
-    }
-    out += "],\"variables\":[";
+    out += fmt::format(R"("members":[{}],"variables":[)", jsonTexts(opened.members));
     for (std::size_t v = 0; v < opened.dataset->names().size(); ++v) {
         out += (v == 0 ? "\n" : ",\n") + variableJson(*opened.dataset, v);
     }
@@ -102,66 +98,46 @@ std::vector<std::string> variableLine(const StatDataset& dataset, std::size_t v)
             dataset.labels()[v]};
 }
 
-const std::vector<std::string>& columnTitles()
+void printFields(const OpenedDataset& opened, const std::vector<Field>& fields)
 {
-    static const std::vector<std::string> titles{
-        "#", "Variable", "Type", "Length", "Format", "Width", "Decimals", "Informat", "Label"};
-    return titles;
-}
-
-void printText(const OpenedDataset& opened, const std::vector<Field>& fields)
-{
-    TextTable head;
+    TableWriter table(OutputFormat::Text);
     for (const Field& field : fields) {
         const auto* text = std::get_if<std::string>(&field.value);
         std::string value = text != nullptr ? *text : std::to_string(std::get<1>(field.value));
         if (!value.empty()) {
-            head.add({field.title, std::move(value)});
+            table.add({field.title, std::move(value)});
         }
     }
     for (const std::string& member : opened.members) {
-        head.add({"Member", member});
+        table.add({"Member", member});
     }
-    head.print({});
+    table.finish();
     print("\n");
-    TextTable table;
-    table.add(columnTitles());
-    for (std::size_t v = 0; v < opened.dataset->names().size(); ++v) {
-        table.add(variableLine(*opened.dataset, v));
-    }
-    table.print({true, false, true, true, false, true, true});
 }
 
-void printTsv(const StatDataset& dataset)
+void printVariables(const StatDataset& dataset, OutputFormat format)
 {
-    const auto printLine = [](const std::vector<std::string>& fields) {
-        std::string line;
-        for (const std::string& field : fields) {
-            line += (line.empty() ? "" : "\t") + tsvText(field);
-        }
-        print(line + '\n');
-    };
-    printLine(columnTitles());
+    TableWriter table(format, {true, false, true, true, false, true, true});
+    table.add(
+        {"#", "Variable", "Type", "Length", "Format", "Width", "Decimals", "Informat", "Label"});
     for (std::size_t v = 0; v < dataset.names().size(); ++v) {
-        printLine(variableLine(dataset, v));
+        table.add(variableLine(dataset, v));
     }
+    table.finish();
 }
 
 }  // namespace
 
 void printContents(const OpenedDataset& opened, const std::string& file, OutputFormat format)
 {
-    switch (format) {
-    case OutputFormat::Json:
+    if (format == OutputFormat::Json) {
         printJson(opened, fieldsOf(opened, file));
-        break;
-    case OutputFormat::Tsv:
-        printTsv(*opened.dataset);
-        break;
-    case OutputFormat::Text:
-        printText(opened, fieldsOf(opened, file));
-        break;
+        return;
     }
+    if (format == OutputFormat::Text) {
+        printFields(opened, fieldsOf(opened, file));
+    }
+    printVariables(*opened.dataset, format);
 }
 
 }  // namespace cli

@@ -1,18 +1,12 @@
-#include "cli/FreqCommand.h"
-
 #include "analysis/Frequencies.h"
+#include "cli/Commands.h"
 #include "cli/Selection.h"
 
 #include <fmt/format.h>
 
-#include <algorithm>
-
 namespace cli {
 
 namespace {
-
-/// Lines for people are aligned so many at a time, so that long lists flow.
-constexpr std::size_t linesPerBlock = 1000;
 
 using Frequencies = std::vector<WordsAndCounts>;
 
@@ -29,107 +23,46 @@ std::vector<std::string> splitAtStars(std::string_view text)
     }
 }
 
-class FreqPrinter
+using Variables = std::vector<int>;
+
+std::vector<std::string> texts(const StatDataset& dataset, const Variables& variables,
+                               const WordsAndCounts& line)
 {
-public:
-    FreqPrinter(const StatDataset& dataset, const std::vector<int>& variables, std::string title)
-        : m_dataset(dataset)
-        , m_variables(variables)
-        , m_title(std::move(title))
-    { }
-    void print(const Frequencies& frequencies, OutputFormat format) const;
-
-private:
-    void printJson(const Frequencies& frequencies) const;
-    void printTsv(const Frequencies& frequencies) const;
-    void printText(const Frequencies& frequencies) const;
-    [[nodiscard]] const std::string& nameOf(int variable) const
-    {
-        return m_dataset.names()[static_cast<std::size_t>(variable)];
+    std::vector<std::string> texts;
+    for (std::size_t i = 0; i < variables.size(); ++i) {
+        texts.push_back(frequencies::displayText(dataset, variables[i], line.values[i]));
     }
-    [[nodiscard]] std::vector<std::string> texts(const WordsAndCounts& line) const;
-
-    const StatDataset& m_dataset;
-    const std::vector<int>& m_variables;
-    std::string m_title;  ///< of the counts
-};
-
-void FreqPrinter::print(const Frequencies& frequencies, OutputFormat format) const
-{
-    switch (format) {
-    case OutputFormat::Json:
-        printJson(frequencies);
-        break;
-    case OutputFormat::Tsv:
-        printTsv(frequencies);
-        break;
-    case OutputFormat::Text:
-        printText(frequencies);
-        break;
-    }
+    return texts;
 }
 
-void FreqPrinter::printJson(const Frequencies& frequencies) const
+void printJson(const StatDataset& dataset, const Variables& variables,
+               const Frequencies& frequencies)
 {
     for (const WordsAndCounts& one : frequencies) {
-        std::string values;
-        for (const std::string& text : texts(one)) {
-            values += values.empty() ? "" : ",";
-            values += jsonText(text);
-        }
-        cli::print(fmt::format("{{\"values\":[{}],\"count\":{}}}\n", values, one.count));
+        print(fmt::format("{{\"values\":[{}],\"count\":{}}}\n",
+                          jsonTexts(texts(dataset, variables, one)), one.count));
     }
 }
 
-void FreqPrinter::printTsv(const Frequencies& frequencies) const
-{
-    std::string line;
-    for (const int variable : m_variables) {
-        line += tsvText(nameOf(variable)) + '\t';
-    }
-    cli::print(line + tsvText(m_title) + '\n');
-    for (const WordsAndCounts& one : frequencies) {
-        line.clear();
-        for (const std::string& text : texts(one)) {
-            line += tsvText(text) + '\t';
-        }
-        cli::print(line + std::to_string(one.count) + '\n');
-    }
-}
-
-void FreqPrinter::printText(const Frequencies& frequencies) const
+void printTable(const StatDataset& dataset, const Variables& variables,
+                const Frequencies& frequencies, const std::string& title, OutputFormat format)
 {
     std::vector<std::string> titles;
     std::vector<bool> alignRight;
-    for (const int variable : m_variables) {
-        titles.push_back(nameOf(variable));
-        alignRight.push_back(m_dataset.isNumeric(variable));
+    for (const int variable : variables) {
+        titles.push_back(dataset.names()[static_cast<std::size_t>(variable)]);
+        alignRight.push_back(dataset.isNumeric(variable));
     }
-    titles.push_back(m_title);
+    titles.push_back(title);
     alignRight.push_back(true);
-    TextTable table;
-    table.add(std::move(titles));
-    for (std::size_t i = 0; i < frequencies.size(); ++i) {
-        std::vector<std::string> line;
-        for (const std::string& text : texts(frequencies[i])) {
-            line.push_back(tsvText(text));
-        }
-        line.push_back(std::to_string(frequencies[i].count));
-        table.add(std::move(line));
-        if ((i + 1) % linesPerBlock == 0) {
-            table.print(alignRight);
-        }
+    TableWriter table(format, std::move(alignRight));
+    table.add(titles);
+    for (const WordsAndCounts& one : frequencies) {
+        std::vector<std::string> line = texts(dataset, variables, one);
+        line.push_back(std::to_string(one.count));
+        table.add(line);
     }
-    table.print(alignRight);
-}
-
-std::vector<std::string> FreqPrinter::texts(const WordsAndCounts& line) const
-{
-    std::vector<std::string> texts;
-    for (std::size_t i = 0; i < m_variables.size(); ++i) {
-        texts.push_back(frequencies::displayText(m_dataset, m_variables[i], line.values[i]));
-    }
-    return texts;
+    table.finish();
 }
 
 }  // namespace
@@ -142,13 +75,16 @@ Result<bool> printFrequencies(const StatDataset& dataset, const FreqRequest& req
     if (!variables) {
         return Failure{variables.error()};
     }
-    const std::string title =
-        request.distinct ? fmt::format("Freq ({})", request.idName) : std::string("Frequency");
-    FreqPrinter(dataset, variables.value(), title)
-        .print(request.distinct
-                   ? frequencies::distinctIds(dataset, variables.value(), request.idName)
-                   : frequencies::plain(dataset, variables.value()),
-               format);
+    const Frequencies counted = request.distinct
+        ? frequencies::distinctIds(dataset, variables.value(), request.idName)
+        : frequencies::plain(dataset, variables.value());
+    if (format == OutputFormat::Json) {
+        printJson(dataset, variables.value(), counted);
+    } else {
+        const std::string title =
+            request.distinct ? fmt::format("Freq ({})", request.idName) : "Frequency";
+        printTable(dataset, variables.value(), counted, title, format);
+    }
     return true;
 }
 

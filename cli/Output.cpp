@@ -9,23 +9,11 @@
 
 namespace cli {
 
-std::string jsonText(std::string_view text)
-{
-    return nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
-}
+namespace {
 
-std::string jsonNumber(double number)
-{
-    if (std::isnan(number)) {
-        return "null";
-    }
-    if (std::isinf(number)) {
-        return number > 0 ? "\"Infinity\"" : "\"-Infinity\"";  // JSON has no infinite numbers
-    }
-    return fmt::format("{:.17g}", number);
-}
+constexpr std::size_t linesAlignedTogether = 1000;
 
-std::string tsvText(std::string_view text)
+std::string escaped(std::string_view text)
 {
     std::string out;
     out.reserve(text.size());
@@ -50,11 +38,7 @@ std::string tsvText(std::string_view text)
     return out;
 }
 
-void print(std::string_view text)
-{
-    std::fwrite(text.data(), 1, text.size(), stdout);
-}
-
+/// How many columns of a terminal a UTF-8 text takes, counting a character as one.
 std::size_t characterCount(std::string_view text)
 {
     return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
@@ -62,26 +46,77 @@ std::size_t characterCount(std::string_view text)
     }));
 }
 
-void TextTable::print(const std::vector<bool>& alignRight)
+}  // namespace
+
+std::string jsonText(std::string_view text)
 {
-    for (const auto& line : m_lines) {
-        m_widths.resize(std::max(m_widths.size(), line.size()));
-        for (std::size_t i = 0; i < line.size(); ++i) {
-            m_widths[i] = std::max(m_widths[i], characterCount(line[i]));
-        }
+    return nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+std::string jsonTexts(const std::vector<std::string>& texts)
+{
+    std::string out;
+    for (const std::string& text : texts) {
+        out += out.empty() ? "" : ",";
+        out += jsonText(text);
     }
-    for (const auto& line : m_lines) {
-        std::string out;
-        for (std::size_t i = 0; i < line.size(); ++i) {
-            const std::string padding(m_widths[i] - characterCount(line[i]), ' ');
-            const bool right = i < alignRight.size() && alignRight[i];
-            out += i == 0 ? "" : "  ";
-            out += right ? padding + line[i] : line[i] + padding;
-        }
-        out.erase(out.find_last_not_of(' ') + 1);
-        cli::print(out + '\n');
+    return out;
+}
+
+std::string jsonNumber(double number)
+{
+    if (std::isnan(number)) {
+        return "null";
     }
-    m_lines.clear();
+    if (std::isinf(number)) {
+        return number > 0 ? "\"Infinity\"" : "\"-Infinity\"";  // JSON has no infinite numbers
+    }
+    return fmt::format("{:.17g}", number);
+}
+
+void print(std::string_view text)
+{
+    std::fwrite(text.data(), 1, text.size(), stdout);
+}
+
+void TableWriter::add(const std::vector<std::string>& line)
+{
+    std::vector<std::string> cells;
+    m_widths.resize(std::max(m_widths.size(), line.size()));
+    for (const std::string& cell : line) {
+        std::size_t& width = m_widths[cells.size()];
+        cells.push_back(escaped(cell));
+        width = std::max(width, characterCount(cells.back()));
+    }
+    if (m_format == OutputFormat::Tsv) {
+        print(fmt::format("{}\n", fmt::join(cells, "\t")));
+        return;
+    }
+    m_waiting.push_back(std::move(cells));
+    if (m_waiting.size() > linesAlignedTogether) {
+        finish();
+    }
+}
+
+void TableWriter::finish()
+{
+    for (const auto& line : m_waiting) {
+        print(aligned(line));
+    }
+    m_waiting.clear();
+}
+
+std::string TableWriter::aligned(const std::vector<std::string>& line) const
+{
+    std::string out;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const std::string padding(m_widths[i] - characterCount(line[i]), ' ');
+        const bool right = i < m_alignRight.size() && m_alignRight[i];
+        out += i == 0 ? "" : "  ";
+        out += right ? padding + line[i] : line[i] + padding;
+    }
+    out.erase(out.find_last_not_of(' ') + 1);
+    return out + '\n';
 }
 
 }  // namespace cli

@@ -16,28 +16,38 @@ enum class OutputFormat
 /// A JSON string with its quotes; bytes that are no UTF-8 become U+FFFD.
 [[nodiscard]] std::string jsonText(std::string_view text);
 
+/// Such strings, parted by commas.
+[[nodiscard]] std::string jsonTexts(const std::vector<std::string>& texts);
+
 /// A number with 17 significant digits, which read back to the same double; null where missing.
 [[nodiscard]] std::string jsonNumber(double number);
-
-/// A text for one field of a line of tab-separated values: tab, line break and backslash escaped.
-[[nodiscard]] std::string tsvText(std::string_view text);
 
 /// Writes to standard output.
 void print(std::string_view text);
 
-/// How many columns of a terminal a UTF-8 text takes, counting a character as one.
-[[nodiscard]] std::size_t characterCount(std::string_view text);
-
-/// Lines of cells, aligned by the widest of each column.
-class TextTable
+/// Writes a table as text or as tab-separated values, whichever is asked for: the first line holds
+/// the titles. Tabs, line breaks and backslashes are escaped in both.
+class TableWriter
 {
 public:
-    void add(std::vector<std::string> line) { m_lines.push_back(std::move(line)); }
-    /// Aligns column numbers to the right that are listed; prints and forgets the lines.
-    void print(const std::vector<bool>& alignRight);
+    /// @param alignRight  whether each column holds numbers, which text aligns to the right;
+    /// columns
+    ///                    beyond its end hold none
+    explicit TableWriter(OutputFormat format, std::vector<bool> alignRight = {})
+        : m_format(format)
+        , m_alignRight(std::move(alignRight))
+    { }
+    /// Text waits for others that it is aligned with, but not for so many that nothing flows.
+    void add(const std::vector<std::string>& line);
+    /// Prints what is waiting.
+    void finish();
 
 private:
-    std::vector<std::vector<std::string>> m_lines;
+    [[nodiscard]] std::string aligned(const std::vector<std::string>& line) const;
+
+    OutputFormat m_format;
+    std::vector<bool> m_alignRight;
+    std::vector<std::vector<std::string>> m_waiting;
     std::vector<std::size_t> m_widths;
 };
 

@@ -1,6 +1,5 @@
-#include "cli/RowsCommand.h"
-
 #include "analysis/RowSorter.h"
+#include "cli/Commands.h"
 #include "cli/Selection.h"
 
 #include <fmt/format.h>
@@ -14,9 +13,6 @@
 namespace cli {
 
 namespace {
-
-/// Lines for people are aligned so many at a time, so that a large dataset flows.
-constexpr int rowsPerBlock = 1000;
 
 bool sameName(std::string_view one, std::string_view other)
 {
@@ -73,12 +69,10 @@ public:
         , m_variables(std::move(variables))
         , m_raw(raw)
     { }
-    void print(std::span<const std::uint32_t> observations, OutputFormat format) const;
+    void printJson(std::span<const std::uint32_t> observations) const;
+    void printTable(std::span<const std::uint32_t> observations, OutputFormat format) const;
 
 private:
-    void printJson(std::span<const std::uint32_t> observations) const;
-    void printTsv(std::span<const std::uint32_t> observations) const;
-    void printText(std::span<const std::uint32_t> observations) const;
     [[nodiscard]] std::string plainCell(int observation, int variable) const;
     [[nodiscard]] std::string jsonCell(int observation, int variable) const;
 
@@ -106,21 +100,6 @@ std::string RowPrinter::jsonCell(int observation, int variable) const
         : jsonText(plainCell(observation, variable));
 }
 
-void RowPrinter::print(std::span<const std::uint32_t> observations, OutputFormat format) const
-{
-    switch (format) {
-    case OutputFormat::Json:
-        printJson(observations);
-        break;
-    case OutputFormat::Tsv:
-        printTsv(observations);
-        break;
-    case OutputFormat::Text:
-        printText(observations);
-        break;
-    }
-}
-
 void RowPrinter::printJson(std::span<const std::uint32_t> observations) const
 {
     for (const std::uint32_t number : observations) {
@@ -134,46 +113,25 @@ void RowPrinter::printJson(std::span<const std::uint32_t> observations) const
     }
 }
 
-void RowPrinter::printTsv(std::span<const std::uint32_t> observations) const
+void RowPrinter::printTable(std::span<const std::uint32_t> observations, OutputFormat format) const
 {
-    std::string header = "Obs";
-    for (const int variable : m_variables) {
-        header += '\t' + tsvText(m_dataset.names()[static_cast<std::size_t>(variable)]);
-    }
-    cli::print(header + '\n');
-    for (const std::uint32_t number : observations) {
-        const int observation = static_cast<int>(number);
-        std::string line = std::to_string(observation + 1);
-        for (const int variable : m_variables) {
-            line += '\t' + tsvText(plainCell(observation, variable));
-        }
-        cli::print(line + '\n');
-    }
-}
-
-void RowPrinter::printText(std::span<const std::uint32_t> observations) const
-{
-    TextTable table;
-    std::vector<std::string> titles{"Obs"};
+    std::vector<std::string> line{"Obs"};
     std::vector<bool> alignRight{true};
     for (const int variable : m_variables) {
-        titles.push_back(m_dataset.names()[static_cast<std::size_t>(variable)]);
+        line.push_back(m_dataset.names()[static_cast<std::size_t>(variable)]);
         alignRight.push_back(m_dataset.isNumeric(variable));
     }
-    table.add(titles);
-    int lines = 0;
+    TableWriter table(format, std::move(alignRight));
+    table.add(line);
     for (const std::uint32_t number : observations) {
         const int observation = static_cast<int>(number);
-        std::vector<std::string> line{std::to_string(observation + 1)};
+        line.assign({std::to_string(observation + 1)});
         for (const int variable : m_variables) {
-            line.push_back(tsvText(plainCell(observation, variable)));
+            line.push_back(plainCell(observation, variable));
         }
-        table.add(std::move(line));
-        if (++lines % rowsPerBlock == 0) {
-            table.print(alignRight);
-        }
+        table.add(line);
     }
-    table.print(alignRight);
+    table.finish();
 }
 
 }  // namespace
@@ -194,7 +152,12 @@ Result<bool> printRows(const StatDataset& dataset, const RowsRequest& request, O
         return !dataset.datasetFilterMask()[observation];
     });
     observations.resize(std::min(observations.size(), static_cast<std::size_t>(request.first)));
-    RowPrinter(dataset, variables.value(), request.raw).print(observations, format);
+    const RowPrinter printer(dataset, variables.value(), request.raw);
+    if (format == OutputFormat::Json) {
+        printer.printJson(observations);
+    } else {
+        printer.printTable(observations, format);
+    }
     return true;
 }
 

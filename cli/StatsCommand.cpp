@@ -1,6 +1,5 @@
-#include "cli/StatsCommand.h"
-
 #include "analysis/Statistics.h"
+#include "cli/Commands.h"
 #include "cli/Selection.h"
 
 #include <fmt/format.h>
@@ -9,51 +8,13 @@ namespace cli {
 
 namespace {
 
-using Line = std::vector<std::string>;
-
-std::string joined(const Line& line, std::string_view separator,
-                   std::string (*written)(std::string_view))
-{
-    std::string text;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        text += i == 0 ? "" : separator;
-        text += written(line[i]);
-    }
-    return text;
-}
-
 void printJson(const statistics::Table& table)
 {
     std::string rows;
-    for (const Line& line : table.rows) {
-        rows += rows.empty() ? "[" : ",[";
-        rows += joined(line, ",", jsonText) + ']';
+    for (const auto& line : table.rows) {
+        rows += fmt::format("{}[{}]", rows.empty() ? "" : ",", jsonTexts(line));
     }
-    print(fmt::format("{{\"header\":[{}],\"rows\":[{}]}}\n", joined(table.header, ",", jsonText),
-                      rows));
-}
-
-void printTsv(const statistics::Table& table)
-{
-    print(joined(table.header, "\t", tsvText) + '\n');
-    for (const Line& line : table.rows) {
-        print(joined(line, "\t", tsvText) + '\n');
-    }
-}
-
-/// @param alignRight  whether each column holds numbers
-void printText(const statistics::Table& table, const std::vector<bool>& alignRight)
-{
-    TextTable text;
-    text.add(table.header);
-    for (const Line& line : table.rows) {
-        Line cells;
-        for (const std::string& cell : line) {
-            cells.push_back(tsvText(cell));
-        }
-        text.add(std::move(cells));
-    }
-    text.print(alignRight);
+    print(fmt::format("{{\"header\":[{}],\"rows\":[{}]}}\n", jsonTexts(table.header), rows));
 }
 
 Failure failureOf(statistics::Problem problem, const std::string& variable)
@@ -86,15 +47,18 @@ Result<bool> printStatistics(const StatDataset& dataset, const StatsRequest& req
     const auto& table = std::get<statistics::Table>(described);
     if (format == OutputFormat::Json) {
         printJson(table);
-    } else if (format == OutputFormat::Tsv) {
-        printTsv(table);
     } else {
         std::vector<bool> alignRight(table.header.size(), true);
         for (std::size_t i = 0; i < by.value().size(); ++i) {
             alignRight[i] = dataset.isNumeric(by.value()[i]);
         }
         alignRight[0] = alignRight[0] && !by.value().empty();
-        printText(table, alignRight);
+        TableWriter writer(format, std::move(alignRight));
+        writer.add(table.header);
+        for (const auto& line : table.rows) {
+            writer.add(line);
+        }
+        writer.finish();
     }
     return true;
 }

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "cli/Output.h"
+#include "data/readers/DatasetFile.h"
+#include "data/Result.h"
+#include "data/StatDataset.h"
+
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace cli {
+
+/// Prints what a file says of its dataset and variables.
+void printContents(const OpenedDataset& opened, const std::string& file, OutputFormat format);
+
+struct RowsRequest
+{
+    std::vector<std::string> keep;  ///< variable names; empty for all
+    std::vector<std::string> drop;
+    std::vector<std::string> sort;  ///< "NAME" or "NAME:desc"
+    int first = std::numeric_limits<int>::max();
+    bool raw = false;
+};
+
+/// Prints the observations that the dataset's filter selects: number and cells, as the grid shows
+/// them or as they are stored. A failure names the variable, and nothing has been printed then.
+[[nodiscard]] Result<bool> printRows(const StatDataset& dataset, const RowsRequest& request,
+                                     OutputFormat format);
+
+struct FreqRequest
+{
+    std::string variables;  ///< names joined by "*": "SEX*RACE"
+    bool distinct = false;  ///< count subjects instead of observations
+    std::string idName = "USUBJID";  ///< the variable that identifies a subject
+};
+
+/// Prints how often each combination of values occurs in the observations that the filters select,
+/// in ascending order: values as a window shows them, and the count. A failure names the variable,
+/// and nothing has been printed then.
+[[nodiscard]] Result<bool> printFrequencies(const StatDataset& dataset, const FreqRequest& request,
+                                            OutputFormat format);
+
+struct StatsRequest
+{
+    std::string variable;
+    std::vector<std::string> by;  ///< variable names; empty for one sample
+};
+
+/// Prints the statistics of a numeric variable in the observations that the filters select, or in
+/// each group of them. A failure names the variable, and nothing has been printed then.
+[[nodiscard]] Result<bool> printStatistics(const StatDataset& dataset, const StatsRequest& request,
+                                           OutputFormat format);
+
+}  // namespace cli
