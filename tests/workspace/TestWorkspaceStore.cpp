@@ -18,32 +18,28 @@ class TestWorkspaceStore : public QObject
 private slots:
     void init();
     void cleanup();
-    void newStoreHasTheTables_data();
     void newStoreHasTheTables();
-    void optionsAreKept();
-    void optionWithoutAValueYieldsTheDefault();
-    void optionOfAnUnusableStoreYieldsTheDefault();
-    void storeStandsInTheFirstPlaceThereIs_data();
-    void storeStandsInTheFirstPlaceThereIs();
-    void folderIsCreatedWithItsParents();
-    void olderStoreIsBroughtUpToDate_data();
-    void olderStoreIsBroughtUpToDate();
-    void halfUpdatedStoreIsFinished();
-    void secondStartChangesNothing();
-    void unusableStoreFails_data();
-    void unusableStoreFails();
-    void storeWithoutAPlaceFails_data();
-    void storeWithoutAPlaceFails();
-    void storeWithoutAnyLocationFails();
-    void lockedStoreFailsSoon();
-    void storeThatCannotBeWrittenIsStillRead();
     void deletingASessionDeletesItsDatasets();
-    void connectionGoesWithTheStore();
-    void twoStoresDoNotMeet();
+    void optionsAreKeptByEachStoreForItself();
+    void optionThatCannotBeReadOrWrittenIsNoHarm();
+    void storeStandsInTheFirstPlaceThereIs();
+    void olderStoreIsBroughtUpToDate();
+    void unusableStoreFails();
+    void damagedStoreFails();
+    void storeWithoutAPlaceFails();
+    void lockedStoreFailsSoon();
 
 private:
+    using Store = std::unique_ptr<WorkspaceStore>;
+
     [[nodiscard]] QString path(const QString& name) const { return m_folder->filePath(name); }
-    [[nodiscard]] WorkspaceStore store() const { return WorkspaceStore({m_folder->path(), {}}); }
+    /// A store in the folder of the test, or in one of that name below it.
+    [[nodiscard]] Store store(const QString& name = ".") const
+    {
+        return std::make_unique<WorkspaceStore>(StoreLocations{path(name), {}});
+    }
+    [[nodiscard]] QString logged() { return QString::fromStdString(m_log->take()); }
+    void begin(const QString& folder = ".");
     void run(const QStringList& statements);
     [[nodiscard]] QStringList rows(const QString& query);
 
@@ -57,15 +53,23 @@ void TestWorkspaceStore::init()
     m_folder = std::make_unique<QTemporaryDir>();
     m_log = std::make_unique<LogCapture>();
     m_probe = QSqlDatabase::addDatabase("QSQLITE", "probe");
-    m_probe.setDatabaseName(path("quorlane.db"));
+    begin();
+}
+
+/// From now on the probe looks into the store in that folder below the one of the test.
+void TestWorkspaceStore::begin(const QString& folder)
+{
+    m_probe.close();
+    QVERIFY(QDir(m_folder->path()).mkpath(folder));
+    m_probe.setDatabaseName(path(folder + "/quorlane.db"));
 }
 
 void TestWorkspaceStore::cleanup()
 {
     m_probe = {};
     QSqlDatabase::removeDatabase("probe");
-    // Every message that a test expects it has taken.
-    QCOMPARE(m_log->take(), "");
+    // Every message that a test expects it has taken, and connections go with their stores.
+    QCOMPARE(logged(), "");
     m_log.reset();
     QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
 }
@@ -80,7 +84,7 @@ void TestWorkspaceStore::run(const QStringList& statements)
     }
 }
 
-/// One text a row, its values parted by bars, NULL written as such.
+/// One text a row, its values parted by bars.
 QStringList TestWorkspaceStore::rows(const QString& statement)
 {
     QStringList rows;
@@ -91,318 +95,198 @@ QStringList TestWorkspaceStore::rows(const QString& statement)
     while (query.next()) {
         QStringList values;
         for (int column = 0; column < query.record().count(); ++column) {
-            values << (query.isNull(column) ? "NULL" : query.value(column).toString());
+            values << query.value(column).toString();
         }
         rows << values.join('|');
     }
     return rows;
 }
 
-void TestWorkspaceStore::newStoreHasTheTables_data()
-{
-    QTest::addColumn<QString>("table");
-    QTest::addColumn<QStringList>("columns");
-    // Name, type, whether it must be given, default, place in the primary key.
-    QTest::newRow("library")
-        << "library"
-        << QStringList{"id|INTEGER|0|NULL|1",           "dir|TEXT|1|NULL|0",
-                       "libAlias|TEXT|0|NULL|0",        "libName|TEXT|0|NULL|0",
-                       "libFilter|TEXT|0|NULL|0",       "watchChangesFlag|INTEGER|0|NULL|0",
-                       "autoOpenFlag|INTEGER|0|NULL|0", "color|TEXT|0|NULL|0",
-                       "sortOrder|INTEGER|0|NULL|0",    "bookmarkData|BLOB|0|NULL|0"};
-    QTest::newRow("option") << "option" << QStringList{"key|TEXT|0|NULL|1", "value|TEXT|0|NULL|0"};
-    QTest::newRow("session") << "session"
-                             << QStringList{"id|INTEGER|0|NULL|1", "name|TEXT|1|NULL|0",
-                                            "createdAt|TEXT|0|CURRENT_TIMESTAMP|0",
-                                            "updatedAt|TEXT|0|CURRENT_TIMESTAMP|0"};
-    QTest::newRow("session_dataset")
-        << "session_dataset"
-        << QStringList{"id|INTEGER|0|NULL|1",         "session_id|INTEGER|1|NULL|0",
-                       "position|INTEGER|1|0|0",      "filePath|TEXT|1|NULL|0",
-                       "datasetName|TEXT|0|NULL|0",   "libraryFilter|TEXT|0|NULL|0",
-                       "datasetFilter|TEXT|0|NULL|0", "hiddenVariables|TEXT|0|NULL|0"};
-}
-
 void TestWorkspaceStore::newStoreHasTheTables()
 {
-    QFETCH(QString, table);
-    WorkspaceStore store = this->store();
-    QVERIFY(store.initDatabase());
-    QTEST(rows("SELECT name, type, \"notnull\", dflt_value, pk FROM pragma_table_info('" + table
-               + "')"),
-          "columns");
+    const Store store = this->store();
+    QVERIFY(store->initDatabase());
+    // Other versions read them: name, type, default, and * where a value must be given.
+    QCOMPARE(rows("SELECT t.name || ': ' || group_concat(c.name || ' ' || c.type || "
+                  "iif(c.\"notnull\", '*', '') || ifnull(' ' || c.dflt_value, ''), ', ') "
+                  "FROM sqlite_master t, pragma_table_info(t.name) c "
+                  "WHERE t.type = 'table' AND t.name NOT LIKE 'sqlite%' "
+                  "GROUP BY t.name ORDER BY t.name"),
+             QStringList(
+                 {"library: id INTEGER, dir TEXT*, libAlias TEXT, libName TEXT, libFilter TEXT, "
+                  "watchChangesFlag INTEGER, autoOpenFlag INTEGER, color TEXT, sortOrder INTEGER, "
+                  "bookmarkData BLOB",
+                  "option: key TEXT, value TEXT",
+                  "session: id INTEGER, name TEXT*, createdAt TEXT CURRENT_TIMESTAMP, "
+                  "updatedAt TEXT CURRENT_TIMESTAMP",
+                  "session_dataset: id INTEGER, session_id INTEGER*, position INTEGER* 0, "
+                  "filePath TEXT*, datasetName TEXT, libraryFilter TEXT, datasetFilter TEXT, "
+                  "hiddenVariables TEXT"}));
     run({"INSERT INTO session (name) VALUES ('Week 12')"});
     QSqlQuery again(m_probe);
     QVERIFY(!again.exec("INSERT INTO session (name) VALUES ('Week 12')"));
 }
 
-void TestWorkspaceStore::optionsAreKept()
+void TestWorkspaceStore::deletingASessionDeletesItsDatasets()
 {
-    {
-        WorkspaceStore store = this->store();
-        QVERIFY(store.initDatabase());
-        store.saveOption("uniqueVarName", "SUBJID");
-        QCOMPARE(store.loadOption("uniqueVarName", "USUBJID"), "SUBJID");
-        store.saveOption("uniqueVarName", "it's \"PATID\"; -- Ä");
-        store.saveOption("other", "1");
+    const Store store = this->store();
+    QVERIFY(store->initDatabase());
+    run({"INSERT INTO session (id, name) VALUES (1, 'a'), (2, 'b')",
+         "INSERT INTO session_dataset (session_id, filePath) VALUES (1, '/x'), (1, '/y'), "
+         "(2, '/z')"});
+    QVERIFY(QSqlQuery(store->database()).exec("DELETE FROM session WHERE id = 1"));
+    QCOMPARE(rows("SELECT session_id, filePath FROM session_dataset"), QStringList("2|/z"));
+}
+
+void TestWorkspaceStore::optionsAreKeptByEachStoreForItself()
+{
+    const Store other = store("other");
+    QVERIFY(other->initDatabase());
+    for (const QString value : {"SUBJID", "it's \"PATID\"; -- Ä"}) {
+        const Store store = this->store();
+        QVERIFY(store->initDatabase());
+        store->saveOption("uniqueVarName", value);
+        QCOMPARE(store->loadOption("uniqueVarName", "USUBJID"), value);
     }
-    WorkspaceStore store = this->store();
-    QVERIFY(store.initDatabase());
-    QCOMPARE(store.loadOption("uniqueVarName", "USUBJID"), "it's \"PATID\"; -- Ä");
-    QCOMPARE(rows("SELECT COUNT(*) FROM option"), QStringList("2"));
+    const Store store = this->store();
+    QVERIFY(store->initDatabase());
+    QCOMPARE(store->loadOption("uniqueVarName", "USUBJID"), "it's \"PATID\"; -- Ä");
+    QCOMPARE(other->loadOption("uniqueVarName", "USUBJID"), "USUBJID");
 }
 
-void TestWorkspaceStore::optionWithoutAValueYieldsTheDefault()
+void TestWorkspaceStore::optionThatCannotBeReadOrWrittenIsNoHarm()
 {
-    WorkspaceStore store = this->store();
-    QVERIFY(store.initDatabase());
-    QCOMPARE(store.loadOption("uniqueVarName", "USUBJID"), "USUBJID");
+    const Store store = this->store();
+    QVERIFY(store->initDatabase());
+    store->saveOption("uniqueVarName", "SUBJID");
+    // As a file without the permission to write, which would not keep an administrator off.
+    QSqlQuery(store->database()).exec("PRAGMA query_only = ON");
+    store->saveOption("uniqueVarName", "PATID");
+    QVERIFY(logged().startsWith("error: Error: Failed to save option to database."));
+    QCOMPARE(store->loadOption("uniqueVarName", "USUBJID"), "SUBJID");
     run({"DROP TABLE option"});
-    QCOMPARE(store.loadOption("uniqueVarName", "USUBJID"), "USUBJID");
-}
+    QCOMPARE(store->loadOption("uniqueVarName", "USUBJID"), "USUBJID");
 
-void TestWorkspaceStore::optionOfAnUnusableStoreYieldsTheDefault()
-{
-    WorkspaceStore store({{}, {}});
-    QVERIFY(!store.initDatabase());
-    QVERIFY(!m_log->take().empty());
-    QCOMPARE(store.loadOption("uniqueVarName", "USUBJID"), "USUBJID");
-    store.saveOption("uniqueVarName", "SUBJID");
-    QVERIFY(m_log->take().starts_with("error: Error: Failed to save option to database."));
-}
-
-void TestWorkspaceStore::storeStandsInTheFirstPlaceThereIs_data()
-{
-    QTest::addColumn<QString>("home");
-    QTest::addColumn<QString>("appData");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("log");
-    QTest::newRow("home") << "home"
-                          << "data"
-                          << "home/quorlane.db"
-                          << "";
-    QTest::newRow("no home") << ""
-                             << "data"
-                             << "data/quorlane.db"
-                             << "warning: Warning: No writable home location, falling back to "
-                                "AppDataLocation.\n";
+    WorkspaceStore unusable({{}, {}});
+    QVERIFY(!unusable.initDatabase());
+    QVERIFY(!logged().isEmpty());
+    QCOMPARE(unusable.loadOption("uniqueVarName", "USUBJID"), "USUBJID");
+    unusable.saveOption("uniqueVarName", "SUBJID");
+    QVERIFY(logged().startsWith("error: Error: Failed to save option to database."));
 }
 
 void TestWorkspaceStore::storeStandsInTheFirstPlaceThereIs()
 {
-    QFETCH(QString, home);
-    QFETCH(QString, appData);
-    QFETCH(QString, file);
-    WorkspaceStore store({home.isEmpty() ? QString() : path(home), path(appData)});
-    QVERIFY(store.initDatabase());
-    QVERIFY(QFile::exists(path(file)));
-    QTEST(QString::fromStdString(m_log->take()), "log");
-}
-
-void TestWorkspaceStore::folderIsCreatedWithItsParents()
-{
-    WorkspaceStore store({path("a/b/ü"), {}});
-    QVERIFY(store.initDatabase());
-    QVERIFY(QFile::exists(path("a/b/ü/quorlane.db")));
-}
-
-void TestWorkspaceStore::olderStoreIsBroughtUpToDate_data()
-{
-    QTest::addColumn<QString>("lateColumns");
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<QStringList>("libraries");
-    const QStringList seeded{"2|0|NULL", "3|1|NULL", "7|2|NULL"};
-    QTest::newRow("neither") << "" << QStringList{"sortOrder", "bookmarkData"} << seeded;
-    QTest::newRow("bookmark only")
-        << ", bookmarkData BLOB" << QStringList{"bookmarkData", "sortOrder"} << seeded;
-    QTest::newRow("order only") << ", sortOrder INTEGER DEFAULT 5"
-                                << QStringList{"sortOrder", "bookmarkData"}
-                                << QStringList{"2|5|NULL", "3|5|NULL", "7|5|NULL"};
-    QTest::newRow("in capitals") << ", SORTORDER INTEGER DEFAULT 5, BOOKMARKDATA BLOB"
-                                 << QStringList{"SORTORDER", "BOOKMARKDATA"}
-                                 << QStringList{"2|5|NULL", "3|5|NULL", "7|5|NULL"};
+    for (const QString home : {"home", "a/b/ü", ""}) {
+        WorkspaceStore store({home.isEmpty() ? QString() : path(home), path("data")});
+        QVERIFY(store.initDatabase());
+        QVERIFY(QFile::exists(path((home.isEmpty() ? "data" : home) + "/quorlane.db")));
+        QCOMPARE(logged(),
+                 home.isEmpty() ? "warning: Warning: No writable home location, falling back to "
+                                  "AppDataLocation.\n"
+                                : "");
+    }
 }
 
 void TestWorkspaceStore::olderStoreIsBroughtUpToDate()
 {
-    QFETCH(QString, lateColumns);
-    run({"CREATE TABLE library (id INTEGER PRIMARY KEY AUTOINCREMENT, dir TEXT NOT NULL"
-             + lateColumns + ')',
-         "INSERT INTO library (id, dir) VALUES (7, '/c'), (2, '/a'), (3, '/b')"});
-    WorkspaceStore store = this->store();
-    QVERIFY(store.initDatabase());
-    QTEST(rows("SELECT name FROM pragma_table_info('library')").mid(2), "names");
-    QTEST(rows("SELECT id, sortOrder, bookmarkData FROM library ORDER BY id"), "libraries");
-}
-
-void TestWorkspaceStore::halfUpdatedStoreIsFinished()
-{
-    run({"CREATE TABLE library (id INTEGER PRIMARY KEY, dir TEXT NOT NULL, sortOrder INTEGER)",
-         "CREATE TABLE option (key TEXT PRIMARY KEY, value TEXT)",
-         "INSERT INTO option VALUES ('uniqueVarName', 'SUBJID')"});
-    WorkspaceStore store = this->store();
-    QVERIFY(store.initDatabase());
-    QCOMPARE(store.loadOption("uniqueVarName", "USUBJID"), "SUBJID");
-    QCOMPARE(rows("SELECT name FROM sqlite_master WHERE type = 'table' "
-                  "AND name NOT LIKE 'sqlite%' ORDER BY name"),
-             QStringList({"library", "option", "session", "session_dataset"}));
-}
-
-void TestWorkspaceStore::secondStartChangesNothing()
-{
+    const struct
     {
-        WorkspaceStore store = this->store();
-        QVERIFY(store.initDatabase());
-        run({"INSERT INTO library (dir, sortOrder, bookmarkData) VALUES ('/b', 9, x'00ff')"});
+        const char* lateColumns;
+        const char* names;
+        const char* orders;
+    } table[]{
+        {"", "sortOrder bookmarkData", "0 1 2"},
+        {", bookmarkData BLOB", "bookmarkData sortOrder", "0 1 2"},
+        {", sortOrder INTEGER DEFAULT 5", "sortOrder bookmarkData", "5 5 5"},
+        {", SORTORDER INTEGER DEFAULT 5, BOOKMARKDATA BLOB", "SORTORDER BOOKMARKDATA", "5 5 5"},
+    };
+    int number = 0;
+    for (const auto& row : table) {
+        const QString folder = QString::number(++number);
+        begin(folder);
+        run({QString("CREATE TABLE library (id INTEGER PRIMARY KEY, dir TEXT NOT NULL%1)")
+                 .arg(row.lateColumns),
+             "INSERT INTO library (id, dir) VALUES (7, '/c'), (2, '/a'), (3, '/b')",
+             "CREATE TABLE option (key TEXT PRIMARY KEY, value TEXT)",
+             "INSERT INTO option VALUES ('uniqueVarName', 'SUBJID')"});
+        for (int start = 1; start <= 2; ++start) {
+            const Store store = this->store(folder);
+            QVERIFY(store->initDatabase());
+            QCOMPARE(rows("SELECT name FROM pragma_table_info('library')").mid(2).join(' '),
+                     row.names);
+            QCOMPARE(rows("SELECT sortOrder FROM library ORDER BY id").join(' '), row.orders);
+            QCOMPARE(store->loadOption("uniqueVarName", "USUBJID"), "SUBJID");
+            QCOMPARE(rows("SELECT COUNT(*) FROM session, session_dataset"), QStringList("0"));
+        }
     }
-    const QStringList before = rows("SELECT sql FROM sqlite_master ORDER BY name");
-    WorkspaceStore store = this->store();
-    QVERIFY(store.initDatabase());
-    QCOMPARE(rows("SELECT sql FROM sqlite_master ORDER BY name"), before);
-    QCOMPARE(rows("SELECT id, dir, sortOrder, hex(bookmarkData) FROM library"),
-             QStringList("1|/b|9|00FF"));
-}
-
-void TestWorkspaceStore::unusableStoreFails_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QStringList>("statements");
-    QTest::addColumn<QString>("message");
-    const QByteArray none;
-    QTest::newRow("not a database") << QByteArray("USUBJID,AGE\n").repeated(200) << QStringList()
-                                    << "Error: Failed to create table: library.";
-    QTest::newRow("damaged") << "SQLite format 3" + QByteArray(4081, '\0') << QStringList()
-                             << "Error: Failed to create table: library.";
-    for (const QString name : {"library", "option", "session", "session_dataset"}) {
-        // An index keeps a table from having its name.
-        QTest::newRow(qPrintable("no place for " + name))
-            << none << QStringList{"CREATE TABLE t (x)", "CREATE INDEX " + name + " ON t (x)"}
-            << "Error: Failed to create table: " + name + '.';
-    }
-    QTest::newRow("no place for sortOrder")
-        << none << QStringList{"CREATE VIEW library AS SELECT 1 AS id, 2 AS bookmarkData"}
-        << "Error: Failed to add sortOrder column:";
-    QTest::newRow("no place for bookmarkData")
-        << none << QStringList{"CREATE VIEW library AS SELECT 1 AS id, 2 AS sortOrder"}
-        << "Error: Failed to add bookmarkData column:";
-    QTest::newRow("order refused")
-        << none
-        << QStringList{"CREATE TABLE library (id INTEGER PRIMARY KEY, dir TEXT)",
-                       "INSERT INTO library (dir) VALUES ('/a')",
-                       "CREATE TRIGGER t BEFORE UPDATE ON library "
-                       "BEGIN SELECT RAISE(ABORT, 'no'); END"}
-        << "Error: Failed to seed sortOrder values:";
 }
 
 void TestWorkspaceStore::unusableStoreFails()
 {
-    QFETCH(QByteArray, content);
-    QFETCH(QStringList, statements);
-    QFETCH(QString, message);
-    if (statements.isEmpty()) {
-        QFile file(path("quorlane.db"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    } else {
-        run(statements);
+    QList<std::pair<QStringList, QString>> table{
+        {{"CREATE VIEW library AS SELECT 1 AS id, 2 AS bookmarkData"},
+         "Failed to add sortOrder column:"},
+        {{"CREATE VIEW library AS SELECT 1 AS id, 2 AS sortOrder"},
+         "Failed to add bookmarkData column:"},
+        {{"CREATE TABLE library (id INTEGER PRIMARY KEY, dir TEXT)",
+          "INSERT INTO library (dir) VALUES ('/a')",
+          "CREATE TRIGGER t BEFORE UPDATE ON library BEGIN SELECT RAISE(ABORT, 'no'); END"},
+         "Failed to seed sortOrder values:"},
+    };
+    for (const QString name : {"library", "option", "session", "session_dataset"}) {
+        // An index keeps a table from having its name.
+        table.append({{"CREATE TABLE t (x)", "CREATE INDEX " + name + " ON t (x)"},
+                      "Failed to create table: " + name + '.'});
     }
-    WorkspaceStore store = this->store();
-    QVERIFY(!store.initDatabase());
-    const QString log = QString::fromStdString(m_log->take());
-    QVERIFY2(log.startsWith("error: " + message), qPrintable(log));
-    QCOMPARE(log.count('\n'), 1);
+    for (const auto& [statements, message] : table) {
+        const QString folder = "for " + message;
+        begin(folder);
+        run(statements);
+        QVERIFY(!store(folder)->initDatabase());
+        const QString log = logged();
+        QVERIFY2(log.startsWith("error: Error: " + message), qPrintable(log));
+        QCOMPARE(log.count('\n'), 1);
+    }
 }
 
-void TestWorkspaceStore::storeWithoutAPlaceFails_data()
+void TestWorkspaceStore::damagedStoreFails()
 {
-    QTest::addColumn<QString>("home");
-    QTest::addColumn<QString>("log");
-    QTest::newRow("folder cannot be made")
-        << "file/home"
-        << "error: Error: Failed to create writable directory for session database: ";
-    QTest::newRow("file cannot be opened") << "."
-                                           << "error: Error: Unable to open database! ";
+    for (const QByteArray& content :
+         {QByteArray("USUBJID,AGE\n").repeated(200), "SQLite format 3" + QByteArray(4081, '\0')}) {
+        QFile file(path("quorlane.db"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        file.close();
+        QVERIFY(!store()->initDatabase());
+        QVERIFY(logged().startsWith("error: Error: Failed to create table: library."));
+    }
 }
 
 void TestWorkspaceStore::storeWithoutAPlaceFails()
 {
-    QFETCH(QString, home);
-    QFETCH(QString, log);
     QVERIFY(QDir(m_folder->path()).mkdir("quorlane.db"));
-    QVERIFY(QFile(path("file")).open(QIODevice::WriteOnly));
-    WorkspaceStore store({path(home), path("data")});
-    QVERIFY(!store.initDatabase());
-    QVERIFY(QString::fromStdString(m_log->take()).startsWith(log + path(home)));
-    // The second place is for systems without the first one only.
-    QVERIFY(!QFile::exists(path("data")));
-}
-
-void TestWorkspaceStore::storeWithoutAnyLocationFails()
-{
-    WorkspaceStore store({{}, {}});
-    QVERIFY(!store.initDatabase());
-    QCOMPARE(m_log->take(),
-             "warning: Warning: No writable home location, falling back to AppDataLocation.\n"
-             "error: Error: Unable to determine writable location for session database.\n");
+    QFile file(path("file"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const std::pair<QString, QString> table[]{
+        {path("file/home"), "Failed to create writable directory for session database: "},
+        {path("."), "Unable to open database! "},
+        {"", "Unable to determine writable location for session database.\n"},
+    };
+    for (const auto& [home, message] : table) {
+        QVERIFY(!WorkspaceStore({home, {}}).initDatabase());
+        const QString log = logged();
+        QVERIFY2(log.contains("error: Error: " + message), qPrintable(log));
+    }
 }
 
 void TestWorkspaceStore::lockedStoreFailsSoon()
 {
     run({"CREATE TABLE other (x)", "BEGIN EXCLUSIVE"});
-    WorkspaceStore store = this->store();
     QElapsedTimer timer;
     timer.start();
-    QVERIFY(!store.initDatabase());
+    QVERIFY(!store()->initDatabase());
     QVERIFY(timer.elapsed() < 4000);
-    QVERIFY(m_log->take().starts_with("error: Error: Failed to create table: library."));
-}
-
-void TestWorkspaceStore::storeThatCannotBeWrittenIsStillRead()
-{
-    {
-        WorkspaceStore store = this->store();
-        QVERIFY(store.initDatabase());
-        store.saveOption("uniqueVarName", "SUBJID");
-    }
-    WorkspaceStore store = this->store();
-    QVERIFY(store.initDatabase());
-    // As a file without the permission to write, which would not keep an administrator off.
-    QSqlQuery(store.database()).exec("PRAGMA query_only = ON");
-    store.saveOption("uniqueVarName", "PATID");
-    QVERIFY(m_log->take().starts_with("error: Error: Failed to save option to database."));
-    QCOMPARE(store.loadOption("uniqueVarName", "USUBJID"), "SUBJID");
-}
-
-void TestWorkspaceStore::deletingASessionDeletesItsDatasets()
-{
-    WorkspaceStore store = this->store();
-    QVERIFY(store.initDatabase());
-    run({"INSERT INTO session (id, name) VALUES (1, 'a'), (2, 'b')",
-         "INSERT INTO session_dataset (session_id, filePath) VALUES (1, '/x'), (1, '/y'), "
-         "(2, '/z')"});
-    QVERIFY(QSqlQuery(store.database()).exec("DELETE FROM session WHERE id = 1"));
-    QCOMPARE(rows("SELECT session_id, position, filePath FROM session_dataset"),
-             QStringList("2|0|/z"));
-}
-
-void TestWorkspaceStore::connectionGoesWithTheStore()
-{
-    {
-        WorkspaceStore store = this->store();
-        QVERIFY(store.initDatabase());
-        QVERIFY(store.database().isOpen());
-        QCOMPARE(QSqlDatabase::connectionNames().size(), 2);
-    }
-    QCOMPARE(QSqlDatabase::connectionNames(), QStringList("probe"));
-}
-
-void TestWorkspaceStore::twoStoresDoNotMeet()
-{
-    WorkspaceStore first({path("a"), {}});
-    WorkspaceStore second({path("b"), {}});
-    QVERIFY(first.initDatabase() && second.initDatabase());
-    first.saveOption("uniqueVarName", "SUBJID");
-    QCOMPARE(first.loadOption("uniqueVarName", "USUBJID"), "SUBJID");
-    QCOMPARE(second.loadOption("uniqueVarName", "USUBJID"), "USUBJID");
+    QVERIFY(logged().startsWith("error: Error: Failed to create table: library."));
 }
 
 QTEST_GUILESS_MAIN(TestWorkspaceStore)
