@@ -10,6 +10,36 @@
 #include <QTest>
 #include <QTimer>
 
+namespace {
+
+/// An instance that listens, and what has been handed to it.
+class Listener
+{
+public:
+    explicit Listener(const InstanceChannel& channel)
+        : m_instance(channel)
+    {
+        isListening = m_instance.listen();
+    }
+    void serve() { m_instance.serve(); }
+    [[nodiscard]] QStringList files() const
+    {
+        QStringList files;
+        for (const QList<QVariant>& signal : m_received) {
+            files << signal.first().toString();
+        }
+        return files;
+    }
+
+    bool isListening = false;
+
+private:
+    SingleInstance m_instance;
+    QSignalSpy m_received{&m_instance, &SingleInstance::signalFileReceived};
+};
+
+}  // namespace
+
 /// Both ends of the channel in one process, over sockets in a folder of the test's own.
 class TestSingleInstance : public QObject
 {
@@ -18,16 +48,11 @@ class TestSingleInstance : public QObject
 private slots:
     void init();
     void cleanup();
-    void fileIsHandedOver_data();
-    void fileIsHandedOver();
-    void missingFileIsPassedOver();
+    void pathsThatExistAreHandedOver();
     void eachChunkIsOnePath();
     void filesHandedOverEarlyAreServedLater();
-    void nobodyListening();
-    void newerInstanceTakesTheNameOver();
-    void olderInstanceLeavesTheNameToTheNewer();
-    void staleSocketIsReplaced();
-    void socketIsTheUsersAlone();
+    void newerInstanceTakesTheNameOverAndKeepsIt();
+    void staleSocketIsReplacedByOneForTheUserAlone();
     void nameThatCannotBeTakenIsAFailure();
     void nothingIsHandedToAnotherUser();
     void nameHeldByAnotherUserIsAvoided();
@@ -35,6 +60,12 @@ private slots:
 
 private:
     [[nodiscard]] InstanceChannel channel() const;
+    /// The channel as the program of another user has it.
+    [[nodiscard]] InstanceChannel strangersChannel() const;
+    [[nodiscard]] bool handOver(const QString& file) const
+    {
+        return SingleInstance(channel()).handOver(file);
+    }
     [[nodiscard]] QString write(const QString& name) const;
     [[nodiscard]] QString path(const QString& name) const { return m_folder->filePath(name); }
 
@@ -68,178 +99,105 @@ InstanceChannel TestSingleInstance::channel() const
     return channel;
 }
 
+InstanceChannel TestSingleInstance::strangersChannel() const
+{
+    InstanceChannel stranger = channel();
+    stranger.user += 1;
+    return stranger;
+}
+
 QString TestSingleInstance::write(const QString& name) const
 {
     QFile file(path(name));
     return file.open(QIODevice::WriteOnly) ? file.fileName() : QString();
 }
 
-void TestSingleInstance::fileIsHandedOver_data()
+void TestSingleInstance::pathsThatExistAreHandedOver()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
-    QTest::newRow("plain") << "dm.xpt"
-                           << ""
-                           << "";
-    QTest::newRow("not ASCII") << "Prüfung 試験.xpt"
-                               << ""
-                               << "";
-    QTest::newRow("blanks within") << "a  b.xpt"
-                                   << ""
-                                   << "";
-    QTest::newRow("blanks before") << "dm.xpt"
-                                   << " \t"
-                                   << "";
-    QTest::newRow("line break after") << "dm.xpt"
-                                      << ""
-                                      << "\r\n";
-}
-
-void TestSingleInstance::fileIsHandedOver()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, before);
-    QFETCH(QString, after);
-    SingleInstance running(channel());
-    QSignalSpy received(&running, &SingleInstance::signalFileReceived);
-    QVERIFY(running.listen());
+    Listener running(channel());
+    QVERIFY(running.isListening);
     running.serve();
-
-    const QString file = write(name);
-    QVERIFY(SingleInstance(channel()).handOver(before + file + after));
-
-    QTRY_COMPARE(received.count(), 1);
-    QCOMPARE(received.first().first().toString(), file);
-}
-
-void TestSingleInstance::missingFileIsPassedOver()
-{
-    SingleInstance running(channel());
-    QSignalSpy received(&running, &SingleInstance::signalFileReceived);
-    QVERIFY(running.listen());
-    running.serve();
-    const SingleInstance sender(channel());
-
-    QVERIFY(sender.handOver(path("missing.xpt")));
-    QVERIFY(sender.handOver("   "));
-    // One that does exist shows that the others have been dealt with.
-    const QString file = write("dm.xpt");
-    QVERIFY(sender.handOver(file));
-
-    QTRY_VERIFY(received.count() > 0);
-    QCOMPARE(received.count(), 1);
-    QCOMPARE(received.first().first().toString(), file);
+    QVERIFY(handOver(path("missing.xpt")));
+    QVERIFY(handOver("   "));
+    QStringList files;
+    for (const QString name : {"dm.xpt", "Prüfung 試験.xpt", "a  b.xpt"}) {
+        files << write(name);
+        QVERIFY(handOver(" \t" + files.last() + "\r\n"));
+        QTRY_COMPARE(running.files(), files);
+    }
 }
 
 void TestSingleInstance::eachChunkIsOnePath()
 {
-    SingleInstance running(channel());
-    QSignalSpy received(&running, &SingleInstance::signalFileReceived);
-    QVERIFY(running.listen());
+    Listener running(channel());
     running.serve();
-    const QString first = write("a.xpt");
-    const QString second = write("b.xpt");
-
     QLocalSocket socket;
     socket.connectToServer("channel");
     QVERIFY(socket.waitForConnected());
-    socket.write(first.toUtf8());
-    QTRY_COMPARE(received.count(), 1);
-    socket.write(second.toUtf8());
-    QTRY_COMPARE(received.count(), 2);
-
-    QCOMPARE(received.at(0).first().toString(), first);
-    QCOMPARE(received.at(1).first().toString(), second);
+    QStringList files;
+    for (const QString name : {"a.xpt", "b.xpt"}) {
+        files << write(name);
+        socket.write(files.last().toUtf8());
+        QTRY_COMPARE(running.files(), files);
+    }
 }
 
 void TestSingleInstance::filesHandedOverEarlyAreServedLater()
 {
-    SingleInstance running(channel());
-    QSignalSpy received(&running, &SingleInstance::signalFileReceived);
-    QVERIFY(running.listen());
-    const SingleInstance sender(channel());
+    Listener running(channel());
     QStringList files;
     for (const QString name : {"a.xpt", "b.xpt", "c.xpt"}) {
         files << write(name);
-        QVERIFY(sender.handOver(files.last()));
+        QVERIFY(handOver(files.last()));
         // As a message box during the start does.
         QEventLoop box;
         QTimer::singleShot(0, &box, &QEventLoop::quit);
         box.exec();
     }
-    QCOMPARE(received.count(), 0);
+    QCOMPARE(running.files(), QStringList());
 
     running.serve();
 
-    QTRY_COMPARE(received.count(), 3);
-    QStringList got;
-    for (const QList<QVariant>& signal : received) {
-        got << signal.first().toString();
-    }
-    QCOMPARE(got, files);
+    QTRY_COMPARE(running.files(), files);
 }
 
-void TestSingleInstance::nobodyListening()
+void TestSingleInstance::newerInstanceTakesTheNameOverAndKeepsIt()
 {
-    QVERIFY(!SingleInstance(channel()).handOver(write("dm.xpt")));
-    // A socket that nobody listens on any more.
-    QVERIFY(!write("channel").isEmpty());
-    QVERIFY(!SingleInstance(channel()).handOver(path("dm.xpt")));
-}
-
-void TestSingleInstance::newerInstanceTakesTheNameOver()
-{
-    SingleInstance older(channel());
-    SingleInstance newer(channel());
-    QSignalSpy toOlder(&older, &SingleInstance::signalFileReceived);
-    QSignalSpy toNewer(&newer, &SingleInstance::signalFileReceived);
-    QVERIFY(older.listen());
-    older.serve();
-    QVERIFY(newer.listen());
+    auto older = std::make_unique<Listener>(channel());
+    older->serve();
+    Listener newer(channel());
+    QVERIFY(older->isListening && newer.isListening);
     newer.serve();
+    const QString file = write("dm.xpt");
+    QVERIFY(handOver(file));
+    QTRY_COMPARE(newer.files(), QStringList(file));
+    QCOMPARE(older->files(), QStringList());
 
-    QVERIFY(SingleInstance(channel()).handOver(write("dm.xpt")));
-
-    QTRY_COMPARE(toNewer.count(), 1);
-    QCOMPARE(toOlder.count(), 0);
-}
-
-void TestSingleInstance::olderInstanceLeavesTheNameToTheNewer()
-{
-    auto older = std::make_unique<SingleInstance>(channel());
-    SingleInstance newer(channel());
-    QSignalSpy toNewer(&newer, &SingleInstance::signalFileReceived);
-    QVERIFY(older->listen());
-    QVERIFY(newer.listen());
-    newer.serve();
     older.reset();
 
-    QVERIFY(SingleInstance(channel()).handOver(write("dm.xpt")));
-    QTRY_COMPARE(toNewer.count(), 1);
+    QVERIFY(handOver(file));
+    QTRY_COMPARE(newer.files().size(), 2);
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::System | QDir::Files),
              QStringList({"channel", "dm.xpt"}));
 }
 
-void TestSingleInstance::staleSocketIsReplaced()
+void TestSingleInstance::staleSocketIsReplacedByOneForTheUserAlone()
 {
-    QVERIFY(!write("channel").isEmpty());
-    SingleInstance running(channel());
-    QVERIFY(running.listen());
-    QVERIFY(SingleInstance(channel()).handOver(write("dm.xpt")));
-}
-
-void TestSingleInstance::socketIsTheUsersAlone()
-{
+    const QString file = write("dm.xpt");
+    QVERIFY(!handOver(file));
+    // A socket that nobody listens on any more.
+    const QString socket = write("channel");
+    QVERIFY(!handOver(file));
     {
-        SingleInstance running(channel());
-        QVERIFY(running.listen());
+        const Listener running(channel());
+        QVERIFY(running.isListening);
+        QVERIFY(handOver(file));
         const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup
             | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
-        QVERIFY(QFileInfo::exists(path("channel")));
-        QCOMPARE(QFile::permissions(path("channel")) & others, QFile::Permissions());
+        QVERIFY(QFileInfo::exists(socket));
+        QCOMPARE(QFile::permissions(socket) & others, QFile::Permissions());
     }
-    QVERIFY(!QFileInfo::exists(path("channel")));
+    QVERIFY(!QFileInfo::exists(socket));
 }
 
 void TestSingleInstance::nameThatCannotBeTakenIsAFailure()
@@ -252,55 +210,42 @@ void TestSingleInstance::nameThatCannotBeTakenIsAFailure()
 
 void TestSingleInstance::nothingIsHandedToAnotherUser()
 {
-    SingleInstance running(channel());
-    QSignalSpy received(&running, &SingleInstance::signalFileReceived);
-    QVERIFY(running.listen());
+    Listener running(channel());
     running.serve();
     const QString file = write("dm.xpt");
 
     // For a sender who is somebody else, everything here belongs to another user. The private
     // folder, too, leads to the program that runs.
-    InstanceChannel stranger = channel();
-    stranger.user += 1;
     QVERIFY(QFile::link(path("channel"), path("private/channel")));
-    QVERIFY(!SingleInstance(stranger).handOver(file));
+    QVERIFY(!SingleInstance(strangersChannel()).handOver(file));
 
-    QVERIFY(SingleInstance(channel()).handOver(file));
-    QTRY_COMPARE(received.count(), 1);
+    QVERIFY(handOver(file));
+    QTRY_COMPARE(running.files(), QStringList(file));
 }
 
 void TestSingleInstance::nameHeldByAnotherUserIsAvoided()
 {
-    InstanceChannel stranger = channel();
-    stranger.user += 1;
-    SingleInstance running(channel());
-    QVERIFY(running.listen());
-
-    SingleInstance other(stranger);
-    QVERIFY(other.listen());
+    Listener running(channel());
+    const Listener other(strangersChannel());
+    QVERIFY(running.isListening && other.isListening);
 
     QVERIFY(QFileInfo::exists(path("private/channel")));
-    QSignalSpy received(&running, &SingleInstance::signalFileReceived);
     running.serve();
-    QVERIFY(SingleInstance(channel()).handOver(write("dm.xpt")));
-    QTRY_COMPARE(received.count(), 1);
+    QVERIFY(handOver(write("dm.xpt")));
+    QTRY_COMPARE(running.files().size(), 1);
 }
 
 void TestSingleInstance::privateSocketIsFoundAfterTheNameIsFree()
 {
-    InstanceChannel stranger = channel();
-    stranger.user += 1;
-    auto holder = std::make_unique<SingleInstance>(channel());
-    QVERIFY(holder->listen());
-    SingleInstance evader(stranger);
-    QSignalSpy received(&evader, &SingleInstance::signalFileReceived);
-    QVERIFY(evader.listen());
+    auto holder = std::make_unique<Listener>(channel());
+    Listener evader(strangersChannel());
+    QVERIFY(holder->isListening && evader.isListening);
     evader.serve();
     holder.reset();
 
     // The socket of this process answers to its real user only.
-    QVERIFY(SingleInstance(channel()).handOver(write("dm.xpt")));
-    QTRY_COMPARE(received.count(), 1);
+    QVERIFY(handOver(write("dm.xpt")));
+    QTRY_COMPARE(evader.files().size(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestSingleInstance)

@@ -1,6 +1,7 @@
 #include "app/look/Icons.h"
 #include "app/start/Startup.h"
 #include "app/start/WindowsCheck.h"
+#include "data/Version.h"
 
 #include <gtest/gtest.h>
 
@@ -11,13 +12,16 @@
 
 #include <stdexcept>
 
-TEST(Startup, namesTheApplication)
+TEST(Startup, namesTheApplicationForItsSettings)
 {
     startup::setIdentity();
     EXPECT_EQ(QCoreApplication::organizationName(), QString("Brindlework"));
     EXPECT_EQ(QCoreApplication::organizationDomain(), QString("brindlework.example"));
     EXPECT_EQ(QCoreApplication::applicationName(), QString("Quorlane"));
-    EXPECT_EQ(QCoreApplication::applicationVersion(), QString("2025.10.28"));
+    EXPECT_EQ(QCoreApplication::applicationVersion(), QString(quorlane::version));
+    EXPECT_TRUE(isSupportedSystem());
+    EXPECT_TRUE(startup::unsupportedSystemMessage().endsWith(
+        ": https://quorlane.brindlework.example/download/"));
 }
 
 TEST(Startup, tellsWhatWasThrown)
@@ -38,18 +42,6 @@ TEST(Startup, takesTheFirstArgumentAsAFileAndMakesItAbsolute)
     EXPECT_EQ(startup::fileArgument({"quorlane", ""}), QString());
     EXPECT_EQ(startup::fileArgument({"quorlane", "ae.xpt", "dm.xpt"}), here + "/ae.xpt");
     EXPECT_EQ(startup::fileArgument({"quorlane", "/data/ae.xpt"}), QString("/data/ae.xpt"));
-}
-
-TEST(Startup, sendsUsersOfServerSystemsToTheWebSite)
-{
-    EXPECT_EQ(startup::unsupportedSystemMessage().toStdString(),
-              "This application does not run on Windows Server edition. Please download the server "
-              "edition from the website: https://quorlane.brindlework.example/download/");
-}
-
-TEST(Startup, runsOnEverySystemButServerEditionsOfWindows)
-{
-    EXPECT_TRUE(isSupportedSystem());
 }
 
 TEST(Startup, hasAnIconForSmallAndLargePlaces)
