@@ -2,7 +2,6 @@
 
 #include "data/StatDataset.h"
 
-#include <compare>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -22,31 +21,27 @@ struct WordsAndCounts
 };
 
 /// Counts the combinations of values that variables take in the observations which both filters
-/// select. Results come in the order of compare(). Linear in the observations, whatever their
+/// select.
+///
+/// Results come in ascending order of their values, the first variable counting most. Of two values
+/// the kinds decide first (missing, text, number), then texts bytewise and numbers numerically,
+/// where all NaN are equal and below every number. Linear in the observations, whatever their
 /// order, plus the sort of the distinct values and combinations.
 namespace frequencies {
-
-/// Compares values element by element; a beginning is less than what it begins. Of two elements the
-/// kinds decide first (missing, text, number), then texts bytewise and numbers numerically, where
-/// all NaN are equal and below every number.
-[[nodiscard]] std::weak_ordering compare(std::span<const FreqValue> a,
-                                         std::span<const FreqValue> b);
 
 /// How many observations have each combination. NaN counts as missing.
 [[nodiscard]] std::vector<WordsAndCounts> plain(const StatDataset& dataset,
                                                 std::span<const int> variables);
 
 /// How many distinct subjects have each combination. NaN is a number here, not missing.
-/// @param uniqueVarName  the variable that identifies a subject, in any case of its ASCII letters;
-///                       where there is none, observations are counted as plain() does
+/// @param uniqueVarName  the variable that identifies a subject, in any case of its ASCII letters,
+///                       the first of that name; where there is none, observations are counted as
+///                       plain() does
 /// Subjects differ when their stored texts do. A numeric variable has no stored text: there the
 /// texts that the cells show stand in.
 [[nodiscard]] std::vector<WordsAndCounts> distinctIds(const StatDataset& dataset,
                                                       std::span<const int> variables,
                                                       std::string_view uniqueVarName);
-
-/// The first variable of that name, both in upper case as ASCII has it, or -1.
-[[nodiscard]] int idVariable(const StatDataset& dataset, std::string_view uniqueVarName);
 
 /// The text that stands for a value of the variable in lists of frequencies.
 /// Throws std::bad_variant_access when a character variable comes with something else than a text.

@@ -1,117 +1,38 @@
 #include "analysis/RowSorter.h"
 
+#include "analysis/CodedColumn.h"
 #include "analysis/RadixSort.h"
+#include "analysis/RankedValues.h"
+#include "data/cells/ValueKey.h"
 #include "data/StatDataset.h"
+#include "grid/filter/CellColumn.h"
 
 #include <algorithm>
 #include <cmath>
-#include <compare>
 #include <limits>
 #include <numeric>
-#include <string>
+#include <string_view>
 
 namespace {
 
-std::partial_ordering compareBytes(const std::string& a, const std::string& b)
+/// One rank per observation such that ascending ranks put the observations in the order of a key.
+/// Observations that are equal have equal ranks, and so have those that miss a number.
+using Ranks = std::vector<std::uint64_t>;
+using Rows = std::vector<std::uint32_t>;
+
+// What R datasets hold where a value is missing.
+constexpr std::string_view missingTextOfR = "N/A";
+constexpr double missingIntegerOfR = std::numeric_limits<std::int32_t>::min();
+
+Rows datasetOrder(const StatDataset& dataset)
 {
-    return a.compare(b) <=> 0;  // std::string compares its bytes as unsigned
-}
-
-std::partial_ordering compareTextsInR(const std::string& a, const std::string& b,
-                                      Qt::SortOrder order)
-{
-    const bool missingA = a == rmissing::text;
-    const bool missingB = b == rmissing::text;
-    if (missingA == missingB) {
-        return missingA ? std::partial_ordering::equivalent : compareBytes(a, b);
-    }
-    const bool missingIsGreater = order == Qt::AscendingOrder;
-    return missingA == missingIsGreater ? std::partial_ordering::greater
-                                        : std::partial_ordering::less;
-}
-
-std::partial_ordering compareInR(const StatDataset& dataset, const SortKey& key, int a, int b)
-{
-    const auto [variable, order] = key;
-    const auto number = [&, column = variable](int row) {
-        return dataset.numericValue(row, column);
-    };
-    switch (dataset.typeCodes().at(static_cast<std::size_t>(variable))) {
-    case TypeCode::Character:
-        return compareTextsInR(dataset.stringValue(a, variable), dataset.stringValue(b, variable),
-                               order);
-    case TypeCode::Int16:
-    case TypeCode::Float:
-    case TypeCode::Double:
-        return rowsorter::comparableInR(number(a), order)
-            <=> rowsorter::comparableInR(number(b), order);
-    case TypeCode::Int8:
-    case TypeCode::Int32:
-        return rowsorter::comparableIntegerInR(number(a), order)
-            <=> rowsorter::comparableIntegerInR(number(b), order);
-    }
-    return std::partial_ordering::unordered;
-}
-
-std::partial_ordering compare(const StatDataset& dataset, const SortKey& key, int a, int b)
-{
-    if (dataset.sourceKind() == SourceKind::R) {
-        return compareInR(dataset, key, a, b);
-    }
-    const int variable = key.first;
-    switch (dataset.typeCodes().at(static_cast<std::size_t>(variable))) {
-    case TypeCode::Double:
-        return dataset.numericValue(a, variable) <=> dataset.numericValue(b, variable);
-    case TypeCode::Character:
-        return compareBytes(dataset.stringValue(a, variable), dataset.stringValue(b, variable));
-    default:
-        // Their cells hold numbers, so there is no stored text to compare: the shown one stands in.
-        return compareBytes(dataset.cellText(a, variable), dataset.cellText(b, variable));
-    }
-}
-
-/// Stably reorders rows that are sorted by the later keys by an earlier one.
-void sortByRanks(const std::vector<std::uint64_t>& ranks, std::vector<std::uint32_t>& rows)
-{
-    std::vector<RankedRow> entries;
-    entries.reserve(rows.size());
-    for (const std::uint32_t row : rows) {
-        entries.push_back({ranks[row], row});
-    }
-    radixSort(entries);
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        rows[i] = entries[i].row;
-    }
-}
-
-}  // namespace
-
-namespace rowsorter {
-
-bool goesBefore(const StatDataset& dataset, std::span<const SortKey> keys, int a, int b)
-{
-    for (const SortKey& key : keys) {
-        const std::partial_ordering order = compare(dataset, key, a, b);
-        if (order != std::partial_ordering::equivalent) {
-            return key.second == Qt::AscendingOrder ? order == std::partial_ordering::less
-                                                    : order == std::partial_ordering::greater;
-        }
-    }
-    return false;
-}
-
-void sortObservations(const StatDataset& dataset, std::span<const SortKey> keys,
-                      std::vector<std::uint32_t>& rowMap)
-{
-    std::vector<std::uint32_t> rows(static_cast<std::size_t>(dataset.observationCount()));
+    Rows rows(static_cast<std::size_t>(dataset.observationCount()));
     std::iota(rows.begin(), rows.end(), 0U);
-    for (std::size_t last = keys.size(); last > 0; --last) {
-        sortByRanks(sortRanks(dataset, keys[last - 1]), rows);
-    }
-    rowMap.swap(rows);
+    return rows;
 }
 
-double comparableInR(double number, Qt::SortOrder order)
+/// What stands for a real value of R: for NaN what comes last in the order.
+double realOfR(double number, Qt::SortOrder order)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     if (!std::isnan(number)) {
@@ -120,13 +41,120 @@ double comparableInR(double number, Qt::SortOrder order)
     return order == Qt::AscendingOrder ? infinity : -infinity;
 }
 
-double comparableIntegerInR(double number, Qt::SortOrder order)
+/// The 32-bit integer, as a double, that stands for an integer value of R.
+double integerOfR(double number, Qt::SortOrder order)
 {
     constexpr double largest = std::numeric_limits<std::int32_t>::max();
-    if (std::isnan(number) || number == rmissing::integer) {
-        return order == Qt::AscendingOrder ? largest : rmissing::integer;
+    if (std::isnan(number) || number == missingIntegerOfR) {
+        return order == Qt::AscendingOrder ? largest : missingIntegerOfR;
     }
-    return std::clamp(std::trunc(number), rmissing::integer, largest);
+    return std::clamp(std::trunc(number), missingIntegerOfR, largest);
+}
+
+double numberAsStored(double number, Qt::SortOrder)
+{
+    return number;
+}
+
+/// Both zeros are one number; NaN is below all others.
+template <typename Comparable>
+Ranks ranksOfNumbers(const StatDataset& dataset, const SortKey& key, Comparable comparable)
+{
+    const auto [variable, order] = key;
+    const std::uint64_t flip = order == Qt::DescendingOrder ? ~std::uint64_t{0} : 0;
+    const CellColumn cells(dataset, variable);
+    Ranks ranks(static_cast<std::size_t>(dataset.observationCount()));
+    for (std::size_t row = 0; row < ranks.size(); ++row) {
+        const double number = comparable(std::get<1>(*cells.at(row)), order);
+        ranks[row] = valuekey::of(number == 0.0 ? 0.0 : number) ^ flip;
+    }
+    return ranks;
+}
+
+/// Ranks of the column's texts. `isMissing` tells the one that comes last in both orders.
+template <typename IsMissing>
+Ranks ranksOfTexts(const CodedColumn& column, Qt::SortOrder order, IsMissing isMissing)
+{
+    const RankedValues values(column);
+    const auto count = static_cast<std::uint32_t>(values.size());
+    Rows rankOfCode(count);
+    for (std::uint32_t code = 0; code < count; ++code) {
+        const std::uint32_t rank = values.rankOf(code);
+        rankOfCode[code] = isMissing(values.text(rank)) ? count
+            : order == Qt::AscendingOrder               ? rank
+                                                        : count - 1 - rank;
+    }
+    Ranks ranks(column.codes().size());
+    std::transform(column.codes().begin(), column.codes().end(), ranks.begin(),
+                   [&](std::uint32_t code) { return rankOfCode[code]; });
+    return ranks;
+}
+
+bool noneIsMissing(std::string_view)
+{
+    return false;
+}
+
+Ranks ranksInR(const StatDataset& dataset, const SortKey& key)
+{
+    switch (dataset.typeCodes().at(static_cast<std::size_t>(key.first))) {
+    case TypeCode::Character:
+        return ranksOfTexts(CodedColumn(dataset, key.first, datasetOrder(dataset)), key.second,
+                            [](std::string_view text) { return text == missingTextOfR; });
+    case TypeCode::Int16:
+    case TypeCode::Float:
+    case TypeCode::Double:
+        return ranksOfNumbers(dataset, key, realOfR);
+    case TypeCode::Int8:
+    case TypeCode::Int32:
+        return ranksOfNumbers(dataset, key, integerOfR);
+    }
+    return Ranks(static_cast<std::size_t>(dataset.observationCount()));
+}
+
+Ranks ranksOf(const StatDataset& dataset, const SortKey& key)
+{
+    if (dataset.sourceKind() == SourceKind::R) {
+        return ranksInR(dataset, key);
+    }
+    switch (dataset.typeCodes().at(static_cast<std::size_t>(key.first))) {
+    case TypeCode::Double:
+        return ranksOfNumbers(dataset, key, numberAsStored);
+    case TypeCode::Character:
+        return ranksOfTexts(CodedColumn(dataset, key.first, datasetOrder(dataset)), key.second,
+                            noneIsMissing);
+    default:
+        // Their cells hold numbers, so there is no stored text to compare: the shown one stands in.
+        return ranksOfTexts(CodedColumn::ofShownTexts(dataset, key.first, datasetOrder(dataset)),
+                            key.second, noneIsMissing);
+    }
+}
+
+/// Stably reorders rows that are sorted by the later keys by an earlier one.
+void sortByRanks(const Ranks& ranks, Rows& rows)
+{
+    std::vector<RankedRow> entries;
+    entries.reserve(rows.size());
+    for (const std::uint32_t row : rows) {
+        entries.push_back({ranks[row], row});
+    }
+    radixSort(entries);
+    std::transform(entries.begin(), entries.end(), rows.begin(),
+                   [](const RankedRow& entry) { return entry.row; });
+}
+
+}  // namespace
+
+namespace rowsorter {
+
+void sortObservations(const StatDataset& dataset, std::span<const SortKey> keys,
+                      std::vector<std::uint32_t>& rowMap)
+{
+    Rows rows = datasetOrder(dataset);
+    for (std::size_t last = keys.size(); last > 0; --last) {
+        sortByRanks(ranksOf(dataset, keys[last - 1]), rows);
+    }
+    rowMap.swap(rows);
 }
 
 }  // namespace rowsorter

@@ -1,10 +1,17 @@
 #pragma once
 
-#include "analysis/SortRanks.h"
+#include <Qt>
 
 #include <cstdint>
 #include <span>
+#include <utility>
 #include <vector>
+
+class StatDataset;
+
+/// A variable number and the order that it is sorted in.
+using SortKey = std::pair<int, Qt::SortOrder>;
+using SortKeys = std::vector<SortKey>;
 
 /// Sorting of observations by several variables.
 ///
@@ -17,33 +24,25 @@
 /// In a dataset read from R data missing values come last in both orders: "N/A" among texts, NaN
 /// among the real-valued types (int16, float, double), the smallest 32-bit integer and NaN among
 /// the integer-valued ones (int8, int32). A type that is none of these leaves all rows unordered.
+///
+/// The first key in which two rows are not equal decides between them; where they are unordered,
+/// neither must precede the other and later keys are not asked. Because of that this is a partial
+/// order and no strict weak one, which a library sort must not be given.
 namespace rowsorter {
-
-/// Whether the keys demand that observation a stands before observation b. The first key in which
-/// the two are not equal decides; where they are unordered, neither stands before the other and
-/// later keys are not asked. Because of that this is a partial order and no strict weak one: do not
-/// hand it to a library sort.
-[[nodiscard]] bool goesBefore(const StatDataset& dataset, std::span<const SortKey> keys, int a,
-                              int b);
 
 /// Writes every observation number once to the row map, in the order of the keys.
 ///
-/// The result is a linear extension of goesBefore: no row stands before one that must precede it.
-/// It sorts by the total order in which, key after key, all missing values of a variable are one
-/// value, below every number when ascending and above when descending. Where goesBefore holds, the
-/// rows are equal in every earlier key with no missing value among them, and less in the next: then
-/// they are in that order here too. Rows with a missing value, of which goesBefore says nothing,
-/// are so kept together and ordered by the later keys. Rows equal in every key keep the dataset's
-/// order.
+/// The result is a linear extension of the partial order: no row stands before one that must
+/// precede it. It sorts by the total order in which, key after key, all missing values of a
+/// variable are one value, below every number when ascending and above when descending. Where a row
+/// must precede another, the two are equal in every earlier key with no missing value among them,
+/// and less in the next: then they are in that order here too. Rows with a missing value, of which
+/// the partial order says nothing, are so kept together and ordered by the later keys. Rows equal
+/// in every key keep the dataset's order.
 ///
 /// A failure, such as memory running out, leaves the row map as it was. Linear in the rows for each
 /// key, plus the bytes that tell its distinct texts apart.
 void sortObservations(const StatDataset& dataset, std::span<const SortKey> keys,
                       std::vector<std::uint32_t>& rowMap);
-
-/// The number that stands for a real value of an R dataset: for NaN what comes last in the order.
-[[nodiscard]] double comparableInR(double number, Qt::SortOrder order);
-/// The 32-bit integer, as a double, that stands for an integer value of an R dataset.
-[[nodiscard]] double comparableIntegerInR(double number, Qt::SortOrder order);
 
 }  // namespace rowsorter

@@ -1,8 +1,8 @@
 #include "analysis/Statistics.h"
 
-#include "analysis/FreqGroups.h"
-#include "analysis/FreqNumbers.h"
 #include "analysis/RadixSort.h"
+#include "analysis/RowGroups.h"
+#include "data/cells/ValueKey.h"
 
 #include <array>
 #include <charconv>
@@ -15,83 +15,19 @@ namespace {
 
 constexpr std::array labels{"N", "Mean", "Median", "Min", "Max", "Range", "Std Dev"};
 
-std::array<std::string, labels.size()> textsOf(const Summary& summary)
+/// What a sample amounts to.
+struct Summary
 {
-    return {numberText(summary.count),
-            numberText(summary.mean),
-            numberText(summary.median),
-            numberText(summary.minimum),
-            numberText(summary.maximum),
-            numberText(summary.range),
-            numberText(summary.standardDeviation)};
-}
+    double count = 0;
+    double mean = 0;
+    double median = 0;
+    double minimum = 0;
+    double maximum = 0;
+    double range = 0;
+    double standardDeviation = 0;
+};
 
-/// The variable's values listed group by group, in ascending order within each.
-std::vector<double> samplesOf(const StatDataset& dataset, int variable, const FreqGroups& groups,
-                              const std::vector<std::uint32_t>& rows)
-{
-    const MissingMark mark = dataset.missingMark(variable);
-    std::vector<RankedRow> entries(rows.size());
-    for (std::size_t place = 0; place < rows.size(); ++place) {
-        const double number =
-            mark.unified(dataset.numericValue(static_cast<int>(rows[place]), variable));
-        entries[place] = {freqnumbers::orderedBits(number), groups.groupOfPlace()[place]};
-    }
-    radixSort(entries);
-    std::vector<std::uint32_t> next = groups.starts();
-    std::vector<double> samples(rows.size());
-    for (const RankedRow& entry : entries) {
-        samples[next[entry.row]++] = freqnumbers::numberOf(entry.rank);
-    }
-    return samples;
-}
-
-std::string textOf(const FreqDictionary& dictionary, std::uint32_t rank)
-{
-    return dictionary.isNumeric() ? numberText(dictionary.number(rank))
-                                  : std::string(dictionary.text(rank));
-}
-
-const std::string& nameOf(const StatDataset& dataset, int variable)
-{
-    return dataset.names().at(static_cast<std::size_t>(variable));
-}
-
-Table wholeTable(const std::string& name, const Summary& summary)
-{
-    Table table{{name, "Value"}, {}};
-    const auto texts = textsOf(summary);
-    for (std::size_t i = 0; i < labels.size(); ++i) {
-        table.rows.push_back({labels[i], texts[i]});
-    }
-    return table;
-}
-
-Table groupedTable(const StatDataset& dataset, std::span<const int> byVariables,
-                   const FreqGroups& groups, std::span<const double> samples)
-{
-    Table table;
-    for (const int variable : byVariables) {
-        table.header.push_back(nameOf(dataset, variable));
-    }
-    table.header.insert(table.header.end(), labels.begin(), labels.end());
-    const std::vector<std::uint32_t> starts = groups.starts();
-    for (std::size_t position = 0; position < groups.size(); ++position) {
-        std::vector<std::string>& row = table.rows.emplace_back();
-        const auto ranks = groups.ranksAt(position);
-        for (std::size_t i = 0; i < ranks.size(); ++i) {
-            row.push_back(textOf(groups.dictionaries()[i], ranks[i]));
-        }
-        const std::uint32_t group = groups.inOrder()[position];
-        const auto texts =
-            textsOf(summarise(samples.subspan(starts[group], groups.sizes()[group])));
-        row.insert(row.end(), texts.begin(), texts.end());
-    }
-    return table;
-}
-
-}  // namespace
-
+/// @param ascending  at least one value
 Summary summarise(std::span<const double> ascending)
 {
     const std::size_t count = ascending.size();
@@ -126,6 +62,82 @@ std::string numberText(double number)
     return {text.data(), end.ptr};
 }
 
+std::array<std::string, labels.size()> textsOf(const Summary& summary)
+{
+    return {numberText(summary.count),
+            numberText(summary.mean),
+            numberText(summary.median),
+            numberText(summary.minimum),
+            numberText(summary.maximum),
+            numberText(summary.range),
+            numberText(summary.standardDeviation)};
+}
+
+/// The variable's values listed group by group, in ascending order within each.
+std::vector<double> samplesOf(const StatDataset& dataset, int variable, const RowGroups& groups,
+                              const std::vector<std::uint32_t>& rows)
+{
+    const MissingMark mark = dataset.missingMark(variable);
+    std::vector<RankedRow> entries(rows.size());
+    for (std::size_t place = 0; place < rows.size(); ++place) {
+        const double number =
+            mark.unified(dataset.numericValue(static_cast<int>(rows[place]), variable));
+        entries[place] = {valuekey::of(number), groups.groupOfPlace()[place]};
+    }
+    radixSort(entries);
+    std::vector<std::uint32_t> next = groups.starts();
+    std::vector<double> samples(rows.size());
+    for (const RankedRow& entry : entries) {
+        samples[next[entry.row]++] = valuekey::number(entry.rank);
+    }
+    return samples;
+}
+
+std::string textOf(const RankedValues& values, std::uint32_t rank)
+{
+    return values.isNumeric() ? numberText(values.number(rank)) : std::string(values.text(rank));
+}
+
+const std::string& nameOf(const StatDataset& dataset, int variable)
+{
+    return dataset.names().at(static_cast<std::size_t>(variable));
+}
+
+Table wholeTable(const std::string& name, const Summary& summary)
+{
+    Table table{{name, "Value"}, {}};
+    const auto texts = textsOf(summary);
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        table.rows.push_back({labels[i], texts[i]});
+    }
+    return table;
+}
+
+Table groupedTable(const StatDataset& dataset, std::span<const int> byVariables,
+                   const RowGroups& groups, std::span<const double> samples)
+{
+    Table table;
+    for (const int variable : byVariables) {
+        table.header.push_back(nameOf(dataset, variable));
+    }
+    table.header.insert(table.header.end(), labels.begin(), labels.end());
+    const std::vector<std::uint32_t> starts = groups.starts();
+    for (std::size_t position = 0; position < groups.size(); ++position) {
+        std::vector<std::string>& row = table.rows.emplace_back();
+        const auto ranks = groups.ranksAt(position);
+        for (std::size_t i = 0; i < ranks.size(); ++i) {
+            row.push_back(textOf(groups.values()[i], ranks[i]));
+        }
+        const std::uint32_t group = groups.inOrder()[position];
+        const auto texts =
+            textsOf(summarise(samples.subspan(starts[group], groups.sizes()[group])));
+        row.insert(row.end(), texts.begin(), texts.end());
+    }
+    return table;
+}
+
+}  // namespace
+
 std::variant<Table, Problem> describe(const StatDataset& dataset,
                                       std::span<const int> selectedVariables,
                                       std::span<const int> byVariables)
@@ -141,7 +153,7 @@ std::variant<Table, Problem> describe(const StatDataset& dataset,
     if (rows.empty()) {
         return Problem::NoData;
     }
-    const FreqGroups groups(dataset, byVariables, rows);
+    const RowGroups groups(dataset, byVariables, rows);
     const std::vector<double> samples = samplesOf(dataset, variable, groups, rows);
     if (byVariables.empty()) {
         return wholeTable(nameOf(dataset, variable), summarise(samples));

@@ -1,9 +1,12 @@
 #include "grid/filter/TextTests.h"
 
-#include "grid/filter/RecordTable.h"
+#include "data/cells/KeyCoder.h"
+#include "data/cells/ValueKey.h"
+#include "grid/filter/TextAnswers.h"
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <unordered_set>
 
 namespace texttests {
@@ -13,22 +16,25 @@ namespace {
 using Records = std::vector<const PooledText*>;
 using Property = std::function<bool(std::string_view)>;
 
-/// The bits of observations for whose records a look-up holds.
-template <typename Holds>
-std::uint64_t wordOfRecords(const CellColumn& cells, std::size_t first, unsigned count, Holds holds)
+/// The keys of up to 64 texts.
+class KeysOfWord
 {
-    // All cells first: a look-up that waits for its cell would hold up the next cell, too.
-    std::array<const PooledText*, BitVector::bits_per_block> records;
-    const CellValue* cell = cells.at(first);
-    for (unsigned i = 0; i < count; ++i, cell += cells.stride()) {
-        records[i] = cells::record(*cell);
+public:
+    KeysOfWord(const CellColumn& cells, std::size_t first, unsigned count)
+        : m_count(count)
+    {
+        const CellValue* cell = cells.at(first);
+        for (unsigned i = 0; i < count; ++i, cell += cells.stride()) {
+            m_keys[i] = valuekey::of(cells::record(*cell));
+        }
     }
-    std::uint64_t bits = 0;
-    for (unsigned i = 0; i < count; ++i) {
-        bits |= static_cast<std::uint64_t>(holds(records[i])) << i;
-    }
-    return bits;
-}
+
+    [[nodiscard]] std::span<const std::uint64_t> keys() const { return {m_keys.data(), m_count}; }
+
+private:
+    std::array<std::uint64_t, BitVector::bits_per_block> m_keys;
+    unsigned m_count;
+};
 
 /// Whether a cell holds one of up to so many records is found by comparing with each.
 template <std::size_t size>
@@ -66,71 +72,48 @@ public:
         : m_cells(cells)
     {
         for (const PooledText* const record : records) {
-            if (record == nullptr) {
-                m_holdsForNull = true;
-            } else if (!m_records.find(record)) {
-                m_records.insert(record, true);
-            }
+            const std::array key{valuekey::of(record)};
+            std::uint32_t code = 0;
+            m_wanted.encode(key, &code);
         }
     }
 
     [[nodiscard]] std::uint64_t word(std::size_t first, unsigned count) const override
     {
-        return wordOfRecords(m_cells, first, count, [this](const PooledText* record) {
-            return record == nullptr ? m_holdsForNull : m_records.find(record).has_value();
-        });
+        const KeysOfWord word(m_cells, first, count);
+        std::array<std::uint32_t, BitVector::bits_per_block> codes;
+        m_wanted.lookUp(word.keys(), codes.data());
+        std::uint64_t bits = 0;
+        for (unsigned i = 0; i < count; ++i) {
+            bits |= static_cast<std::uint64_t>(codes[i] != KeyCoder::unknown) << i;
+        }
+        return bits;
     }
 
 private:
     CellColumn m_cells;
-    RecordTable m_records;
-    bool m_holdsForNull = false;
+    KeyCoder m_wanted;
 };
 
-/// Asks for a property of the text, and remembers the answers for as long as that pays.
+/// Asks for a property of the text without its trailing blanks.
 class PropertyTest : public RowTest
 {
 public:
     PropertyTest(const CellColumn& cells, Property holds)
         : m_cells(cells)
-        , m_holds(std::move(holds))
-        , m_holdsForNull(m_holds({}))
+        , m_answers([holds = std::move(holds)](std::string_view text) {
+            return holds(withoutTrailingBlanks(text));
+        })
     { }
 
     [[nodiscard]] std::uint64_t word(std::size_t first, unsigned count) const override
     {
-        return wordOfRecords(m_cells, first, count,
-                             [this](const PooledText* record) { return answer(record); });
+        return m_answers.word(KeysOfWord(m_cells, first, count).keys());
     }
 
 private:
-    [[nodiscard]] bool answer(const PooledText* record) const
-    {
-        if (record == nullptr) {
-            return m_holdsForNull;
-        }
-        ++m_asked;
-        const std::optional<bool> known = m_answers.find(record);
-        return known ? *known : newAnswer(record);
-    }
-
-    [[nodiscard]] bool newAnswer(const PooledText* record) const
-    {
-        const bool holds = m_holds(withoutTrailingBlanks(record->text()));
-        // Where hardly any text occurs twice, looking it up costs more than asking again.
-        constexpr std::size_t alwaysKept = 65536;
-        if (m_answers.size() < alwaysKept || m_answers.size() < m_asked / 2) {
-            m_answers.insert(record, holds);
-        }
-        return holds;
-    }
-
     CellColumn m_cells;
-    Property m_holds;
-    bool m_holdsForNull;
-    // What was found out once; texts never change.
-    mutable RecordTable m_answers;
-    mutable std::size_t m_asked = 0;
+    mutable TextAnswers m_answers;  // what was found out once; texts never change
 };
 
 template <typename Number>

@@ -1,12 +1,12 @@
 #include "analysis/Statistics.h"
 #include "data/InMemoryDataset.h"
-#include "tests/support/ScriptedDataset.h"
+#include "tests/analysis/RandomDatasets.h"
+#include "tests/analysis/ValueOrder.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-#include <string>
+#include <cstdio>
+#include <map>
 
 namespace {
 
@@ -16,7 +16,6 @@ using TableRows = std::vector<Texts>;
 using Variables = std::vector<int>;
 
 constexpr double missing = ScriptedDataset::missing;
-const Texts labels{"N", "Mean", "Median", "Min", "Max", "Range", "Std Dev"};
 
 statistics::Table describe(const StatDataset& dataset, const Variables& selected,
                            const Variables& by = {})
@@ -24,7 +23,7 @@ statistics::Table describe(const StatDataset& dataset, const Variables& selected
     return std::get<statistics::Table>(statistics::describe(dataset, selected, by));
 }
 
-Problem problem(const StatDataset& dataset, const Variables& selected, const Variables& by = {})
+Problem problemOf(const StatDataset& dataset, const Variables& selected, const Variables& by = {})
 {
     return std::get<Problem>(statistics::describe(dataset, selected, by));
 }
@@ -43,169 +42,126 @@ Texts statisticsOf(const std::vector<double>& values)
     return texts;
 }
 
-struct SampleCase
+std::string plainText(double number)
 {
-    const char* what;
-    std::vector<double> values;
-    Texts expected;  ///< N, mean, median, minimum, maximum, range, standard deviation
-};
+    std::array<char, 32> text;
+    (void)std::snprintf(text.data(), text.size(), "%g", number);
+    return std::isnan(number) ? "nan" : text.data();
+}
 
-const SampleCase sampleCases[] = {
-    {"one value", {42.5}, {"1", "42.5", "42.5", "42.5", "42.5", "0", "0"}},
-    {"an even count, unsorted", {3, 1, 4, 2}, {"4", "2.5", "2.5", "1", "4", "3", "1.29099"}},
-    // Deviations from 4: -6, -3, 1, 3, 5; 80 / 4 = 20.
-    {"an odd count", {9, -2, 5, 1, 7}, {"5", "4", "5", "-2", "9", "11", "4.47214"}},
-    {"a large number",
-     {1234567.89},
-     {"1", "1.23457e+06", "1.23457e+06", "1.23457e+06", "1.23457e+06", "0", "0"}},
-    {"equal values", {7, 7, 7}, {"3", "7", "7", "7", "7", "0", "0"}},
-    {"missing among three", {1, missing, 3}, {"3", "nan", "1", "nan", "3", "nan", "nan"}},
-    {"missing in the middle", {5, missing}, {"2", "nan", "nan", "nan", "5", "nan", "nan"}},
-    {"only missing", {missing}, {"1", "nan", "nan", "nan", "nan", "nan", "0"}},
-    {"the marker of built datasets",
-     {-HUGE_VAL, 2, 4},
-     {"3", "-inf", "2", "-inf", "4", "inf", "nan"}},
-    {"both zeros", {0.0, -0.0}, {"2", "0", "0", "-0", "0", "0", "0"}},
-};
-
-TEST(Statistics, summariseASampleWithMissingValuesIncluded)
+/// The definition, step by step.
+Texts plainStatistics(std::vector<double> values)
 {
-    for (const SampleCase& c : sampleCases) {
-        SCOPED_TRACE(c.what);
-        EXPECT_EQ(statisticsOf(c.values), c.expected);
+    std::sort(values.begin(), values.end(), [](double a, double b) {
+        return a == b ? std::signbit(a) && !std::signbit(b) : PlainKeyOrder::isLess(a, b);
+    });
+    const auto n = double(values.size());
+    double sum = 0;
+    for (const double value : values) {
+        sum += value;
+    }
+    double squares = 0;
+    for (const double value : values) {
+        squares += std::pow(value - sum / n, 2);
+    }
+    const std::size_t half = values.size() / 2;
+    const double median =
+        values.size() % 2 == 1 ? values[half] : (values[half - 1] + values[half]) * 0.5;
+    Texts texts;
+    for (const double number :
+         {n, sum / n, median, values.front(), values.back(), values.back() - values.front(),
+          values.size() == 1 ? 0 : std::sqrt(squares / (n - 1))}) {
+        texts.push_back(plainText(number));
+    }
+    return texts;
+}
+
+TableRows plainTable(const StatDataset& dataset, int variable, const Variables& by)
+{
+    std::map<PlainKey, std::vector<double>, PlainKeyOrder> samples;
+    for (const int row : plainlySelected(dataset)) {
+        samples[plainKey(dataset, by, row)].push_back(dataset.numericValue(row, variable));
+    }
+    TableRows rows;
+    for (const auto& [key, values] : samples) {
+        Texts& row = rows.emplace_back();
+        for (const PlainValue& value : key) {
+            const auto* number = std::get_if<double>(&value);
+            row.push_back(number != nullptr ? plainText(*number) : std::get<std::string>(value));
+        }
+        const Texts texts = plainStatistics(values);
+        row.insert(row.end(), texts.begin(), texts.end());
+    }
+    return rows;
+}
+
+TEST(Statistics, areThoseOfSamplesInAnOrderedMap)
+{
+    std::mt19937 random(20251028);
+    const auto many = randomdatasets::ofManyValues(SourceKind::Spss, random);
+    EXPECT_EQ(describe(*many, {5}, {2}).rows, plainTable(*many, 5, {2}));
+    EXPECT_EQ(describe(*many, {1}, {2, 0}).rows, plainTable(*many, 1, {2, 0}));
+    for (int round = 1; round < 100; ++round) {
+        SCOPED_TRACE(testing::Message() << "round " << round);
+        const auto few = randomdatasets::ofFewValues(SourceKind::Sas, random, 20 + round);
+        EXPECT_EQ(describe(*few, {1 + round % 5}, {6, 0}).rows,
+                  plainTable(*few, 1 + round % 5, {6, 0}));
     }
 }
 
-TEST(Statistics, summariseLargeSamples)
+TEST(Statistics, summariseASampleWithMissingValuesIncludedInAnyOrder)
 {
-    // 1 ... 1000: the variance is 1000 x 1001 / 12.
-    std::vector<double> values(1000);
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        values[i] = static_cast<double>((i * 389) % 1000 + 1);
-    }
-    EXPECT_EQ(statisticsOf(values),
-              (Texts{"1000", "500.5", "500.5", "1", "1000", "999", "288.819"}));
-}
-
-TEST(Statistics, doNotDependOnTheOrderOfTheRows)
-{
-    // Their sum depends on the order of the additions: ascending, the 1 is lost.
-    std::vector<double> values{-1e16, 1, 1e16};
+    EXPECT_EQ(statisticsOf({3, 1, 4, 2}), (Texts{"4", "2.5", "2.5", "1", "4", "3", "1.29099"}));
+    EXPECT_EQ(statisticsOf({1, missing, 3}), (Texts{"3", "nan", "1", "nan", "3", "nan", "nan"}));
+    // Their sum depends on the order of the additions: ascending it is 2, descending 4.
+    std::vector<double> values{-1e16, 1, 1.5, 1e16};
     do {
         EXPECT_EQ(statisticsOf(values),
-                  (Texts{"3", "0", "1", "-1e+16", "1e+16", "2e+16", "1e+16"}));
+                  (Texts{"4", "0.5", "1.25", "-1e+16", "1e+16", "2e+16", "8.16497e+15"}));
     } while (std::next_permutation(values.begin(), values.end()));
 }
 
 TEST(Statistics, writeNumbersWithSixSignificantDigits)
 {
-    const struct
-    {
-        double number;
-        const char* text;
-    } cases[] = {
-        {0.0, "0"},          {-0.0, "-0"},         {12.5, "12.5"},
-        {100000, "100000"},  {999999, "999999"},   {1000000, "1e+06"},
-        {999999.5, "1e+06"}, {123456.5, "123456"}, {-2.0 / 3, "-0.666667"},
-        {0.0001, "0.0001"},  {0.00001, "1e-05"},   {1e100, "1e+100"},
-        {HUGE_VAL, "inf"},   {-HUGE_VAL, "-inf"},  {missing, "nan"},
-        {-missing, "nan"},
+    const std::pair<double, const char*> cases[] = {
+        {-0.0, "-0"},        {999999, "999999"},          {999999.5, "1e+06"}, {123456.5, "123456"},
+        {0.0001, "0.0001"},  {-2.0 / 3, "-0.666667"},     {0.00001, "1e-05"},  {1e100, "1e+100"},
+        {-HUGE_VAL, "-inf"}, {1234567.89, "1.23457e+06"}, {-missing, "nan"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(statistics::numberText(c.number), c.text);
+    for (const auto& [number, text] : cases) {
+        EXPECT_EQ(statisticsOf({number})[3], text);  // the minimum, which is not computed
     }
 }
 
-class GroupedStatistics : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        m_dataset.variable("ARM", TypeCode::Character)
-            .variable("VISIT", TypeCode::Double)
-            .variable("AVAL", TypeCode::Double);
-        m_dataset.row({"Placebo", 10.0, 4.0})
-            .row({"Active", 9.0, 1.0})
-            .row({"Placebo", missing, 8.0})
-            .row({"Active", 10.0, 7.0})
-            .row({"Placebo", 10.0, 6.0})
-            .row({"Active", 9.0, 3.0});
-    }
-
-    ScriptedDataset m_dataset;
-};
-
-TEST_F(GroupedStatistics, haveALineForEachStatisticWithoutGroups)
-{
-    const statistics::Table table = describe(m_dataset, {2, 0});
-    EXPECT_EQ(table.header, (Texts{"AVAL", "Value"}));
-    // The sum is 29 and that of the squares 175: the variance is (175 - 29 x 29 / 6) / 5 = 6.96667.
-    EXPECT_EQ(table.rows,
-              (TableRows{{"N", "6"},
-                         {"Mean", "4.83333"},
-                         {"Median", "5"},
-                         {"Min", "1"},
-                         {"Max", "8"},
-                         {"Range", "7"},
-                         {"Std Dev", "2.63944"}}));
-}
-
-TEST_F(GroupedStatistics, haveALineForEachGroupInTheOrderOfItsValues)
-{
-    const statistics::Table byArm = describe(m_dataset, {2}, {0});
-    Texts header{"ARM"};
-    header.insert(header.end(), labels.begin(), labels.end());
-    EXPECT_EQ(byArm.header, header);
-    EXPECT_EQ(byArm.rows,
-              (TableRows{{"Active", "3", "3.66667", "3", "1", "7", "6", "3.05505"},
-                         {"Placebo", "3", "6", "6", "4", "8", "4", "2"}}));
-
-    const statistics::Table byBoth = describe(m_dataset, {2}, {1, 0});
-    header.insert(header.begin(), "VISIT");
-    EXPECT_EQ(byBoth.header, header);
-    EXPECT_EQ(byBoth.rows,
-              (TableRows{{"nan", "Placebo", "1", "8", "8", "8", "8", "0", "0"},
-                         {"9", "Active", "2", "2", "2", "1", "3", "2", "1.41421"},
-                         {"10", "Active", "1", "7", "7", "7", "7", "0", "0"},
-                         {"10", "Placebo", "2", "5", "5", "4", "6", "2", "1.41421"}}));
-}
-
-TEST_F(GroupedStatistics, takeOnlyRowsThatBothFiltersSelect)
-{
-    m_dataset.libraryFilterMask().reset(0);
-    m_dataset.datasetFilterMask().reset(2);
-    EXPECT_EQ(describe(m_dataset, {2}, {0}).rows,
-              (TableRows{{"Active", "3", "3.66667", "3", "1", "7", "6", "3.05505"},
-                         {"Placebo", "1", "6", "6", "6", "6", "0", "0"}}));
-    EXPECT_EQ(describe(m_dataset, {2}).rows.front(), (Texts{"N", "4"}));
-}
-
-TEST_F(GroupedStatistics, takeTheAnalysisVariableAsAGroupToo)
-{
-    EXPECT_EQ(describe(m_dataset, {1}, {1}).rows,
-              (TableRows{{"nan", "1", "nan", "nan", "nan", "nan", "nan", "0"},
-                         {"9", "2", "9", "9", "9", "9", "0", "0"},
-                         {"10", "3", "10", "10", "10", "10", "0", "0"}}));
-}
-
-TEST_F(GroupedStatistics, sayWhyThereAreNone)
-{
-    EXPECT_EQ(problem(m_dataset, {}), Problem::NoColumnSelected);
-    EXPECT_EQ(problem(m_dataset, {0, 2}), Problem::NotNumeric) << "only the first one counts";
-    m_dataset.libraryFilterMask().reset();
-    EXPECT_EQ(problem(m_dataset, {2}), Problem::NoData);
-    EXPECT_EQ(problem(m_dataset, {2}, {0, 1}), Problem::NoData);
-    EXPECT_EQ(problem(m_dataset, {0}), Problem::NotNumeric) << "asked before the data";
-}
-
-TEST(Statistics, describeTheNarrowNumericTypes)
+TEST(Statistics, haveALineForEachStatisticOrForEachGroup)
 {
     ScriptedDataset dataset;
-    dataset.variable("N", TypeCode::Int16).variable("F", TypeCode::Float);
-    dataset.row({3.0, 0.5}).row({5.0, 0.25});
-    EXPECT_EQ(describe(dataset, {0}).rows[1], (Texts{"Mean", "4"}));
-    EXPECT_EQ(describe(dataset, {1}, {0}).rows[0],
-              (Texts{"3", "1", "0.5", "0.5", "0.5", "0.5", "0", "0"}));
+    dataset.variable("ARM", TypeCode::Character).variable("AVAL", TypeCode::Double);
+    dataset.row({"Placebo", 4.0}).row({"Active", 1.0}).row({"Placebo", 8.0});
+
+    const statistics::Table whole = describe(dataset, {1, 0});
+    EXPECT_EQ(whole.header, (Texts{"AVAL", "Value"}));
+    EXPECT_EQ(whole.rows[0], (Texts{"N", "3"}));
+    EXPECT_EQ(whole.rows[6], (Texts{"Std Dev", "3.51188"}));
+    const statistics::Table byArm = describe(dataset, {1}, {0});
+    EXPECT_EQ(byArm.header,
+              (Texts{"ARM", "N", "Mean", "Median", "Min", "Max", "Range", "Std Dev"}));
+    EXPECT_EQ(byArm.rows,
+              (TableRows{{"Active", "1", "1", "1", "1", "1", "0", "0"},
+                         {"Placebo", "2", "6", "6", "4", "8", "4", "2.82843"}}));
+}
+
+TEST(Statistics, sayWhyThereAreNone)
+{
+    ScriptedDataset dataset;
+    dataset.variable("ARM", TypeCode::Character).variable("AVAL", TypeCode::Int16);
+    dataset.row({"Placebo", 4.0}).row({"Active", 1.0});
+    EXPECT_EQ(problemOf(dataset, {}), Problem::NoColumnSelected);
+    EXPECT_EQ(problemOf(dataset, {0, 1}), Problem::NotNumeric) << "only the first one counts";
+    dataset.libraryFilterMask().reset();
+    EXPECT_EQ(problemOf(dataset, {1}), Problem::NoData);
+    EXPECT_EQ(problemOf(dataset, {1}, {0}), Problem::NoData);
+    EXPECT_EQ(problemOf(dataset, {0}), Problem::NotNumeric) << "asked before the data";
 }
 
 TEST(Statistics, takeTheMissingMarkerOfABuiltDatasetForNan)

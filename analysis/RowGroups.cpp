@@ -1,6 +1,6 @@
-#include "analysis/FreqGroups.h"
+#include "analysis/RowGroups.h"
 
-#include "analysis/FreqColumn.h"
+#include "analysis/CodedColumn.h"
 #include "analysis/RadixSort.h"
 #include "data/StatDataset.h"
 
@@ -10,30 +10,30 @@
 #include <numeric>
 #include <utility>
 
-FreqGroups::FreqGroups(const StatDataset& dataset, std::span<const int> variables,
-                       std::span<const std::uint32_t> rows)
+RowGroups::RowGroups(const StatDataset& dataset, std::span<const int> variables,
+                     std::span<const std::uint32_t> rows)
     : m_groupOfPlace(rows.size())
 {
     if (!rows.empty()) {
         m_sizes = {static_cast<std::uint32_t>(rows.size())};
     }
     Numbers codes;
-    m_dictionaries.reserve(variables.size());
+    m_values.reserve(variables.size());
     for (const int variable : variables) {
-        const FreqColumn column(dataset, variable, rows);
-        if (m_dictionaries.empty()) {
+        const CodedColumn column(dataset, variable, rows);
+        if (m_values.empty()) {
             groupBy(column, codes);
         } else {
             refineBy(column, codes);
         }
-        m_dictionaries.emplace_back(column);
+        m_values.emplace_back(column);
     }
     rank(codes);
     sort(codes);
 }
 
 /// Makes the column's codes the groups.
-void FreqGroups::groupBy(const FreqColumn& column, Numbers& codes)
+void RowGroups::groupBy(const CodedColumn& column, Numbers& codes)
 {
     m_groupOfPlace = column.codes();
     m_sizes.assign(column.size(), 0);
@@ -46,7 +46,7 @@ void FreqGroups::groupBy(const FreqColumn& column, Numbers& codes)
 
 /// Splits every group by the codes that the column has in it. Groups are taken one after another,
 /// so a table of the codes is all it takes to number the new ones: no pair is looked up.
-void FreqGroups::refineBy(const FreqColumn& column, Numbers& codes)
+void RowGroups::refineBy(const CodedColumn& column, Numbers& codes)
 {
     struct CodeInGroup
     {
@@ -55,38 +55,46 @@ void FreqGroups::refineBy(const FreqColumn& column, Numbers& codes)
     };
     std::vector<CodeInGroup> met(column.size());
     const Numbers places = placesByGroup();
-    const std::size_t width = m_dictionaries.size();
-    Numbers newCodes;
-    Numbers newSizes;
+    std::vector<Part> parts;
     std::size_t next = 0;
     for (std::uint32_t group = 0; group < size(); ++group) {
         for (const std::size_t end = next + m_sizes[group]; next < end; ++next) {
             const std::uint32_t code = column.codes()[places[next]];
             if (met[code].group != group) {
-                met[code] = {group, static_cast<std::uint32_t>(newSizes.size())};
-                newSizes.push_back(0);
-                for (std::size_t i = 0; i < width; ++i) {
-                    newCodes.push_back(codes[group * width + i]);
-                }
-                newCodes.push_back(code);
+                met[code] = {group, static_cast<std::uint32_t>(parts.size())};
+                parts.push_back({group, code, 0});
             }
-            const std::uint32_t newGroup = met[code].newGroup;
-            ++newSizes[newGroup];
-            m_groupOfPlace[places[next]] = newGroup;
+            ++parts[met[code].newGroup].size;
+            m_groupOfPlace[places[next]] = met[code].newGroup;
         }
     }
-    m_sizes = std::move(newSizes);
+    replaceBy(parts, codes);
+}
+
+/// Makes the parts the groups.
+void RowGroups::replaceBy(const std::vector<Part>& parts, Numbers& codes)
+{
+    const std::size_t width = m_values.size();
+    Numbers newCodes;
+    newCodes.reserve(parts.size() * (width + 1));
+    m_sizes.clear();
+    for (const Part& part : parts) {
+        const auto first = codes.begin() + static_cast<std::ptrdiff_t>(part.group * width);
+        newCodes.insert(newCodes.end(), first, first + static_cast<std::ptrdiff_t>(width));
+        newCodes.push_back(part.code);
+        m_sizes.push_back(part.size);
+    }
     codes = std::move(newCodes);
 }
 
-FreqGroups::Numbers FreqGroups::starts() const
+RowGroups::Numbers RowGroups::starts() const
 {
     Numbers starts(size());
     std::exclusive_scan(m_sizes.begin(), m_sizes.end(), starts.begin(), 0U);
     return starts;
 }
 
-FreqGroups::Numbers FreqGroups::placesByGroup() const
+RowGroups::Numbers RowGroups::placesByGroup() const
 {
     Numbers next = starts();
     Numbers places(m_groupOfPlace.size());
@@ -97,22 +105,22 @@ FreqGroups::Numbers FreqGroups::placesByGroup() const
 }
 
 /// Makes ranks of the codes.
-void FreqGroups::rank(Numbers& codes) const
+void RowGroups::rank(Numbers& codes) const
 {
-    const std::size_t width = m_dictionaries.size();
+    const std::size_t width = m_values.size();
     for (std::size_t i = 0; i < width; ++i) {
         for (std::size_t at = i; at < codes.size(); at += width) {
-            codes[at] = m_dictionaries[i].rankOf(codes[at]);
+            codes[at] = m_values[i].rankOf(codes[at]);
         }
     }
 }
 
-void FreqGroups::sort(const Numbers& ranks)
+void RowGroups::sort(const Numbers& ranks)
 {
-    const std::size_t width = m_dictionaries.size();
+    const std::size_t width = m_values.size();
     m_inOrder.resize(size());
     if (width == 1) {
-        // The groups of one variable are its values, which the dictionary has sorted.
+        // The groups of one variable are its values, which are ranked.
         for (std::size_t group = 0; group < size(); ++group) {
             m_inOrder[ranks[group]] = static_cast<std::uint32_t>(group);
         }
@@ -129,9 +137,9 @@ void FreqGroups::sort(const Numbers& ranks)
 
 /// Sorts from the last variable to the first, as the sort is stable; as many of them at a time as
 /// fit into 64 bits.
-void FreqGroups::sortByAll(const Numbers& ranks)
+void RowGroups::sortByAll(const Numbers& ranks)
 {
-    const std::size_t width = m_dictionaries.size();
+    const std::size_t width = m_values.size();
     std::vector<RankedRow> entries(size());
     for (std::size_t group = 0; group < entries.size(); ++group) {
         entries[group].row = static_cast<std::uint32_t>(group);
@@ -142,13 +150,13 @@ void FreqGroups::sortByAll(const Numbers& ranks)
         for (RankedRow& entry : entries) {
             entry.rank = 0;
         }
-        while (end > 0 && m_dictionaries[end - 1].size() <= room) {
+        while (end > 0 && m_values[end - 1].size() <= room) {
             --end;
             for (RankedRow& entry : entries) {
                 entry.rank += scale * ranks[entry.row * width + end];
             }
-            scale *= m_dictionaries[end].size();
-            room /= m_dictionaries[end].size();
+            scale *= m_values[end].size();
+            room /= m_values[end].size();
         }
         radixSort(entries);
     }

@@ -1,9 +1,11 @@
-#include "analysis/TextRanks.h"
+#include "analysis/TextSort.h"
 
 #include "analysis/RadixSort.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <numeric>
+#include <utility>
 
 namespace {
 
@@ -41,11 +43,8 @@ public:
     explicit TextSorter(std::span<const std::string_view> texts)
         : m_texts(texts)
         , m_order(texts.size())
-        , m_equalToPrevious(texts.size(), false)
     {
-        for (std::size_t i = 0; i < texts.size(); ++i) {
-            m_order[i] = static_cast<std::uint32_t>(i);
-        }
+        std::iota(m_order.begin(), m_order.end(), 0U);
         m_open.push_back({0, texts.size(), 0});
         while (!m_open.empty()) {
             const Run run = m_open.back();
@@ -54,15 +53,7 @@ public:
         }
     }
 
-    [[nodiscard]] TextRanks ranks() const
-    {
-        TextRanks result{std::vector<std::uint32_t>(m_order.size()), 0};
-        for (std::size_t place = 0; place < m_order.size(); ++place) {
-            result.distinct += m_equalToPrevious[place] ? 0 : 1;
-            result.ranks[m_order[place]] = result.distinct - 1;
-        }
-        return result;
-    }
+    [[nodiscard]] std::vector<std::uint32_t> takeOrder() { return std::move(m_order); }
 
 private:
     void sortRun(const Run& run)
@@ -77,38 +68,30 @@ private:
         for (std::size_t i = 0; i < m_entries.size(); ++i) {
             m_order[run.begin + i] = m_entries[i].row;
             if (m_entries[i].rank != m_entries[tieBegin].rank) {
-                closeTie(run, tieBegin, i);
+                leaveTie(run, tieBegin, i);
                 tieBegin = i;
             }
         }
-        closeTie(run, tieBegin, m_entries.size());
+        leaveTie(run, tieBegin, m_entries.size());
     }
 
-    /// Settles the entries from `begin` to `end`, whose chunks are equal.
-    void closeTie(const Run& run, std::size_t begin, std::size_t end)
+    /// Leaves the entries from `begin` to `end`, whose chunks are equal, to be sorted by the next.
+    void leaveTie(const Run& run, std::size_t begin, std::size_t end)
     {
-        if (end - begin < 2) {
-            return;
-        }
-        if ((m_entries[begin].rank & 0xFF) == moreFollows) {
+        if (end - begin > 1 && (m_entries[begin].rank & 0xFF) == moreFollows) {
             m_open.push_back({run.begin + begin, run.begin + end, run.depth + chunkBytes});
-            return;
-        }
-        for (std::size_t i = begin + 1; i < end; ++i) {
-            m_equalToPrevious[run.begin + i] = true;
         }
     }
 
     std::span<const std::string_view> m_texts;
     std::vector<std::uint32_t> m_order;
-    std::vector<bool> m_equalToPrevious;
     std::vector<RankedRow> m_entries;
     std::vector<Run> m_open;
 };
 
 }  // namespace
 
-TextRanks rankTexts(std::span<const std::string_view> texts)
+std::vector<std::uint32_t> orderOf(std::span<const std::string_view> texts)
 {
-    return TextSorter(texts).ranks();
+    return TextSorter(texts).takeOrder();
 }

@@ -1,23 +1,23 @@
 #pragma once
 
-#include "analysis/FreqDictionary.h"
+#include "analysis/RankedValues.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
 
-class FreqColumn;
+class CodedColumn;
 class StatDataset;
 
 /// Rows grouped by the values that some variables take in them. Rows are known here by their place
 /// in the list that they were given in, groups by numbers in no particular order.
-class FreqGroups
+class RowGroups
 {
 public:
     /// Without variables all rows are one group; without rows there is no group.
-    FreqGroups(const StatDataset& dataset, std::span<const int> variables,
-               std::span<const std::uint32_t> rows);
+    RowGroups(const StatDataset& dataset, std::span<const int> variables,
+              std::span<const std::uint32_t> rows);
 
     /// How many groups there are.
     [[nodiscard]] std::size_t size() const { return m_sizes.size(); }
@@ -34,21 +34,30 @@ public:
     /// The groups in ascending order of their values, the first variable counting most.
     [[nodiscard]] const std::vector<std::uint32_t>& inOrder() const { return m_inOrder; }
     /// The values of each variable.
-    [[nodiscard]] const std::vector<FreqDictionary>& dictionaries() const { return m_dictionaries; }
+    [[nodiscard]] const std::vector<RankedValues>& values() const { return m_values; }
     /// The ranks of a group's values, one for each variable.
     /// @param position  where inOrder() has the group
     [[nodiscard]] std::span<const std::uint32_t> ranksAt(std::size_t position) const
     {
-        return {m_ranks.data() + position * m_dictionaries.size(), m_dictionaries.size()};
+        return {m_ranks.data() + position * m_values.size(), m_values.size()};
     }
 
 private:
     using Numbers = std::vector<std::uint32_t>;
 
+    /// The rows of a group that share one code of a further column.
+    struct Part
+    {
+        std::uint32_t group;
+        std::uint32_t code;
+        std::uint32_t size;
+    };
+
     // `codes` and `ranks` hold those of each group's values, one for each variable, group after
     // group.
-    void groupBy(const FreqColumn& column, Numbers& codes);
-    void refineBy(const FreqColumn& column, Numbers& codes);
+    void groupBy(const CodedColumn& column, Numbers& codes);
+    void refineBy(const CodedColumn& column, Numbers& codes);
+    void replaceBy(const std::vector<Part>& parts, Numbers& codes);
     void rank(Numbers& codes) const;
     void sort(const Numbers& ranks);
     void sortByAll(const Numbers& ranks);
@@ -56,7 +65,7 @@ private:
     Numbers m_groupOfPlace;
     Numbers m_sizes;
     Numbers m_inOrder;
-    std::vector<FreqDictionary> m_dictionaries;
+    std::vector<RankedValues> m_values;
     Numbers m_ranks;  ///< group after group in order
 };
 
