@@ -5,7 +5,7 @@
 #include <algorithm>
 
 CompiledCondition::CompiledCondition(const ParsedCondition& condition, const StatDataset& dataset)
-    : m_test(ConditionCompiler(dataset).compile(condition.tree))
+    : m_predicate(ConditionCompiler(dataset).compile(condition.tree))
     , m_observations(static_cast<std::size_t>(dataset.observationCount()))
 { }
 
@@ -19,8 +19,8 @@ void CompiledCondition::select(BitVector& mask) const
     std::vector<std::uint64_t> words((m_observations + wordBits - 1) / wordBits);
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::size_t first = i * wordBits;
-        words[i] =
-            m_test->word(first, static_cast<unsigned>(std::min(wordBits, m_observations - first)));
+        words[i] = m_predicate->word(
+            first, static_cast<unsigned>(std::min(wordBits, m_observations - first)));
     }
     mask.resize(m_observations);
     boost::from_block_range(words.begin(), words.end(), mask);

@@ -2,7 +2,7 @@
 
 #include "data/StatDataset.h"
 #include "grid/filter/ConditionParser.h"
-#include "grid/filter/RowTest.h"
+#include "grid/filter/RowPredicate.h"
 
 /// A condition compiled against a dataset, which outlives it.
 ///
@@ -25,6 +25,6 @@ public:
     void select(BitVector& mask) const;
 
 private:
-    RowTestPointer m_test;
+    RowPredicatePointer m_predicate;
     std::size_t m_observations;
 };

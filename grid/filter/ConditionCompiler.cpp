@@ -1,8 +1,8 @@
 #include "grid/filter/ConditionCompiler.h"
 
-#include "grid/filter/NumberTests.h"
+#include "grid/filter/NumberPredicates.h"
 #include "grid/filter/ParseError.h"
-#include "grid/filter/TextTests.h"
+#include "grid/filter/TextPredicates.h"
 #include "grid/filter/VariableNames.h"
 
 #include <fmt/format.h>
@@ -27,9 +27,9 @@ LiteralValue readable(const Literal& literal)
     return std::move(value.value());
 }
 
-RowTestPointer negatedIf(bool negated, RowTestPointer test)
+RowPredicatePointer negatedIf(bool negated, RowPredicatePointer predicate)
 {
-    return negated ? rowtests::negation(std::move(test)) : std::move(test);
+    return negated ? rowpredicates::negation(std::move(predicate)) : std::move(predicate);
 }
 
 NumberColumn numberColumn(const StatDataset& dataset, int variable)
@@ -43,7 +43,7 @@ TextColumn textColumn(const StatDataset& dataset, int variable)
 }
 
 /// Compares with the missing value, below which there is nothing.
-RowTestPointer compareWithMissing(CompareOp op, RowTestPointer isMissing)
+RowPredicatePointer compareWithMissing(CompareOp op, RowPredicatePointer isMissing)
 {
     switch (op) {
     case CompareOp::Equal:
@@ -51,24 +51,24 @@ RowTestPointer compareWithMissing(CompareOp op, RowTestPointer isMissing)
         return isMissing;
     case CompareOp::NotEqual:
     case CompareOp::Greater:
-        return rowtests::negation(std::move(isMissing));
+        return rowpredicates::negation(std::move(isMissing));
     case CompareOp::GreaterOrEqual:
-        return rowtests::constant(true);
+        return rowpredicates::constant(true);
     case CompareOp::Less:
     case CompareOp::Contains:
         break;
     }
-    return rowtests::constant(false);
+    return rowpredicates::constant(false);
 }
 
 }  // namespace
 
-RowTestPointer ConditionCompiler::compile(const Condition& condition) const
+RowPredicatePointer ConditionCompiler::compile(const Condition& condition) const
 {
     return std::visit([this](const auto& node) { return compile(node); }, condition.node);
 }
 
-RowTestPointer ConditionCompiler::compile(const CompareTerm& term) const
+RowPredicatePointer ConditionCompiler::compile(const CompareTerm& term) const
 {
     const int variable = variableNamed(term.variable);
     const LiteralValue value = readable(term.value);
@@ -76,7 +76,7 @@ RowTestPointer ConditionCompiler::compile(const CompareTerm& term) const
                                          : compareText(variable, term.op, value);
 }
 
-RowTestPointer ConditionCompiler::compile(const IndexTerm& term) const
+RowPredicatePointer ConditionCompiler::compile(const IndexTerm& term) const
 {
     const int variable = variableNamed(term.variable);
     const LiteralValue needle = readable(term.needle);
@@ -86,38 +86,38 @@ RowTestPointer ConditionCompiler::compile(const IndexTerm& term) const
         throw typesDiffer();
     }
     if (place.kind == Kind::Missing) {
-        return compareWithMissing(term.op, rowtests::constant(false));
+        return compareWithMissing(term.op, rowpredicates::constant(false));
     }
-    return texttests::compareIndex(textColumn(m_dataset, variable), needle.text, term.op,
-                                   place.number);
+    return textpredicates::compareIndex(textColumn(m_dataset, variable), needle.text, term.op,
+                                        place.number);
 }
 
-RowTestPointer ConditionCompiler::compile(const InTerm& term) const
+RowPredicatePointer ConditionCompiler::compile(const InTerm& term) const
 {
     const int variable = variableNamed(term.variable);
     std::vector<LiteralValue> values;
     for (const Literal& literal : term.values) {
         values.push_back(readable(literal));
     }
-    RowTestPointer test =
+    RowPredicatePointer predicate =
         m_dataset.isNumeric(variable) ? numberIsIn(variable, values) : textIsIn(variable, values);
-    return negatedIf(term.negated, std::move(test));
+    return negatedIf(term.negated, std::move(predicate));
 }
 
-RowTestPointer ConditionCompiler::compile(const NullTerm& term) const
+RowPredicatePointer ConditionCompiler::compile(const NullTerm& term) const
 {
     const int variable = variableNamed(term.variable);
     return negatedIf(term.negated, isMissing(variable));
 }
 
-RowTestPointer ConditionCompiler::compile(const Junction& junction) const
+RowPredicatePointer ConditionCompiler::compile(const Junction& junction) const
 {
-    std::vector<RowTestPointer> tests;
+    std::vector<RowPredicatePointer> predicates;
     for (const Condition& operand : junction.operands) {
-        tests.push_back(compile(operand));
+        predicates.push_back(compile(operand));
     }
-    return junction.isAnd ? rowtests::conjunction(std::move(tests))
-                          : rowtests::disjunction(std::move(tests));
+    return junction.isAnd ? rowpredicates::conjunction(std::move(predicates))
+                          : rowpredicates::disjunction(std::move(predicates));
 }
 
 int ConditionCompiler::variableNamed(const QString& name) const
@@ -129,8 +129,8 @@ int ConditionCompiler::variableNamed(const QString& name) const
     return *variable;
 }
 
-RowTestPointer ConditionCompiler::compareNumber(int variable, CompareOp op,
-                                                const LiteralValue& value) const
+RowPredicatePointer ConditionCompiler::compareNumber(int variable, CompareOp op,
+                                                     const LiteralValue& value) const
 {
     if (value.kind == Kind::Text || op == CompareOp::Contains) {
         throw typesDiffer();
@@ -139,22 +139,22 @@ RowTestPointer ConditionCompiler::compareNumber(int variable, CompareOp op,
         return compareWithMissing(op, isMissing(variable));
     }
     const double number = storedCount(variable, value);
-    return numbertests::compare(numberColumn(m_dataset, variable), op, number);
+    return numberpredicates::compare(numberColumn(m_dataset, variable), op, number);
 }
 
-RowTestPointer ConditionCompiler::compareText(int variable, CompareOp op,
-                                              const LiteralValue& value) const
+RowPredicatePointer ConditionCompiler::compareText(int variable, CompareOp op,
+                                                   const LiteralValue& value) const
 {
     // A text that is missing is blank, so the number "." is the blank text here.
     const bool isMissingNumber = value.kind == Kind::Missing && op != CompareOp::Contains;
     if (value.kind != Kind::Text && !isMissingNumber) {
         throw typesDiffer();
     }
-    return texttests::compare(textColumn(m_dataset, variable), op, value.text);
+    return textpredicates::compare(textColumn(m_dataset, variable), op, value.text);
 }
 
-RowTestPointer ConditionCompiler::numberIsIn(int variable,
-                                             const std::vector<LiteralValue>& values) const
+RowPredicatePointer ConditionCompiler::numberIsIn(int variable,
+                                                  const std::vector<LiteralValue>& values) const
 {
     std::vector<double> numbers;
     bool hasMissing = false;
@@ -169,16 +169,17 @@ RowTestPointer ConditionCompiler::numberIsIn(int variable,
         const double number = storedCount(variable, value);
         numbers.push_back(number);
     }
-    std::vector<RowTestPointer> tests;
-    tests.push_back(numbertests::isOneOf(numberColumn(m_dataset, variable), std::move(numbers)));
+    std::vector<RowPredicatePointer> predicates;
+    predicates.push_back(
+        numberpredicates::isOneOf(numberColumn(m_dataset, variable), std::move(numbers)));
     if (hasMissing) {
-        tests.push_back(isMissing(variable));
+        predicates.push_back(isMissing(variable));
     }
-    return rowtests::disjunction(std::move(tests));
+    return rowpredicates::disjunction(std::move(predicates));
 }
 
-RowTestPointer ConditionCompiler::textIsIn(int variable,
-                                           const std::vector<LiteralValue>& values) const
+RowPredicatePointer ConditionCompiler::textIsIn(int variable,
+                                                const std::vector<LiteralValue>& values) const
 {
     std::vector<std::string> texts;
     for (const LiteralValue& value : values) {
@@ -187,19 +188,19 @@ RowTestPointer ConditionCompiler::textIsIn(int variable,
         }
         texts.push_back(value.text);
     }
-    return texttests::isOneOf(textColumn(m_dataset, variable), std::move(texts));
+    return textpredicates::isOneOf(textColumn(m_dataset, variable), std::move(texts));
 }
 
-RowTestPointer ConditionCompiler::isMissing(int variable) const
+RowPredicatePointer ConditionCompiler::isMissing(int variable) const
 {
     if (m_dataset.isNumeric(variable)) {
-        return numbertests::isMissing(numberColumn(m_dataset, variable));
+        return numberpredicates::isMissing(numberColumn(m_dataset, variable));
     }
     std::vector<std::string> texts{{}};
     if (const std::string_view text = m_dataset.missingText(variable); !text.empty()) {
         texts.emplace_back(text);
     }
-    return texttests::isOneOf(textColumn(m_dataset, variable), std::move(texts));
+    return textpredicates::isOneOf(textColumn(m_dataset, variable), std::move(texts));
 }
 
 double ConditionCompiler::storedCount(int variable, const LiteralValue& value) const

@@ -6,7 +6,7 @@
 #include "grid/filter/Lexer.h"
 #include "grid/filter/LiteralValue.h"
 #include "grid/filter/ParseError.h"
-#include "grid/filter/TextTests.h"
+#include "grid/filter/TextPredicates.h"
 
 #include <fmt/format.h>
 
@@ -34,12 +34,12 @@ bool isIdentifier(QStringView name)
 bool isBlank(const QuickFilter::Value& value)
 {
     const auto* text = std::get_if<std::string>(&value);
-    return text != nullptr && texttests::withoutTrailingBlanks(*text).empty();
+    return text != nullptr && textpredicates::withoutTrailingBlanks(*text).empty();
 }
 
 Result<QString> quoted(std::string_view text)
 {
-    text = texttests::withoutTrailingBlanks(text);
+    text = textpredicates::withoutTrailingBlanks(text);
     const bool hasDouble = text.find('"') != std::string_view::npos;
     if (hasDouble && text.find('\'') != std::string_view::npos) {
         return Failure{fmt::format(

@@ -1,18 +1,18 @@
-#include "grid/filter/NumberTests.h"
+#include "grid/filter/NumberPredicates.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace numbertests {
+namespace numberpredicates {
 
 namespace {
 
 /// @tparam Holds  asked with each number, NaN for all missing ones
 template <typename Holds>
-class NumberTest : public RowTest
+class NumberPredicate : public RowPredicate
 {
 public:
-    NumberTest(const NumberColumn& column, Holds holds)
+    NumberPredicate(const NumberColumn& column, Holds holds)
         : m_column(column)
         , m_holds(std::move(holds))
     { }
@@ -30,19 +30,19 @@ private:
 };
 
 template <typename Holds>
-RowTestPointer make(const NumberColumn& column, Holds holds)
+RowPredicatePointer make(const NumberColumn& column, Holds holds)
 {
-    return std::make_unique<NumberTest<Holds>>(column, std::move(holds));
+    return std::make_unique<NumberPredicate<Holds>>(column, std::move(holds));
 }
 
 }  // namespace
 
-RowTestPointer isMissing(const NumberColumn& column)
+RowPredicatePointer isMissing(const NumberColumn& column)
 {
     return make(column, [](double number) { return std::isnan(number); });
 }
 
-RowTestPointer compare(const NumberColumn& column, CompareOp op, double number)
+RowPredicatePointer compare(const NumberColumn& column, CompareOp op, double number)
 {
     // NaN is less than the number here: "less" is the opposite of "greater or equal", which NaN
     // never is.
@@ -62,10 +62,10 @@ RowTestPointer compare(const NumberColumn& column, CompareOp op, double number)
     case CompareOp::Contains:
         break;
     }
-    return rowtests::constant(false);
+    return rowpredicates::constant(false);
 }
 
-RowTestPointer isOneOf(const NumberColumn& column, std::vector<double> numbers)
+RowPredicatePointer isOneOf(const NumberColumn& column, std::vector<double> numbers)
 {
     std::sort(numbers.begin(), numbers.end());
     return make(column, [numbers = std::move(numbers)](double value) {
@@ -74,4 +74,4 @@ RowTestPointer isOneOf(const NumberColumn& column, std::vector<double> numbers)
     });
 }
 
-}  // namespace numbertests
+}  // namespace numberpredicates

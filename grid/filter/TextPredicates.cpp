@@ -1,4 +1,4 @@
-#include "grid/filter/TextTests.h"
+#include "grid/filter/TextPredicates.h"
 
 #include "data/cells/KeyCoder.h"
 #include "data/cells/ValueKey.h"
@@ -9,7 +9,7 @@
 #include <span>
 #include <unordered_set>
 
-namespace texttests {
+namespace textpredicates {
 
 namespace {
 
@@ -38,10 +38,10 @@ private:
 
 /// Whether a cell holds one of up to so many records is found by comparing with each.
 template <std::size_t size>
-class FewRecordsTest : public RowTest
+class FewRecordsPredicate : public RowPredicate
 {
 public:
-    FewRecordsTest(const CellColumn& cells, const Records& records)
+    FewRecordsPredicate(const CellColumn& cells, const Records& records)
         : m_cells(cells)
     {
         m_records.fill(records.front());
@@ -65,10 +65,10 @@ private:
     std::array<const PooledText*, size> m_records{};
 };
 
-class ManyRecordsTest : public RowTest
+class ManyRecordsPredicate : public RowPredicate
 {
 public:
-    ManyRecordsTest(const CellColumn& cells, const Records& records)
+    ManyRecordsPredicate(const CellColumn& cells, const Records& records)
         : m_cells(cells)
     {
         for (const PooledText* const record : records) {
@@ -96,10 +96,10 @@ private:
 };
 
 /// Asks for a property of the text without its trailing blanks.
-class PropertyTest : public RowTest
+class PropertyPredicate : public RowPredicate
 {
 public:
-    PropertyTest(const CellColumn& cells, Property holds)
+    PropertyPredicate(const CellColumn& cells, Property holds)
         : m_cells(cells)
         , m_answers([holds = std::move(holds)](std::string_view text) {
             return holds(withoutTrailingBlanks(text));
@@ -177,62 +177,64 @@ std::string_view withoutTrailingBlanks(std::string_view text)
     return text;
 }
 
-RowTestPointer isOneOf(const TextColumn& column, std::vector<std::string> texts)
+RowPredicatePointer isOneOf(const TextColumn& column, std::vector<std::string> texts)
 {
     for (std::string& text : texts) {
         text.resize(withoutTrailingBlanks(text).size());
     }
     if (column.pool->hasTrailingBlanks()) {
         // One text may have several records then.
-        return test(column,
-                    [wanted = std::unordered_set<std::string>(texts.begin(), texts.end())](
-                        std::string_view text) { return wanted.contains(std::string(text)); });
+        return hasProperty(
+            column,
+            [wanted = std::unordered_set<std::string>(texts.begin(), texts.end())](
+                std::string_view text) { return wanted.contains(std::string(text)); });
     }
     const Records records = recordsOf(*column.pool, texts);
     if (records.empty()) {
-        return rowtests::constant(false);
+        return rowpredicates::constant(false);
     }
     if (records.size() == 1) {
-        return std::make_unique<FewRecordsTest<1>>(column.cells, records);
+        return std::make_unique<FewRecordsPredicate<1>>(column.cells, records);
     }
     constexpr std::size_t few = 4;
     if (records.size() <= few) {
-        return std::make_unique<FewRecordsTest<few>>(column.cells, records);
+        return std::make_unique<FewRecordsPredicate<few>>(column.cells, records);
     }
-    return std::make_unique<ManyRecordsTest>(column.cells, records);
+    return std::make_unique<ManyRecordsPredicate>(column.cells, records);
 }
 
-RowTestPointer compare(const TextColumn& column, CompareOp op, std::string text)
+RowPredicatePointer compare(const TextColumn& column, CompareOp op, std::string text)
 {
     switch (op) {
     case CompareOp::Equal:
         return isOneOf(column, {std::move(text)});
     case CompareOp::NotEqual:
-        return rowtests::negation(isOneOf(column, {std::move(text)}));
+        return rowpredicates::negation(isOneOf(column, {std::move(text)}));
     case CompareOp::Contains:
-        return test(column, [needle = std::move(text)](std::string_view value) {
+        return hasProperty(column, [needle = std::move(text)](std::string_view value) {
             return value.find(needle) != std::string_view::npos;
         });
     default:
         break;
     }
     text.resize(withoutTrailingBlanks(text).size());
-    return test(column, [op, text = std::move(text)](std::string_view value) {
+    return hasProperty(column, [op, text = std::move(text)](std::string_view value) {
         return holdsFor(op, value.compare(text));
     });
 }
 
-RowTestPointer compareIndex(const TextColumn& column, std::string needle, CompareOp op,
-                            double place)
+RowPredicatePointer compareIndex(const TextColumn& column, std::string needle, CompareOp op,
+                                 double place)
 {
-    return test(column, [needle = std::move(needle), op, place](std::string_view value) {
+    return hasProperty(column, [needle = std::move(needle), op, place](std::string_view value) {
         return holdsFor(op, static_cast<double>(indexOf(value, needle)) - place);
     });
 }
 
-RowTestPointer test(const TextColumn& column, std::function<bool(std::string_view)> holds)
+RowPredicatePointer hasProperty(const TextColumn& column,
+                                std::function<bool(std::string_view)> holds)
 {
-    return std::make_unique<PropertyTest>(column.cells, std::move(holds));
+    return std::make_unique<PropertyPredicate>(column.cells, std::move(holds));
 }
 
-}  // namespace texttests
+}  // namespace textpredicates
