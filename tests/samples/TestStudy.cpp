@@ -54,7 +54,7 @@ TEST(Study, refusesAFileThatIsNotRight)
              head + names + "a,1,1960-02-30,,\n",
              head + names + "a,1,,1960-02-03,\n",
              head + names + "a,1,,,25:00\n",
-             head + names + "a,1,,,\"09:30\n",
+             head + names + "a\"b,1,,,\n",
              "VS,Label\nID,Identifier,text\n" + names,
              "VS,Label\nID,Identifier,number,DATE9\n" + names,
          }) {

@@ -147,6 +147,10 @@ TEST(TableWriter, version8CountsItsRowsAndKeepsLongNamesAndLabels)
     EXPECT_EQ(read->names(), Texts({"NAME_OF_THE_PERSON"}));
     EXPECT_EQ(read->labels(), Texts({label}));
     EXPECT_EQ(read->observationCount(), 2);
+    const auto bytes = bytesOf(folder.file("long.xpt"));
+    const auto header = bytes.find("HEADER RECORD*******OBSV8   ");
+    ASSERT_NE(header, std::string::npos);
+    EXPECT_EQ(bytes.substr(header + 48, 32), "              2" + std::string(17, ' '));
 }
 
 TEST(TableWriter, failuresNameTheFileAndLeaveNone)
