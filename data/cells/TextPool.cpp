@@ -64,17 +64,6 @@ std::size_t TextPool::bytesInUse() const
     return m_slots.capacity() * sizeof(Slot) + m_blockBytes;
 }
 
-void TextPool::clear()
-{
-    m_slots = {};
-    m_size = 0;
-    m_hasTrailingBlanks = false;
-    m_blocks.clear();
-    m_free = nullptr;
-    m_freeBytes = 0;
-    m_blockBytes = 0;
-}
-
 /// The slot that holds the text, or the free one where it belongs.
 std::size_t TextPool::slotOf(std::string_view text, std::uint64_t hash) const
 {

@@ -45,8 +45,6 @@ public:
     /// Bytes that the records, their texts and the table take.
     [[nodiscard]] std::size_t bytesInUse() const;
 
-    void clear();
-
 private:
     struct Slot
     {

@@ -91,15 +91,6 @@ int quarter(const Date& date)
     return (date.month - 1) / 3 + 1;
 }
 
-IsoWeek isoWeek(const Date& date)
-{
-    // The Thursday of a week decides which year the week belongs to.
-    const std::int64_t days = daysFromDate(date);
-    const int daysAfterMonday = (weekday(days) + 6) % 7;
-    const auto thursday = dateFromDays(days - daysAfterMonday + 3).value_or(date);
-    return {thursday.year, (dayOfYear(thursday) - 1) / 7 + 1};
-}
-
 std::string_view monthName(int month)
 {
     return nameAt(monthNames, month - 1);

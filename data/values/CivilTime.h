@@ -35,14 +35,6 @@ struct DayAndSecond
     bool operator==(const DayAndSecond&) const = default;
 };
 
-struct IsoWeek
-{
-    int year = 1970;  ///< the year the week belongs to, which may differ from the date's
-    int week = 1;  ///< 1 to 53
-
-    bool operator==(const IsoWeek&) const = default;
-};
-
 /// The days on which the other calendars of the file formats begin.
 inline constexpr std::int64_t dayOf1582October14 = -141428;
 inline constexpr std::int64_t dayOf1960January1 = -3653;
@@ -82,9 +74,6 @@ inline constexpr std::int64_t secondsPerDay = 86400;
 
 /// 1 to 4.
 [[nodiscard]] int quarter(const Date& date);
-
-/// The week after ISO 8601: weeks start on Monday, week 1 holds the year's first Thursday.
-[[nodiscard]] IsoWeek isoWeek(const Date& date);
 
 /// English names with an initial capital, the same in every locale. An index outside the range
 /// gives an empty text.

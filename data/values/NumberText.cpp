@@ -79,12 +79,6 @@ std::string_view scientific(double value, int decimals, Buffer& buffer)
     return withDecimals(value, std::chars_format::scientific, decimals, buffer);
 }
 
-std::string scientific(double value, int decimals)
-{
-    Buffer buffer;
-    return std::string(scientific(value, decimals, buffer));
-}
-
 std::string_view shortest(double value, Buffer& buffer)
 {
     if (!std::isfinite(value))
@@ -102,13 +96,6 @@ std::string shortest(double value)
 {
     Buffer buffer;
     return std::string(shortest(value, buffer));
-}
-
-std::string grouped(std::string_view number, char separator, char decimalPoint)
-{
-    StackText text;
-    text.appendGrouped(number, separator, decimalPoint);
-    return std::string(text.view());
 }
 
 void StackText::append(char character)

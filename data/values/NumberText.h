@@ -28,16 +28,11 @@ using Buffer = std::array<char, 512>;
 /// Text with an exponent of at least two digits, "1.23e+10".
 /// @param decimals  digits after the point, clamped to 0 ... maximumDecimals
 [[nodiscard]] std::string_view scientific(double value, int decimals, Buffer& buffer);
-[[nodiscard]] std::string scientific(double value, int decimals);
 
 /// The fewest digits that read back to the same number; without exponent for zero and magnitudes
 /// from 1e-5 up to 1e15. Zero has no sign.
 [[nodiscard]] std::string_view shortest(double value, Buffer& buffer);
 [[nodiscard]] std::string shortest(double value);
-
-/// The number with a separator between groups of three digits before the point, and with its own
-/// decimal point.
-[[nodiscard]] std::string grouped(std::string_view number, char separator, char decimalPoint = '.');
 
 enum class LetterCase
 {
@@ -59,7 +54,8 @@ public:
     /// Whole number with leading zeros up to minimumDigits; a minus sign does not count as a digit.
     void appendInteger(std::int64_t value, int minimumDigits = 1);
 
-    /// Appends the number as grouped() shapes it; a separator of '\0' groups nothing.
+    /// Appends a number with a separator between groups of three digits before the point, none
+    /// when it is '\0', and with a decimal point of its own.
     void appendGrouped(std::string_view number, char separator, char decimalPoint);
 
     void appendRepeated(char character, int count);
