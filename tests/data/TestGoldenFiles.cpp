@@ -87,22 +87,49 @@ void compareRows(const StatDataset& dataset, const json& golden, const json& row
     }
 }
 
+void compareFormat(const StatDataset& dataset, std::size_t variable, const json& golden)
+{
+    const std::string& format = dataset.formats()[variable];
+    if (dataset.sourceKind() != SourceKind::Sas) {
+        EXPECT_EQ(format, golden["format_attr"].get<std::string>());
+        return;
+    }
+    EXPECT_EQ(format, golden["format_name"].get<std::string>());
+    EXPECT_EQ(dataset.formatWidths()[variable], golden["format_width"].get<int>());
+    EXPECT_EQ(dataset.formatDecimals()[variable], golden["format_decimals"].get<int>());
+}
+
+void compareVariables(const StatDataset& dataset, const json& golden)
+{
+    const bool hasLabels = golden.value("labels_confirmed", true);
+    for (int column = 0; column < dataset.variableCount(); ++column) {
+        const auto at = static_cast<std::size_t>(column);
+        const json& variable = golden["variables"][at];
+        SCOPED_TRACE(variable["name"]);
+        EXPECT_EQ(dataset.names()[at], variable["name"].get<std::string>());
+        EXPECT_EQ(dataset.isNumeric(column), variable["type"] == "num");
+        compareFormat(dataset, at, variable);
+        if (hasLabels) {
+            EXPECT_EQ(texts::trimmed(dataset.labels()[at]),
+                      texts::trimmed(variable["label"].get<std::string>()));
+        }
+    }
+}
+
 void compare(const fs::path& folder, const json& golden)
 {
     const std::string file = golden.at("file");
+    SCOPED_TRACE(file);
     const auto opened = openDataset(QString::fromStdString((folder / file).string()));
     ASSERT_TRUE(opened.ok()) << opened.error();
     const StatDataset& dataset = *opened.value().dataset;
     const int rows = golden.value("n_rows_not_deleted", golden.at("n_rows").get<int>());
-    ASSERT_EQ(dataset.observationCount(), rows) << file;
-    ASSERT_EQ(dataset.variableCount(), golden.at("n_cols").get<int>()) << file;
-    for (int column = 0; column < dataset.variableCount(); ++column) {
-        const auto at = static_cast<std::size_t>(column);
-        const json& variable = golden["variables"][at];
-        EXPECT_EQ(dataset.names()[at], variable["name"].get<std::string>()) << file;
-        EXPECT_EQ(dataset.isNumeric(column), variable["type"] == "num")
-            << file << ' ' << variable["name"];
+    ASSERT_EQ(dataset.observationCount(), rows);
+    ASSERT_EQ(dataset.variableCount(), golden.at("n_cols").get<int>());
+    if (golden.contains("file_label")) {
+        EXPECT_TRUE(sameText(golden["file_label"], texts::trimmed(dataset.header().fileLabel)));
     }
+    compareVariables(dataset, golden);
     compareRows(dataset, golden, golden["head_rows"], 0);
     compareRows(dataset, golden, golden["tail_rows"], golden["tail_start"].get<int>());
 }

@@ -1,11 +1,6 @@
-#include "data/readers/DatasetFile.h"
-#include "samples/TableWriter.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/data/ReaderTest.h"
 
-#include <gtest/gtest.h>
-
-#include <cstdint>
-#include <fstream>
+#include <functional>
 #include <ostream>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -36,39 +31,64 @@ samples::Table people()
     return table;
 }
 
-void put(std::string& bytes, std::size_t offset, std::uint64_t value, std::size_t width)
+/// A kind of file, as it is written.
+struct Kind
 {
-    for (std::size_t i = 0; i < width; ++i) {
-        bytes.at(offset + i) = static_cast<char>(value >> 8 * i);
-    }
-}
+    const char* file;
+    WriteOptions options{};
+};
+const Kind sas{"a.sas7bdat"};
+const Kind xpt{"a.xpt"};
+const Kind xpt8{"a.xpt", {.release = 8}};
+const Kind sav{"a.sav"};
+const Kind savRows{"a.sav", {.compression = Compression::Rows}};
+const Kind zsav{"a.sav", {.compression = Compression::Zlib}};
+const Kind dta{"a.dta"};
+const Kind dta114{"a.dta", {.release = 114}};
+const Kind dta119{"a.dta", {.release = 119}};
 
-std::size_t behind(const std::string& bytes, std::string_view mark)
-{
-    const std::size_t at = bytes.find(mark);
-    if (at == std::string::npos) {
-        throw std::runtime_error("no " + std::string(mark));
-    }
-    return at + mark.size();
-}
+// Ways to damage a file.
 
-/// Offset of a subheader in a SAS7BDAT file of 64-bit layout, by its signature.
-std::size_t subheader(const std::string& bytes, std::string_view signature)
+auto cutTo(std::size_t size)
 {
-    return behind(bytes, signature) - signature.size();
+    return [=](std::string& bytes) { bytes.resize(size); };
 }
-
-void replaceText(std::string& bytes, std::string_view text, std::string_view other)
+auto cutOff(std::size_t size)
 {
-    bytes.replace(behind(bytes, text) - text.size(), text.size(), other);
+    return [=](std::string& bytes) { bytes.resize(bytes.size() - size); };
+}
+auto cutBehind(std::string_view mark, std::size_t size)
+{
+    return [=](std::string& bytes) { bytes.resize(behind(bytes, mark) + size); };
+}
+auto putAt(std::size_t offset, std::uint64_t value, std::size_t width)
+{
+    return [=](std::string& bytes) { put(bytes, offset, value, width); };
+}
+auto putFromEnd(std::size_t offset, std::uint64_t value, std::size_t width)
+{
+    return [=](std::string& bytes) { put(bytes, bytes.size() - offset, value, width); };
+}
+auto putBehind(std::string_view mark, std::size_t offset, std::uint64_t value, std::size_t width)
+{
+    return [=](std::string& bytes) { put(bytes, behind(bytes, mark) + offset, value, width); };
+}
+/// In a subheader of a SAS7BDAT file of 64-bit layout, which its signature starts.
+auto putIn(std::string_view signature, std::size_t offset, std::uint64_t value, std::size_t width)
+{
+    return putBehind(signature, offset - signature.size(), value, width);
+}
+auto textBehind(std::string_view mark, std::size_t offset, std::string_view text)
+{
+    return
+        [=](std::string& bytes) { bytes.replace(behind(bytes, mark) + offset, text.size(), text); };
 }
 
 struct Malformed
 {
     const char* name;
-    const char* file;
-    WriteOptions options;
-    void (*damage)(std::string& bytes);
+    Kind kind;
+    std::function<void(std::string& bytes)> damage;
     int rows;  ///< that can be read, or `refused`, `rowsRefused`
     const char* message = "";  ///< a part of it
 };
@@ -78,256 +98,93 @@ std::ostream& operator<<(std::ostream& out, const Malformed& one)
     return out << one.name;
 }
 
-constexpr std::size_t sasPageSize = 200 + 4;  // a1 is 4 in files of 64-bit layout
-constexpr std::size_t sasPageCount = 204 + 4;
-constexpr std::string_view rowSizeSignature = "\xF7\xF7\xF7\xF7";
-constexpr std::string_view columnCountSignature = "\xF6\xF6\xF6\xF6";
-constexpr std::string_view attributesSignature = "\xFC\xFF\xFF\xFF";
+constexpr std::size_t sasPageSize = 200;
+constexpr std::size_t sasPageCount = 204;
+constexpr std::string_view rowSize = "\xF7\xF7\xF7\xF7";
+constexpr std::string_view columnCount = "\xF6\xF6\xF6\xF6";
+constexpr std::string_view attributes = "\xFC\xFF\xFF\xFF";
 constexpr std::size_t savVariable = 176;  // the first record of the dictionary
 
 const Malformed cases[] = {
-    {"sasWithoutBytes", "a.sas7bdat", {}, [](std::string& b) { b.clear(); }, refused},
-    {"xptWithoutBytes", "a.xpt", {}, [](std::string& b) { b.clear(); }, refused},
-    {"savWithoutBytes", "a.sav", {}, [](std::string& b) { b.clear(); }, refused},
-    {"dtaWithoutBytes", "a.dta", {}, [](std::string& b) { b.clear(); }, refused},
-
-    {"sasWithOtherMagic", "a.sas7bdat", {}, [](std::string& b) { b[20] = 'x'; }, refused},
-    {"xptWithOtherMagic", "a.xpt", {}, [](std::string& b) { b[0] = 'x'; }, refused},
-    {"savWithOtherMagic", "a.sav", {}, [](std::string& b) { b[0] = 'x'; }, refused},
-    {"dtaWithOtherMagic", "a.dta", {}, [](std::string& b) { b[1] = 'x'; }, refused},
-    {"dtaOfUnknownRelease",
-     "a.dta",
-     {.release = 114},
-     [](std::string& b) { b[0] = '\x7F'; },
-     refused},
-
-    {"sasCutInHeader", "a.sas7bdat", {}, [](std::string& b) { b.resize(200); }, refused},
-    {"sasCutBehindHeader", "a.sas7bdat", {}, [](std::string& b) { b.resize(1024); }, refused},
-    {"sasCutInPage", "a.sas7bdat", {}, [](std::string& b) { b.resize(b.size() - 100); }, refused},
-    {"xptCutInHeader", "a.xpt", {}, [](std::string& b) { b.resize(300); }, refused},
-    {"xptCutInVariables",
-     "a.xpt",
-     {},
-     [](std::string& b) { b.resize(behind(b, "NAMESTR") + 160); },
-     refused,
-     "promises 2 variables"},
-    {"xptCutInFourthRow",
-     "a.xpt",
-     {},
-     [](std::string& b) { b.resize(behind(b, "*OBS     ") + 51 + 3 * rowLength + 5); },
-     3},
-    {"savCutInHeader", "a.sav", {}, [](std::string& b) { b.resize(100); }, refused},
-    {"savCutInDictionary", "a.sav", {}, [](std::string& b) { b.resize(200); }, refused},
-    {"savCutInRows", "a.sav", {}, [](std::string& b) { b.resize(b.size() - 5); }, rowsRefused},
-    {"compressedSavCutInRows",
-     "a.sav",
-     {.compression = Compression::Rows},
-     [](std::string& b) { b.resize(b.size() - 30); },
-     rowsRefused},
-    {"zlibSavWithoutItsEnd",
-     "a.sav",
-     {.compression = Compression::Zlib},
-     [](std::string& b) { b.resize(b.size() - 10); },
-     rowsRefused},
-    {"dtaCutInHeader", "a.dta", {}, [](std::string& b) { b.resize(60); }, refused, "damaged"},
-    {"dtaCutInRows",
-     "a.dta",
-     {},
-     [](std::string& b) { b.resize(behind(b, "<data>") + 3 * rowLength); },
-     rowsRefused},
-    {"oldDtaCutInTypes", "a.dta", {.release = 114}, [](std::string& b) { b.resize(110); }, refused},
-    {"oldDtaCutInRows",
-     "a.dta",
-     {.release = 114},
-     [](std::string& b) { b.resize(b.size() - 40); },
-     rowsRefused},
-
-    {"sasWithPagesOfNoBytes",
-     "a.sas7bdat",
-     {},
-     [](std::string& b) { put(b, sasPageSize, 0, 4); },
-     refused},
-    {"sasWithPagesOfFourGigabytes",
-     "a.sas7bdat",
-     {},
-     [](std::string& b) { put(b, sasPageSize, 0xFFFFFFFF, 4); },
-     refused},
-    {"sasWithCountlessPages",
-     "a.sas7bdat",
-     {},
-     [](std::string& b) { put(b, sasPageCount, ~std::uint64_t{0}, 8); },
-     refused},
-    {"sasWithTooManyRows",
-     "a.sas7bdat",
-     {},
-     [](std::string& b) { put(b, subheader(b, rowSizeSignature) + 6 * 8, 1'000'000'000, 8); },
-     refused,
+    {"sasWithoutBytes", sas, cutTo(0), refused},
+    {"xptWithoutBytes", xpt, cutTo(0), refused},
+    {"savWithoutBytes", sav, cutTo(0), refused},
+    {"dtaWithoutBytes", dta, cutTo(0), refused},
+    {"sasWithOtherMagic", sas, putAt(20, 'x', 1), refused},
+    {"xptWithOtherMagic", xpt, putAt(0, 'x', 1), refused},
+    {"savWithOtherMagic", sav, putAt(0, 'x', 1), refused},
+    {"dtaWithOtherMagic", dta, putAt(1, 'x', 1), refused},
+    {"dtaOfUnknownRelease", dta114, putAt(0, 0x7F, 1), refused},
+    {"sasCutInHeader", sas, cutTo(200), refused},
+    {"sasCutBehindHeader", sas, cutTo(1024), refused},
+    {"sasCutInPage", sas, cutOff(100), refused},
+    {"xptCutInHeader", xpt, cutTo(300), refused},
+    {"xptCutInVariables", xpt, cutBehind("NAMESTR", 160), refused, "promises 2 variables"},
+    {"xptCutInFourthRow", xpt, cutBehind("*OBS     ", 51 + 3 * rowLength + 5), 3},
+    {"savCutInHeader", sav, cutTo(100), refused},
+    {"savCutInDictionary", sav, cutTo(200), refused},
+    {"savCutInRows", sav, cutOff(5), rowsRefused},
+    {"compressedSavCutInRows", savRows, cutOff(30), rowsRefused},
+    {"zlibSavWithoutItsEnd", zsav, cutOff(10), rowsRefused},
+    {"dtaCutInHeader", dta, cutTo(60), refused, "damaged"},
+    {"dtaCutInRows", dta, cutBehind("<data>", 3 * rowLength), rowsRefused},
+    {"oldDtaCutInTypes", dta114, cutTo(110), refused},
+    {"oldDtaCutInRows", dta114, cutOff(40), rowsRefused},
+    {"sasWithPagesOfNoBytes", sas, putAt(sasPageSize, 0, 4), refused},
+    {"sasWithPagesOfFourGigabytes", sas, putAt(sasPageSize, 0xFFFFFFFF, 4), refused},
+    {"sasWithCountlessPages", sas, putAt(sasPageCount, ~std::uint64_t{0}, 8), refused},
+    {"sasWithTooManyRows", sas, putIn(rowSize, 6 * 8, 1'000'000'000, 8), refused,
      "promises 1000000000 observations"},
-    {"sasWithRowsOfNoBytes",
-     "a.sas7bdat",
-     {},
-     [](std::string& b) { put(b, subheader(b, rowSizeSignature) + 5 * 8, 0, 8); },
-     refused},
-    {"sasWithMoreColumnsThanDescribed",
-     "a.sas7bdat",
-     {},
-     [](std::string& b) { put(b, subheader(b, columnCountSignature) + 8, 70000, 8); },
-     refused},
-    {"sasColumnBeyondTheRow",
-     "a.sas7bdat",
-     {},
-     [](std::string& b) { put(b, subheader(b, attributesSignature) + 16, 5000, 8); },
-     rowsRefused},
-    {"sasColumnWiderThanTheRow",
-     "a.sas7bdat",
-     {},
-     [](std::string& b) { put(b, subheader(b, attributesSignature) + 24, 5000, 4); },
-     rowsRefused},
-
-    {"xptWithTooManyVariables",
-     "a.xpt",
-     {},
-     [](std::string& b) { b.replace(behind(b, "NAMESTR") + 27, 4, "9999"); },
-     refused,
+    {"sasWithRowsOfNoBytes", sas, putIn(rowSize, 5 * 8, 0, 8), refused},
+    {"sasWithMoreColumnsThanDescribed", sas, putIn(columnCount, 8, 70000, 8), refused},
+    {"sasColumnBeyondTheRow", sas, putIn(attributes, 16, 5000, 8), rowsRefused},
+    {"sasColumnWiderThanTheRow", sas, putIn(attributes, 24, 5000, 4), rowsRefused},
+    {"xptWithTooManyVariables", xpt, textBehind("NAMESTR", 27, "9999"), refused,
      "promises 9999 variables"},
-    {"xptWithNoNumberOfVariables",
-     "a.xpt",
-     {},
-     [](std::string& b) { b.replace(behind(b, "NAMESTR") + 27, 4, "0x02"); },
-     refused,
+    {"xptWithNoNumberOfVariables", xpt, textBehind("NAMESTR", 27, "0x02"), refused,
      "counts the variables"},
-    {"xptWithVariablesOfNoBytes",
-     "a.xpt",
-     {},
-     [](std::string& b) { b.replace(behind(b, "*MEMBER ") + 46, 4, "0000"); },
-     refused,
+    {"xptWithVariablesOfNoBytes", xpt, textBehind("*MEMBER ", 46, "0000"), refused,
      "starts a data set"},
-    {"xptWithNegativeLength",
-     "a.xpt",
-     {},
-     [](std::string& b) { b.replace(behind(b, "NAMESTR") + 53 + 4, 2, "\xFF\xF0"); },
-     refused,
+    {"xptWithNegativeLength", xpt, textBehind("NAMESTR", 53 + 4, "\xFF\xF0"), refused,
      "NAME has a negative length"},
-    {"xptThatCountsTooManyRows",
-     "a.xpt",
-     {.release = 8},
-     [](std::string& b) { b.replace(behind(b, "OBSV8") + 31, 4, "9999"); },
-     healthyRows},
-
-    {"savWithTooManyRows",
-     "a.sav",
-     {},
-     [](std::string& b) { put(b, 80, 0x7FFFFFFF, 4); },
-     refused,
+    {"xptThatCountsTooManyRows", xpt8, textBehind("OBSV8", 31, "9999"), healthyRows},
+    {"savWithTooManyRows", sav, putAt(80, 0x7FFFFFFF, 4), refused,
      "promises 2147483647 observations"},
-    {"savWithLessThanNoRows",
-     "a.sav",
-     {},
-     [](std::string& b) { put(b, 80, 0xFFFFFFFE, 4); },
-     refused},
-    {"savThatTellsNoRowCount",
-     "a.sav",
-     {},
-     [](std::string& b) { put(b, 80, 0xFFFFFFFF, 4); },
-     healthyRows},
-    {"savTextOfTwoGigabytes",
-     "a.sav",
-     {},
-     [](std::string& b) { put(b, savVariable + 4, 0x7FFFFFFF, 4); },
-     healthyRows},
-    {"savWithCountlessMissingValues",
-     "a.sav",
-     {},
-     [](std::string& b) { put(b, savVariable + 12, 0x7FFFFFFF, 4); },
-     refused},
-    {"zlibSavWithCountlessBlocks",
-     "a.sav",
-     {.compression = Compression::Zlib},
-     [](std::string& b) { put(b, b.size() - 28, 0x7FFFFFFF, 4); },
-     rowsRefused},
-
-    {"dtaWithTooManyVariables",
-     "a.dta",
-     {},
-     [](std::string& b) { put(b, behind(b, "<K>"), 0xFFFF, 2); },
-     refused,
+    {"savWithLessThanNoRows", sav, putAt(80, 0xFFFFFFFE, 4), refused},
+    {"savThatTellsNoRowCount", sav, putAt(80, 0xFFFFFFFF, 4), healthyRows},
+    {"savTextOfTwoGigabytes", sav, putAt(savVariable + 4, 0x7FFFFFFF, 4), healthyRows},
+    {"savWithCountlessMissingValues", sav, putAt(savVariable + 12, 0x7FFFFFFF, 4), refused},
+    {"zlibSavWithCountlessBlocks", zsav, putFromEnd(28, 0x7FFFFFFF, 4), rowsRefused},
+    {"dtaWithTooManyVariables", dta, putBehind("<K>", 0, 0xFFFF, 2), refused,
      "promises 65535 variables"},
-    {"dta119WithTooManyVariables",
-     "a.dta",
-     {.release = 119},
-     [](std::string& b) { put(b, behind(b, "<K>"), 0xFFFFFFFF, 4); },
-     refused,
+    {"dta119WithTooManyVariables", dta119, putBehind("<K>", 0, 0xFFFFFFFF, 4), refused,
      "promises 4294967295 variables"},
-    {"dtaWithTooManyRows",
-     "a.dta",
-     {},
-     [](std::string& b) { put(b, behind(b, "<N>"), 1'000'000'000, 8); },
-     refused,
+    {"dtaWithTooManyRows", dta, putBehind("<N>", 0, 1'000'000'000, 8), refused,
      "promises 1000000000 observations"},
-    {"dtaLabelBeyondTheHeader",
-     "a.dta",
-     {},
-     [](std::string& b) { put(b, behind(b, "<label>"), 0xFFFF, 2); },
-     refused,
-     "damaged"},
-    {"dtaMapBeyondTheFile",
-     "a.dta",
-     {},
-     [](std::string& b) { put(b, behind(b, "<map>") + 9 * 8, ~std::uint64_t{0} >> 1, 8); },
-     rowsRefused},
-    {"dtaWithRowsOfNoBytes",
-     "a.dta",
-     {},
-     [](std::string& b) { put(b, behind(b, "<variable_types>"), 0, 4); },
-     refused},
-    {"oldDtaWithTooManyVariables",
-     "a.dta",
-     {.release = 114},
-     [](std::string& b) { put(b, 4, 0xFFFF, 2); },
-     refused,
+    {"dtaLabelBeyondTheHeader", dta, putBehind("<label>", 0, 0xFFFF, 2), refused, "damaged"},
+    {"dtaMapBeyondTheFile", dta, putBehind("<map>", 9 * 8, ~std::uint64_t{0} >> 1, 8), rowsRefused},
+    {"dtaWithRowsOfNoBytes", dta, putBehind("<variable_types>", 0, 0, 4), refused},
+    {"oldDtaWithTooManyVariables", dta114, putAt(4, 0xFFFF, 2), refused,
      "promises 65535 variables"},
-    {"oldDtaWithTooManyRows",
-     "a.dta",
-     {.release = 114},
-     [](std::string& b) { put(b, 6, 1'000'000'000, 4); },
-     refused,
+    {"oldDtaWithTooManyRows", dta114, putAt(6, 1'000'000'000, 4), refused,
      "promises 1000000000 observations"},
 };
 
-class MalformedFiles : public testing::Test
+class MalformedFiles : public ReaderTest
 {
 protected:
-    [[nodiscard]] QString write(const char* name, const std::string& bytes) const
-    {
-        std::ofstream(m_folder.file(name), std::ios::binary) << bytes;
-        return path(name);
-    }
-    [[nodiscard]] QString path(const char* name) const
-    {
-        return QString::fromStdString(m_folder.file(name).string());
-    }
-    [[nodiscard]] std::string healthy(const char* name, const WriteOptions& options,
-                                      const samples::Table& table = people()) const
-    {
-        samples::writeTable(m_folder.file(name), table, options);
-        return bytesOf(m_folder.file(name));
-    }
     /// To open the file fails, and says which file it is and more.
     static void expectRefused(const QString& path, const std::string& name, const char* message,
-                              const OpenOptions& options)
+                              const std::vector<bool>& metadataOnly = {false, true})
     {
-        const auto opened = openDataset(path, options);
-        ASSERT_FALSE(opened.ok()) << "is read";
-        EXPECT_EQ(opened.error().find(name + ": "), 0U) << opened.error();
-        EXPECT_GT(opened.error().size(), name.size() + 2);
-        EXPECT_NE(opened.error().find(message), std::string::npos) << opened.error();
+        for (const bool only : metadataOnly) {
+            const auto opened = openDataset(path, {.metadataOnly = only});
+            ASSERT_FALSE(opened.ok()) << "is read";
+            EXPECT_EQ(opened.error().find(name + ": "), 0U) << opened.error();
+            EXPECT_GT(opened.error().size(), name.size() + 2);
+            EXPECT_NE(opened.error().find(message), std::string::npos) << opened.error();
+        }
     }
-    static void expectRefused(const QString& path, const std::string& name, const char* message)
-    {
-        expectRefused(path, name, message, {.metadataOnly = false});
-        expectRefused(path, name, message, {.metadataOnly = true});
-    }
-    TemporaryFolder m_folder;
 };
 
 class MalformedFile : public MalformedFiles, public testing::WithParamInterface<Malformed>
@@ -336,27 +193,25 @@ class MalformedFile : public MalformedFiles, public testing::WithParamInterface<
 TEST_P(MalformedFile, endsInAMessageOrInWhatIsReadable)
 {
     const Malformed& one = GetParam();
-    std::string bytes = healthy(one.file, one.options);
+    std::string bytes = written(one.kind.file, people(), one.kind.options);
     one.damage(bytes);
-    const QString file = write(one.file, bytes);
+    const QString file = write(one.kind.file, bytes);
     if (one.rows == refused) {
-        expectRefused(file, one.file, one.message);
+        expectRefused(file, one.kind.file, one.message);
         return;
     }
     if (one.rows == rowsRefused) {
-        expectRefused(file, one.file, one.message, {.metadataOnly = false});
+        expectRefused(file, one.kind.file, one.message, {false});
         const auto description = openDataset(file, {.metadataOnly = true});
         ASSERT_TRUE(description.ok()) << description.error();
         EXPECT_EQ(description.value().dataset->variableCount(), 2);
         return;
     }
-    const auto opened = openDataset(file);
-    ASSERT_TRUE(opened.ok()) << opened.error();
-    const StatDataset& dataset = *opened.value().dataset;
-    ASSERT_EQ(dataset.observationCount(), one.rows);
+    const auto dataset = read(one.kind.file, bytes);
+    ASSERT_EQ(dataset->observationCount(), one.rows);
     for (int row = 0; row < one.rows; ++row) {
-        EXPECT_EQ(dataset.cellText(row, 0), "Person-" + std::to_string(row));
-        EXPECT_EQ(dataset.numericValue(row, 1), 20 + row);
+        EXPECT_EQ(dataset->cellText(row, 0), "Person-" + std::to_string(row));
+        EXPECT_EQ(dataset->numericValue(row, 1), 20 + row);
     }
 }
 
@@ -367,7 +222,7 @@ TEST_F(MalformedFiles, aKindOfFileUnderTheSuffixOfAnotherIsRefused)
 {
     const char* const names[] = {"a.sas7bdat", "a.xpt", "a.sav", "a.dta"};
     for (const char* const name : names) {
-        const std::string bytes = healthy(name, {});
+        const std::string bytes = written(name, people());
         for (const char* const other : names) {
             if (other != name) {
                 SCOPED_TRACE(std::string(name) + " as " + other);
@@ -379,27 +234,15 @@ TEST_F(MalformedFiles, aKindOfFileUnderTheSuffixOfAnotherIsRefused)
 
 TEST_F(MalformedFiles, aTextEndsAtItsFirstNul)
 {
-    struct Case
-    {
-        const char* file;
-        WriteOptions options;
-        const char* text;
-    };
-    const Case nulCases[] = {
-        {"a.sas7bdat", {}, "Per"}, {"a.xpt", {}, "Per"},
-        {"a.sav", {}, "Peron-3"},  // the library leaves NUL bytes out of UTF-8 texts
-        {"a.dta", {}, "Per"},      {"a.dta", {.release = 114}, "Per"},
-    };
-    for (const auto& one : nulCases) {
-        SCOPED_TRACE(one.file);
-        std::string bytes = healthy(one.file, one.options);
-        replaceText(bytes, "Person-3", std::string_view("Per\0on-3", 8));
-        const auto opened = openDataset(write(one.file, bytes));
-        ASSERT_TRUE(opened.ok()) << opened.error();
-        const StatDataset& dataset = *opened.value().dataset;
-        ASSERT_EQ(dataset.observationCount(), healthyRows);
-        EXPECT_EQ(dataset.cellText(3, 0), one.text);
-        EXPECT_EQ(dataset.cellText(4, 0), "Person-4");
+    for (const Kind& kind : {sas, xpt, sav, dta, dta114}) {
+        SCOPED_TRACE(kind.file);
+        std::string bytes = written(kind.file, people(), kind.options);
+        bytes.replace(bytes.find("Person-3"), 8, std::string_view("Per\0on-3", 8));
+        const auto dataset = read(kind.file, bytes);
+        ASSERT_EQ(dataset->observationCount(), healthyRows);
+        // The library leaves NUL bytes out of the UTF-8 texts of SPSS files.
+        EXPECT_EQ(dataset->cellText(3, 0), kind.file == sav.file ? "Peron-3" : "Per");
+        EXPECT_EQ(dataset->cellText(4, 0), "Person-4");
     }
 }
 
@@ -411,17 +254,13 @@ TEST_F(MalformedFiles, veryLongTextsMayStartWithNothingButNuls)
     for (samples::Row& row : table.rows) {
         row[0] = std::string(length, 'a');
     }
-    std::string bytes = healthy("a.sav", {}, table);
-    const std::size_t text = bytes.find(std::string(200, 'a'));
-    ASSERT_NE(text, std::string::npos);
-    bytes.replace(text, 255, 255, '\0');
-    const auto opened = openDataset(write("a.sav", bytes));
-    ASSERT_TRUE(opened.ok()) << opened.error();
-    const StatDataset& dataset = *opened.value().dataset;
-    EXPECT_EQ(dataset.header().encoding, "UTF-8");
-    EXPECT_EQ(dataset.cellText(0, 0), "");
-    EXPECT_EQ(dataset.cellText(1, 0), std::string(length, 'a'));
-    EXPECT_EQ(dataset.numericValue(0, 1), 20);
+    std::string bytes = written("a.sav", table);
+    bytes.replace(bytes.find(std::string(200, 'a')), 255, 255, '\0');
+    const auto dataset = read("a.sav", bytes);
+    EXPECT_EQ(dataset->header().encoding, "UTF-8");
+    EXPECT_EQ(dataset->cellText(0, 0), "");
+    EXPECT_EQ(dataset->cellText(1, 0), std::string(length, 'a'));
+    EXPECT_EQ(dataset->numericValue(0, 1), 20);
 }
 
 TEST_F(MalformedFiles, whatIsNoFileIsRefused)
@@ -429,19 +268,19 @@ TEST_F(MalformedFiles, whatIsNoFileIsRefused)
     for (const char* const suffix : {".sas7bdat", ".xpt", ".sav", ".dta"}) {
         SCOPED_TRACE(suffix);
         const std::string missing = std::string("missing") + suffix;
-        expectRefused(path(missing.c_str()), missing, "");
+        expectRefused(path(missing), missing, "");
 
         const std::string folder = std::string("folder") + suffix;
         std::filesystem::create_directory(m_folder.file(folder));
-        expectRefused(path(folder.c_str()), folder, "Not a regular file");
+        expectRefused(path(folder), folder, "Not a regular file");
 
         const std::string device = std::string("device") + suffix;
         std::filesystem::create_symlink("/dev/zero", m_folder.file(device));
-        expectRefused(path(device.c_str()), device, "Not a regular file");
+        expectRefused(path(device), device, "Not a regular file");
 
         const std::string pipe = std::string("pipe") + suffix;
         ASSERT_EQ(mkfifo(m_folder.file(pipe).c_str(), 0600), 0);
-        expectRefused(path(pipe.c_str()), pipe, "Not a regular file");
+        expectRefused(path(pipe), pipe, "Not a regular file");
     }
 }
 
@@ -452,7 +291,7 @@ TEST_F(MalformedFiles, aFileThatMayNotBeReadIsRefused)
     }
     for (const char* const name : {"a.sas7bdat", "a.xpt", "a.sav", "a.dta"}) {
         SCOPED_TRACE(name);
-        static_cast<void>(healthy(name, {}));
+        static_cast<void>(written(name, people()));
         std::filesystem::permissions(m_folder.file(name), std::filesystem::perms::none);
         expectRefused(path(name), name, "");
     }

@@ -1,43 +1,25 @@
-#include "data/readers/DatasetFile.h"
-#include "samples/TableWriter.h"
-#include "tests/support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
+#include "tests/data/ReaderTest.h"
 
 #include <cmath>
 #include <ostream>
 
 namespace {
 
+using samples::Compression;
+
 struct FileCase
 {
     const char* name;
     const char* file;
-    samples::WriteOptions options;
-    SourceKind kind;
-    const char* missing;  ///< what a missing number shows
-    const char* date;  ///< what day 0 shows
-    const char* number;  ///< what 2.5 shows
+    samples::WriteOptions options{};
+    SourceKind kind = SourceKind::Sas;
+    const char* missing = "nan";  ///< what a missing number shows
+    const char* date = "01Jan1960";  ///< what day 0 shows
 };
 
 std::ostream& operator<<(std::ostream& out, const FileCase& one)
 {
     return out << one.name;
-}
-
-samples::WriteOptions release(int number)
-{
-    samples::WriteOptions options;
-    options.release = number;
-    return options;
-}
-
-samples::WriteOptions compressed(samples::Compression compression, bool layout64 = true)
-{
-    samples::WriteOptions options;
-    options.compression = compression;
-    options.layout64 = layout64;
-    return options;
 }
 
 constexpr double day2020 = 21914;  // 2019-12-31 since 1960
@@ -57,23 +39,20 @@ samples::Table visits()
     return table;
 }
 
-class Readers : public testing::TestWithParam<FileCase>
+class Readers : public ReaderTest, public testing::WithParamInterface<FileCase>
 {
 protected:
-    [[nodiscard]] QString write(const samples::Table& table) const
+    [[nodiscard]] std::unique_ptr<StatDataset> reread(const samples::Table& table,
+                                                      const OpenOptions& options = {}) const
     {
-        const auto path = m_folder.file(GetParam().file);
-        samples::writeTable(path, table, GetParam().options);
-        return QString::fromStdString(path.string());
+        return read(GetParam().file, written(GetParam().file, table, GetParam().options), options);
     }
-    TemporaryFolder m_folder;
 };
 
 TEST_P(Readers, readEveryCell)
 {
-    const Result<OpenedDataset> opened = openDataset(write(visits()));
-    ASSERT_TRUE(opened.ok()) << opened.error();
-    const StatDataset& dataset = *opened.value().dataset;
+    const auto opened = reread(visits());
+    const StatDataset& dataset = *opened;
     EXPECT_EQ(dataset.sourceKind(), GetParam().kind);
     ASSERT_EQ(dataset.observationCount(), 3);
     EXPECT_EQ(dataset.names(), (std::vector<std::string>{"SITE", "DOSE", "VSDT"}));
@@ -89,7 +68,7 @@ TEST_P(Readers, readEveryCell)
     EXPECT_EQ(dataset.numericValue(2, 1), -1.0);
     EXPECT_TRUE(std::isnan(dataset.numericValue(1, 1)));
 
-    EXPECT_EQ(dataset.cellText(0, 1), GetParam().number);
+    EXPECT_EQ(dataset.cellText(0, 1), "2.50");
     EXPECT_EQ(dataset.cellText(0, 2), GetParam().date);
     EXPECT_EQ(dataset.cellText(1, 1), GetParam().missing);
     EXPECT_EQ(dataset.cellText(1, 2), GetParam().missing);
@@ -102,9 +81,8 @@ TEST_P(Readers, readEveryCell)
 
 TEST_P(Readers, describeWithoutReadingCells)
 {
-    const Result<OpenedDataset> opened = openDataset(write(visits()), {.metadataOnly = true});
-    ASSERT_TRUE(opened.ok()) << opened.error();
-    const StatDataset& dataset = *opened.value().dataset;
+    const auto opened = reread(visits(), {.metadataOnly = true});
+    const StatDataset& dataset = *opened;
     EXPECT_EQ(dataset.observationCount(), 3);
     EXPECT_EQ(dataset.names().back(), "VSDT");
     EXPECT_EQ(dataset.labels().back(), "Date");
@@ -118,65 +96,53 @@ TEST_P(Readers, readFilesWithoutObservations)
 {
     samples::Table table = visits();
     table.rows.clear();
-    const Result<OpenedDataset> opened = openDataset(write(table));
-    ASSERT_TRUE(opened.ok()) << opened.error();
-    EXPECT_EQ(opened.value().dataset->observationCount(), 0);
-    EXPECT_EQ(opened.value().dataset->variableCount(), 3);
+    const auto dataset = reread(table);
+    EXPECT_EQ(dataset->observationCount(), 0);
+    EXPECT_EQ(dataset->variableCount(), 3);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Formats, Readers,
-    testing::Values(
-        FileCase{"transport5", "vs.xpt", release(5), SourceKind::Sas, "nan", "01Jan1960", "2.50"},
-        FileCase{"transport8", "vs.xpt", release(8), SourceKind::Sas, "nan", "01Jan1960", "2.50"},
-        FileCase{"sas64", "vs.sas7bdat", {}, SourceKind::Sas, "nan", "01Jan1960", "2.50"},
-        FileCase{"sas32", "VS.SAS7BDAT", compressed(samples::Compression::None, false),
-                 SourceKind::Sas, "nan", "01Jan1960", "2.50"},
-        FileCase{"sasCompressed", "vs.sas7bdat", compressed(samples::Compression::Rows),
-                 SourceKind::Sas, "nan", "01Jan1960", "2.50"},
-        FileCase{"spss", "vs.sav", {}, SourceKind::Spss, ".", "01-JAN-1960", "2.50"},
-        FileCase{"spssRows", "vs.sav", compressed(samples::Compression::Rows), SourceKind::Spss,
-                 ".", "01-JAN-1960", "2.50"},
-        FileCase{"spssZlib", "vs.sav", compressed(samples::Compression::Zlib), SourceKind::Spss,
-                 ".", "01-JAN-1960", "2.50"},
-        FileCase{"stata111", "vs.dta", release(111), SourceKind::Stata, ".", "01jan1960", "2.50"},
-        FileCase{"stata114", "vs.dta", release(114), SourceKind::Stata, ".", "01jan1960", "2.50"},
-        FileCase{"stata117", "vs.dta", release(117), SourceKind::Stata, ".", "01jan1960", "2.50"},
-        FileCase{"stata118", "vs.dta", release(118), SourceKind::Stata, ".", "01jan1960", "2.50"},
-        FileCase{"stata119", "vs.dta", release(119), SourceKind::Stata, ".", "01jan1960", "2.50"}),
-    [](const auto& tested) { return tested.param.name; });
+const samples::WriteOptions rows{.compression = Compression::Rows};
+const samples::WriteOptions zlib{.compression = Compression::Zlib};
+const FileCase kinds[] = {
+    {"transport5", "vs.xpt", {.release = 5}},
+    {"transport8", "vs.xpt", {.release = 8}},
+    {"sas64", "vs.sas7bdat", {}},
+    {"sas32", "VS.SAS7BDAT", {.layout64 = false}},
+    {"sasCompressed", "vs.sas7bdat", rows},
+    {"spss", "vs.sav", {}, SourceKind::Spss, ".", "01-JAN-1960"},
+    {"spssRows", "vs.sav", rows, SourceKind::Spss, ".", "01-JAN-1960"},
+    {"spssZlib", "vs.sav", zlib, SourceKind::Spss, ".", "01-JAN-1960"},
+    {"stata111", "vs.dta", {.release = 111}, SourceKind::Stata, ".", "01jan1960"},
+    {"stata114", "vs.dta", {.release = 114}, SourceKind::Stata, ".", "01jan1960"},
+    {"stata117", "vs.dta", {.release = 117}, SourceKind::Stata, ".", "01jan1960"},
+    {"stata118", "vs.dta", {.release = 118}, SourceKind::Stata, ".", "01jan1960"},
+    {"stata119", "vs.dta", {.release = 119}, SourceKind::Stata, ".", "01jan1960"},
+};
 
-TEST(Readers, openAFileWhoseNameIsNoText)
+INSTANTIATE_TEST_SUITE_P(Kinds, Readers, testing::ValuesIn(kinds),
+                         [](const auto& tested) { return tested.param.name; });
+
+class ReaderFiles : public ReaderTest
+{ };
+
+TEST_F(ReaderFiles, openUnderANameThatIsNoText)
 {
-    const TemporaryFolder folder;
-    const std::string path = folder.path().string() + "/m\xFCnch.xpt";
-    samples::writeTable(path, visits());
-    EXPECT_TRUE(openDataset(QString::fromStdString(folder.path().string()) + QStringLiteral("/m")
-                            + QChar(0xDCFC) + QStringLiteral("nch.xpt"))
-                    .ok());
+    samples::writeTable(m_folder.path().string() + "/m\xFCnch.xpt", visits());
+    EXPECT_TRUE(openDataset(path("m") + QChar(0xDCFC) + QStringLiteral("nch.xpt")).ok());
 }
 
-TEST(Readers, countTheCasesOfAnSpssFileThatDoesNotTell)
+TEST_F(ReaderFiles, areCountedWhereAnSpssFileDoesNotTell)
 {
-    const TemporaryFolder folder;
-    for (const samples::Compression compression :
-         {samples::Compression::None, samples::Compression::Rows}) {
-        const std::string path = folder.file("unknown.sav").string();
-        samples::writeTable(path, visits(), compressed(compression));
-        std::string bytes = bytesOf(path);
-        bytes.replace(80, 4, "\xFF\xFF\xFF\xFF");
-        std::ofstream(path, std::ios::binary) << bytes;
-
-        const Result<OpenedDataset> whole = openDataset(QString::fromStdString(path));
-        ASSERT_TRUE(whole.ok()) << whole.error();
-        EXPECT_EQ(whole.value().dataset->observationCount(), 3);
-        EXPECT_EQ(whole.value().dataset->cellCount(), 9U);
-        EXPECT_EQ(whole.value().dataset->cellText(2, 0), "Zürich");
-        const Result<OpenedDataset> described =
-            openDataset(QString::fromStdString(path), {.metadataOnly = true});
-        ASSERT_TRUE(described.ok()) << described.error();
-        EXPECT_EQ(described.value().dataset->observationCount(), 3);
-        EXPECT_EQ(described.value().dataset->cellCount(), 0U);
+    for (const Compression compression : {Compression::None, Compression::Rows}) {
+        std::string bytes = written("unknown.sav", visits(), {.compression = compression});
+        put(bytes, 80, 0xFFFFFFFF, 4);
+        const auto whole = read("unknown.sav", bytes);
+        EXPECT_EQ(whole->observationCount(), 3);
+        EXPECT_EQ(whole->cellCount(), 9U);
+        EXPECT_EQ(whole->cellText(2, 0), "Zürich");
+        const auto described = read("unknown.sav", bytes, {.metadataOnly = true});
+        EXPECT_EQ(described->observationCount(), 3);
+        EXPECT_EQ(described->cellCount(), 0U);
     }
 }
 

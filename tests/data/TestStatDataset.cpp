@@ -14,7 +14,7 @@ public:
     OneRow()
     {
         resizeVariables(4);
-        m_names = {"SITE", "VISIT", "DOSE", "PULSE"};
+        m_names = {"SITE", "VISIT", "DOSE", "pulse"};
         m_labels = {"Site", "", "Dose (mg)", ""};
         m_formats = {"A8", "F3.0", "F8.2", "F3.0"};
         m_typeCodes = {TypeCode::Character, TypeCode::Int32, TypeCode::Double, TypeCode::Float};
@@ -75,6 +75,7 @@ TEST(StatDataset, findsTheFirstVariableOfAName)
 {
     const OneRow dataset;
     EXPECT_EQ(dataset.findVariable(L"dose"), 2);
+    EXPECT_EQ(dataset.findVariable(L"PULSE"), 3) << "letters of both are the same";
     EXPECT_EQ(dataset.findVariable(L"DOSE "), -1);
     EXPECT_EQ(dataset.findVariable(L""), -1);
 }

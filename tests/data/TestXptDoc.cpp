@@ -1,8 +1,6 @@
-#include "data/readers/DatasetFile.h"
-#include "samples/TableWriter.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/data/ReaderTest.h"
 
-#include <gtest/gtest.h>
+#include <fmt/format.h>
 
 namespace {
 
@@ -17,14 +15,14 @@ samples::Table texts(const std::string& name, int length, const std::vector<std:
     return table;
 }
 
-class XptDoc : public testing::Test
+class XptDoc : public ReaderTest
 {
 protected:
-    Result<OpenedDataset> open(const std::string& file, const OpenOptions& options = {})
+    [[nodiscard]] Result<OpenedDataset> open(const char* file,
+                                             const OpenOptions& options = {}) const
     {
-        return openDataset(QString::fromStdString(m_folder.file(file).string()), options);
+        return openDataset(path(file), options);
     }
-    TemporaryFolder m_folder;
 };
 
 TEST_F(XptDoc, opensEachMemberWholeAndAlone)
@@ -64,48 +62,94 @@ TEST_F(XptDoc, tellsBlankRowsFromPadding)
     const std::vector<PaddingCase> cases{
         {1, {"x", "y", "z"}, 3},  // 77 blanks of padding are no rows
         {8, {"x", blank, "z"}, 3},
-        {40,
-         {"x", blank, blank},
-         3},  // the third row lies in a card of its own, the fourth would be padding
+        {40, {"x", blank, blank}, 3},  // the third lies in a card of its own with the padding
         {80, {"x", blank, blank}, 3},  // rows fill their cards: nothing is padding
         {100, {"x", blank, blank, blank}, 4},
         {200, {blank, blank}, 2},
     };
     for (const PaddingCase& one : cases) {
-        samples::writeTable(m_folder.file("blank.xpt"), texts("T", one.length, one.values));
-        for (const bool metadataOnly : {false, true}) {
-            const auto opened = open("blank.xpt", {.metadataOnly = metadataOnly});
-            ASSERT_TRUE(opened.ok()) << opened.error();
-            EXPECT_EQ(opened.value().dataset->observationCount(), one.observations)
-                << one.length << " bytes a row";
-        }
-        const auto opened = open("blank.xpt");
-        EXPECT_EQ(opened.value().dataset->cellText(one.observations - 1, 0), one.values.back());
+        SCOPED_TRACE(one.length);
+        const std::string bytes = written("blank.xpt", texts("T", one.length, one.values));
+        const auto dataset = read("blank.xpt", bytes);
+        ASSERT_EQ(dataset->observationCount(), one.observations);
+        EXPECT_EQ(dataset->cellText(one.observations - 1, 0), one.values.back());
+        EXPECT_EQ(read("blank.xpt", bytes, {.metadataOnly = true})->observationCount(),
+                  one.observations);
     }
+}
+
+TEST_F(XptDoc, believesTheCountOfVersion8WhereItCanBeTrue)
+{
+    // Three rows of 8 bytes in a card of 80: one to ten rows could be meant.
+    std::string bytes = written("count.xpt", texts("T", 8, {"x", "", ""}), {.release = 8});
+    const std::size_t count = behind(bytes, "OBSV8   HEADER RECORD!!!!!!!");
+    for (const int rows : {1, 3, 10}) {
+        bytes.replace(count, 15, fmt::format("{:15}", rows));
+        EXPECT_EQ(read("count.xpt", bytes)->observationCount(), rows);
+    }
+    bytes.replace(count, 15, fmt::format("{:15}", 11));
+    EXPECT_EQ(read("count.xpt", bytes)->observationCount(), 1) << "the rows that are not blank";
+}
+
+/// A big-endian number of two bytes.
+std::string u16(std::size_t number)
+{
+    return {static_cast<char>(number >> 8), static_cast<char>(number)};
+}
+
+TEST_F(XptDoc, takesLongNamesOfFormatsFromTheirRecords)
+{
+    samples::Table table;
+    table.name = "LONG";
+    table.columns = {samples::numberColumn("A", "a", "F", 8, 2), samples::numberColumn("B", "b")};
+    table.rows = {{1.0, 2.0}};
+    std::string bytes = written("long.xpt", table, {.release = 8});
+    const std::string format = "LONGFORMATNAME10.2";
+    const std::string informat = "$OTHERINFORMAT7.";
+    std::string records =
+        fmt::format("{:<80}", "HEADER RECORD*******LABELV9 HEADER RECORD!!!!!!!1");
+    records += u16(1) + u16(1) + u16(11) + u16(format.size()) + u16(informat.size());
+    records += "A"
+               "A new label"
+        + format + informat;
+    records.resize(160, ' ');
+    bytes.insert(behind(bytes, "HEADER RECORD*******OBSV8") - 25, records);
+    const auto dataset = read("long.xpt", bytes);
+    EXPECT_EQ(dataset->labels()[0], "A new label");
+    EXPECT_EQ(dataset->formats(), (std::vector<std::string>{"LONGFORMATNAME", ""}));
+    EXPECT_EQ(dataset->informats()[0], "$OTHERINFORMAT8.2");
+    EXPECT_EQ(dataset->formatDecimals()[0], 2);
+    EXPECT_EQ(dataset->numericValue(0, 1), 2.0);
 }
 
 TEST_F(XptDoc, takesFormatsAsTheFileRecordsThem)
 {
     samples::Table table = texts("F", 5, {"abcde"});
-    table.columns[0].format = "$";
+    const samples::Column whole = samples::textColumn("WHOLE", "All of it", 5);
+    table.columns.insert(table.columns.end(),
+                         {whole, samples::numberColumn("WHEN", "When", "DATETIME", 20),
+                          samples::numberColumn("HOW", "How much", "BEST", 8, 1)});
+    table.columns[0].format = table.columns[1].format = "$";
     table.columns[0].width = 3;
-    table.columns.push_back(samples::numberColumn("WHEN", "When", "DATETIME", 20));
-    table.columns.push_back(samples::numberColumn("HOW", "How much", "F", 8, 2));
-    table.rows[0].emplace_back(86399.0);
-    table.rows[0].emplace_back(0.125);
-    samples::writeTable(m_folder.file("formats.xpt"), table);
-    const auto opened = open("formats.xpt");
-    ASSERT_TRUE(opened.ok()) << opened.error();
-    const StatDataset& dataset = *opened.value().dataset;
-    EXPECT_EQ(dataset.formats(), (std::vector<std::string>{"$", "DATETIME", "F"}));
-    EXPECT_EQ(dataset.formatWidths(), (std::vector<std::int32_t>{3, 20, 8}));
-    EXPECT_EQ(dataset.formatDecimals(), (std::vector<std::int32_t>{0, 0, 2}));
-    EXPECT_EQ(dataset.cellText(0, 0), "abc");
-    EXPECT_EQ(dataset.cellText(0, 1), "01Jan1960:23:59:59");
-    EXPECT_EQ(dataset.variableAttribute(2, VariableAttribute::Format), "F.2");
-    EXPECT_EQ(dataset.variableAttribute(1, VariableAttribute::Format), "DATETIME.");
-    EXPECT_EQ(dataset.variableAttribute(1, VariableAttribute::Informat), "");
-    EXPECT_EQ(dataset.variableAttribute(0, VariableAttribute::Informat), "$.");
+    table.rows = {{"abcde", "abcde", 86399.0, 0.125}};
+    const auto dataset = read("formats.xpt", written("formats.xpt", table));
+    EXPECT_EQ(dataset->formats(), (std::vector<std::string>{"$", "$", "DATETIME", "BEST"}));
+    EXPECT_EQ(dataset->formatWidths(), (std::vector<std::int32_t>{3, 0, 20, 8}));
+    EXPECT_EQ(dataset->formatDecimals(), (std::vector<std::int32_t>{0, 0, 0, 1}));
+    const auto attributes = [&](VariableAttribute attribute) {
+        std::vector<std::string> all;
+        for (int column = 0; column < 4; ++column) {
+            all.push_back(dataset->variableAttribute(column, attribute));
+        }
+        return all;
+    };
+    EXPECT_EQ(dataset->cellText(0, 0), "abc");
+    EXPECT_EQ(dataset->cellText(0, 1), "abcde") << "without a width the whole variable";
+    EXPECT_EQ(dataset->cellText(0, 2), "01Jan1960:23:59:59");
+    EXPECT_EQ(attributes(VariableAttribute::Format),
+              (std::vector<std::string>{"$.", "$.", "DATETIME.", "BEST.1"}));
+    EXPECT_EQ(attributes(VariableAttribute::Informat),
+              (std::vector<std::string>{"$.", "$.", "", "BEST.1"}));
 }
 
 }  // namespace
