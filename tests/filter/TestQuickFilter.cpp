@@ -4,7 +4,7 @@
 
 #include <bit>
 #include <cmath>
-#include <ostream>
+#include <functional>
 #include <random>
 
 namespace {
@@ -16,67 +16,50 @@ std::string textOf(const Result<QString>& condition)
     return condition ? condition.value().toStdString() : "failure: " + condition.error();
 }
 
-FormattedDataset& columns()
+/// The condition of a variable "x" of the value's type.
+std::string written(CompareOp op, const Value& value, const char* format = "",
+                    SourceKind kind = SourceKind::Sas)
 {
-    static FormattedDataset dataset;
-    if (dataset.variableCount() == 0) {
-        dataset.variable("AGE", TypeCode::Double)
-            .variable("SEX", TypeCode::Character)
-            .variable("D", TypeCode::Double, "YYMMDD")
-            .variable("DT", TypeCode::Double, "DATETIME")
-            .variable("T", TypeCode::Double, "time5.")
-            .variable("my var", TypeCode::Double);
-    }
-    return dataset;
+    FormattedDataset dataset(kind);
+    const bool isText = std::holds_alternative<std::string>(value);
+    dataset.variable("x", isText ? TypeCode::Character : TypeCode::Double, format);
+    return textOf(QuickFilter(dataset, 0).compare(op, value));
 }
 
-TEST(QuickFilter, writesNumbersShort)
+TEST(QuickFilter, writesValuesAsTheyAreStored)
 {
-    const QuickFilter age(columns(), 0);
-    EXPECT_EQ(textOf(age.compare(CompareOp::Equal, 60.0)), "AGE = 60");
-    EXPECT_EQ(textOf(age.compare(CompareOp::NotEqual, 0.1)), "AGE ^= 0.1");
-    EXPECT_EQ(textOf(age.compare(CompareOp::Greater, -2.5)), "AGE > -2.5");
-    EXPECT_EQ(textOf(age.compare(CompareOp::LessOrEqual, 1e20)), "AGE <= 1e+20");
-    EXPECT_EQ(textOf(age.compare(CompareOp::Equal, -0.0)), "AGE = 0");
-    EXPECT_EQ(textOf(age.compare(CompareOp::Equal, 0.1 + 0.2)), "AGE = 0.30000000000000004");
-    EXPECT_EQ(textOf(age.compare(CompareOp::Equal, ScriptedDataset::missing)), "AGE = .");
-    EXPECT_EQ(textOf(age.compare(CompareOp::GreaterOrEqual, ScriptedDataset::missing)), "AGE >= .");
-    EXPECT_EQ(textOf(age.compare(CompareOp::Equal, std::numeric_limits<double>::infinity())),
-              "failure: An infinite number cannot be written in a filter");
-}
-
-TEST(QuickFilter, writesTextsInTheQuotesTheyDoNotHold)
-{
-    const QuickFilter sex(columns(), 1);
-    EXPECT_EQ(textOf(sex.compare(CompareOp::Equal, "F")), "SEX = \"F\"");
-    EXPECT_EQ(textOf(sex.compare(CompareOp::Less, "F ")), "SEX < \"F\"");
-    EXPECT_EQ(textOf(sex.compare(CompareOp::Equal, "it's")), "SEX = \"it's\"");
-    EXPECT_EQ(textOf(sex.compare(CompareOp::Equal, "6\" pipe")), "SEX = '6\" pipe'");
-    EXPECT_EQ(textOf(sex.compare(CompareOp::Equal, "6\" o'clock")),
+    struct Row
+    {
+        CompareOp op;
+        Value value;
+        const char* condition;
+    };
+    for (const Row& row : std::vector<Row>{
+             {CompareOp::Equal, 60.0, "x = 60"},
+             {CompareOp::NotEqual, 0.1 + 0.2, "x ^= 0.30000000000000004"},
+             {CompareOp::LessOrEqual, 1e20, "x <= 1e+20"},
+             {CompareOp::Equal, -0.0, "x = 0"},
+             {CompareOp::Equal, HUGE_VAL,
+              "failure: An infinite number cannot be written in a filter"},
+             {CompareOp::Less, "F ", "x < \"F\""},
+             {CompareOp::Equal, "it's", "x = \"it's\""},
+             {CompareOp::Equal, "6\" pipe", "x = '6\" pipe'"},
+             {CompareOp::Equal, "6\" o'clock",
               "failure: A text with both kinds of quotes cannot be written in a filter: "
-              "6\" o'clock");
-    EXPECT_EQ(textOf(sex.compare(CompareOp::Equal, "  ")), "SEX is null");
-    EXPECT_EQ(textOf(sex.compare(CompareOp::NotEqual, "")), "SEX is not null");
-    EXPECT_EQ(textOf(sex.compare(CompareOp::Greater, "")), "SEX > \"\"");
-    EXPECT_EQ(textOf(sex.compare(CompareOp::Equal, "\xFF")).substr(0, 8), "failure:");
+              "6\" o'clock"},
+             {CompareOp::Equal, "\xFF",
+              "failure: A text with invalid characters cannot be written in a filter"},
+             {CompareOp::Equal, "  ", "x is null"},
+             {CompareOp::NotEqual, "", "x is not null"},
+             {CompareOp::Greater, "", "x > \"\""},
+             {CompareOp::Contains, "it's ", "index(x, \"it's\") > 0"},
+             {CompareOp::Contains, "", "x is null"},
+             {CompareOp::Contains, 5.0, "failure: x holds numbers, which contain no text"}}) {
+        EXPECT_EQ(written(row.op, row.value), row.condition);
+    }
 }
 
 TEST(QuickFilter, writesDatesAndTimesAsLiteralsWhereTheseReadBack)
-{
-    const QuickFilter date(columns(), 2);
-    EXPECT_EQ(textOf(date.compare(CompareOp::Equal, 21915.0)), "D = \"01JAN2020\"d");
-    EXPECT_EQ(textOf(date.compare(CompareOp::Equal, 21915.5)), "D = 21915.5");
-    EXPECT_EQ(textOf(date.compare(CompareOp::Equal, -200000.0)), "D = -200000") << "before 1582";
-    EXPECT_EQ(textOf(date.compare(CompareOp::Equal, ScriptedDataset::missing)), "D = .");
-    const QuickFilter dateTime(columns(), 3);
-    EXPECT_EQ(textOf(dateTime.compare(CompareOp::GreaterOrEqual, 1893501015.0)),
-              "DT >= \"01JAN2020:12:30:15\"dt");
-    const QuickFilter time(columns(), 4);
-    EXPECT_EQ(textOf(time.compare(CompareOp::Equal, 45015.0)), "T = \"12:30:15\"t");
-    EXPECT_EQ(textOf(time.compare(CompareOp::Equal, 90000.0)), "T = 90000") << "beyond a day";
-}
-
-TEST(QuickFilter, writesDatesOfOtherProgramsByTheirEpoch)
 {
     struct Row
     {
@@ -86,180 +69,120 @@ TEST(QuickFilter, writesDatesOfOtherProgramsByTheirEpoch)
         const char* condition;
     };
     for (const Row& row : std::vector<Row>{
+             {SourceKind::Sas, "YYMMDD", 21915.0, "x = \"01JAN2020\"d"},
+             {SourceKind::Sas, "DATE", 21915.5, "x = 21915.5"},
+             {SourceKind::Sas, "DATE", -200000.0, "x = -200000"},  // before 1582
+             {SourceKind::Sas, "DATETIME", 1893501015.0, "x = \"01JAN2020:12:30:15\"dt"},
+             {SourceKind::Sas, "time5.", 45015.0, "x = \"12:30:15\"t"},
+             {SourceKind::Sas, "time5.", 90000.0, "x = 90000"},  // beyond a day
              {SourceKind::Spss, "DATE11", 13797216000.0, "x = \"01JAN2020\"d"},
              {SourceKind::Spss, "DATETIME20", 13797216001.0, "x = \"01JAN2020:00:00:01\"dt"},
              {SourceKind::Spss, "TIME8", 3600.0, "x = \"01:00:00\"t"},
-             {SourceKind::Spss, "F8.2", 21915.0, "x = 21915"},
              {SourceKind::R, "%d%b%Y", 18262.0, "x = \"01JAN2020\"d"},
              {SourceKind::R, "%d%b%Y:%H:%M:%S", 1577836801.0, "x = \"01JAN2020:00:00:01\"dt"},
              {SourceKind::Stata, "%td", 21915.0, "x = \"01JAN2020\"d"},
              {SourceKind::Stata, "%tc", 1893456000000.0, "x = \"01JAN2020:00:00:00\"dt"},
              {SourceKind::Stata, "%tc", 1893456000500.0, "x = 1893456000500"},
-             {SourceKind::Stata, "%tm", 720.0, "x = 720"},
-         }) {
-        FormattedDataset dataset(row.kind);
-        dataset.variable("x", TypeCode::Double, row.format).row({row.value}).row({0.0});
-        const auto condition = QuickFilter(dataset, 0).compare(CompareOp::Equal, row.value);
-        EXPECT_EQ(textOf(condition), row.condition) << row.format;
-        EXPECT_EQ(selected(dataset, textOf(condition)), std::vector<int>{1}) << row.format;
+             {SourceKind::Stata, "%tm", 720.0, "x = 720"}}) {
+        EXPECT_EQ(written(CompareOp::Equal, row.value, row.format, row.kind), row.condition)
+            << row.format;
     }
 }
 
-TEST(QuickFilter, writesListsOfValues)
+TEST(QuickFilter, writesEachValueOfAListOnce)
 {
-    const QuickFilter age(columns(), 0);
-    EXPECT_EQ(textOf(age.isIn(std::vector<Value>{3.0, ScriptedDataset::missing, -1.0, 3.0})),
-              "AGE in (3, ., -1)");
-    const QuickFilter sex(columns(), 1);
-    EXPECT_EQ(textOf(sex.isIn(std::vector<Value>{"M", "", "it's", "M "})),
-              "SEX in (\"M\", \"\", \"it's\")");
-    const QuickFilter date(columns(), 2);
-    EXPECT_EQ(textOf(date.isIn(std::vector<Value>{21915.0, 0.5})), "D in (\"01JAN2020\"d, 0.5)");
-    EXPECT_EQ(textOf(age.isIn({})).substr(0, 8), "failure:");
-    EXPECT_EQ(textOf(sex.isIn(std::vector<Value>{"a", "'\""})).substr(0, 8), "failure:");
-}
-
-TEST(QuickFilter, writesContainsWithIndex)
-{
-    const QuickFilter sex(columns(), 1);
-    EXPECT_EQ(textOf(sex.contains("it's ")), "index(SEX, \"it's\") > 0");
-    EXPECT_EQ(textOf(sex.compare(CompareOp::Contains, "a")), "index(SEX, \"a\") > 0");
-    EXPECT_EQ(textOf(sex.contains("")), "SEX is null");
-    EXPECT_EQ(textOf(QuickFilter(columns(), 0).contains(5.0)).substr(0, 8), "failure:");
-}
-
-TEST(QuickFilter, refusesNamesThatAreNoIdentifiers)
-{
-    EXPECT_EQ(textOf(QuickFilter(columns(), 5).compare(CompareOp::Equal, 1.0)),
+    FormattedDataset dataset;
+    dataset.variable("D", TypeCode::Double, "DATE").variable("my var", TypeCode::Double);
+    const QuickFilter date(dataset, 0);
+    EXPECT_EQ(textOf(date.isIn(std::vector<Value>{21915.0, ScriptedDataset::missing, 0.5, 0.5})),
+              "D in (\"01JAN2020\"d, ., 0.5)");
+    EXPECT_EQ(textOf(date.isIn({})), "failure: There is no value to filter by");
+    EXPECT_EQ(textOf(QuickFilter(dataset, 1).compare(CompareOp::Equal, 1.0)),
               "failure: The variable my var cannot be filtered: its name is more than letters, "
               "digits and _");
 }
 
-TEST(QuickFilter, takesTheMissingMarksOfTheDataset)
+TEST(QuickFilter, takesTheMissingMarkOfTheDataset)
 {
     InMemoryDatasetBuilder builder;
-    builder.addVariable({.name = "Q"}).addMissing();
-    const auto built = builder.build();
+    const auto built = builder.addVariable({.name = "Q"}).addMissing().build();
     const QuickFilter quick(*built, 0);
     EXPECT_EQ(textOf(quick.compare(CompareOp::Equal, quick.valueAt(0))), "Q = .");
-
-    ScriptedDataset r(SourceKind::R);
-    r.variable("i", TypeCode::Int32).row({-2147483648.0});
-    const QuickFilter integer(r, 0);
-    EXPECT_EQ(textOf(integer.compare(CompareOp::Equal, integer.valueAt(0))), "i = .");
 }
 
-/// Doubles of every size, whole ones that look like dates among them.
-double randomNumber(std::mt19937_64& random)
+/// Numbers of every size, whole ones that look like dates among them, and texts.
+ScriptedDataset::Value randomValue(std::mt19937_64& random, int column)
 {
+    if (column == 1) {
+        static const std::vector<std::string> pieces{"a", "'", "\"", " ", "\u00E4", "d", "(", "\n"};
+        std::string text;
+        for (auto n = random() % 5; n > 0; --n) {
+            text += pieces[random() % pieces.size()];
+        }
+        return text;
+    }
     switch (random() % 4) {
     case 0: {
         const auto number = std::bit_cast<double>(random());
         return std::isfinite(number) ? number : ScriptedDataset::missing;
     }
     case 1:
-        return static_cast<double>(static_cast<std::int64_t>(random() % 80000) - 20000);
+        return static_cast<double>(random() % 80000) - 20000;
     case 2:
-        return static_cast<double>(static_cast<std::int64_t>(random() % 20'000'000'000)) - 5e9;
+        return static_cast<double>(random() % 20'000'000'000) - 5e9;
     default:
-        return static_cast<double>(random() % 1000) / 8;
+        return random() % 4 == 0 ? ScriptedDataset::missing
+                                 : static_cast<double>(random() % 1000) / 8;
     }
 }
 
-std::string randomText(std::mt19937_64& random)
+/// What two values that are alike to a user share: all missing numbers, and texts but for blanks at
+/// their end.
+Value shared(const Value& value)
 {
-    static const std::vector<std::string> pieces{"a", "B", "'", "\"", " ",      "\u00E4",
-                                                 "d", "t", "(", ")",  "\u65E5", "\n"};
-    std::string text;
-    for (auto n = random() % 5; n > 0; --n) {
-        text += pieces[random() % pieces.size()];
+    if (const auto* text = std::get_if<std::string>(&value)) {
+        return withoutBlanksAtEnd(*text);
     }
-    return text;
+    return std::isnan(std::get<double>(value)) ? HUGE_VAL : value;
 }
 
-bool sameNumber(double a, double b)
+TEST(QuickFilter, selectsExactlyTheRowsWithThatValue)
 {
-    return a == b || (std::isnan(a) && std::isnan(b));
-}
-
-bool sameText(std::string a, std::string b)
-{
-    a.erase(a.find_last_not_of(' ') + 1);
-    b.erase(b.find_last_not_of(' ') + 1);
-    return a == b;
-}
-
-struct Format
-{
-    const char* test;
-    SourceKind kind;
-    const char* name;
-};
-
-std::ostream& operator<<(std::ostream& stream, const Format& format)
-{
-    return stream << format.name;
-}
-
-class QuickFilterOfRandomValues : public testing::TestWithParam<Format>
-{ };
-
-TEST_P(QuickFilterOfRandomValues, selectsExactlyTheRowsWithThatValue)
-{
-    std::mt19937_64 random(99);
-    constexpr int rows = 400;
-    FormattedDataset dataset(GetParam().kind);
-    dataset.variable("n", TypeCode::Double, GetParam().name)
-        .variable("s", TypeCode::Character)
-        .rows(rows, [&](int, int column) -> ScriptedDataset::Value {
-            if (column == 1) {
-                return randomText(random);
+    constexpr int rows = 200;
+    const std::vector<std::pair<SourceKind, const char*>> formats{
+        {SourceKind::Sas, "BEST"}, {SourceKind::Sas, "DATE"},      {SourceKind::Sas, "DATETIME"},
+        {SourceKind::Sas, "TIME"}, {SourceKind::Spss, "DATETIME"}, {SourceKind::R, "%d%b%Y"},
+        {SourceKind::Stata, "%td"}};
+    for (const auto& [kind, format] : formats) {
+        std::mt19937_64 random(99);
+        int refused = 0;
+        FormattedDataset dataset(kind);
+        dataset.variable("n", TypeCode::Double, format).variable("s", TypeCode::Character);
+        dataset.rows(rows, [&](int, int column) { return randomValue(random, column); });
+        for (int i = 0; i < 2 * rows; ++i) {
+            const QuickFilter quick(dataset, i % 2);
+            const std::vector<Value> values{quick.valueAt(i / 2), quick.valueAt((i * 7) % rows)};
+            if (!quick.isIn(values)) {
+                ++refused;
+                continue;
             }
-            return random() % 16 == 0 ? ScriptedDataset::missing : randomNumber(random);
-        });
-    int literals = 0;
-    for (int row = 0; row < rows; ++row) {
-        const QuickFilter number(dataset, 0);
-        const auto byNumber = number.compare(CompareOp::Equal, number.valueAt(row));
-        ASSERT_TRUE(byNumber) << byNumber.error();
-        literals += byNumber.value().contains(u'"') ? 1 : 0;
-        std::vector<int> sameNumbers;
-        std::vector<int> sameTexts;
-        for (int other = 0; other < rows; ++other) {
-            if (sameNumber(dataset.numericValue(row, 0), dataset.numericValue(other, 0))) {
-                sameNumbers.push_back(other + 1);
-            }
-            if (sameText(dataset.stringValue(row, 1), dataset.stringValue(other, 1))) {
-                sameTexts.push_back(other + 1);
-            }
+            const auto check = [&](const Result<QString>& condition, auto holds) {
+                std::vector<int> wanted;
+                for (int row = 0; row < rows; ++row) {
+                    const Value value = shared(quick.valueAt(row));
+                    if (holds(value == shared(values[0]), value == shared(values[1]))) {
+                        wanted.push_back(row + 1);
+                    }
+                }
+                EXPECT_EQ(selected(dataset, textOf(condition)), wanted)
+                    << format << ": " << textOf(condition);
+            };
+            check(quick.compare(CompareOp::Equal, values[0]), [](bool is, bool) { return is; });
+            check(quick.compare(CompareOp::NotEqual, values[0]), [](bool is, bool) { return !is; });
+            check(quick.isIn(values), std::logical_or());
         }
-        ASSERT_EQ(selected(dataset, textOf(byNumber)), sameNumbers) << textOf(byNumber);
-
-        const QuickFilter text(dataset, 1);
-        const std::string value = dataset.stringValue(row, 1);
-        const auto byText = text.compare(CompareOp::Equal, value);
-        const bool hasBoth =
-            value.find('"') != std::string::npos && value.find('\'') != std::string::npos;
-        ASSERT_EQ(byText.ok(), !hasBoth) << value;
-        if (!hasBoth) {
-            ASSERT_EQ(selected(dataset, textOf(byText)), sameTexts) << textOf(byText);
-        }
+        EXPECT_LT(refused, rows / 4) << "only texts with both quotes cannot be written";
     }
-    const bool hasDates = std::string(GetParam().name) != "BEST";
-    EXPECT_EQ(literals > 20, hasDates) << literals << " of the values are dates";
 }
-
-const std::vector<Format> formats{
-    {"Number", SourceKind::Sas, "BEST"},
-    {"SasDate", SourceKind::Sas, "DATE"},
-    {"SasDateTime", SourceKind::Sas, "DATETIME"},
-    {"SasTime", SourceKind::Sas, "TIME"},
-    {"SpssDateTime", SourceKind::Spss, "DATETIME"},
-    {"RDate", SourceKind::R, "%d%b%Y"},
-    {"StataDate", SourceKind::Stata, "%td"},
-};
-
-INSTANTIATE_TEST_SUITE_P(Formats, QuickFilterOfRandomValues, testing::ValuesIn(formats),
-                         [](const auto& row) { return row.param.test; });
 
 }  // namespace
