@@ -134,6 +134,8 @@ TEST_F(Filters, libraryFilterIsOneForAllDatasets)
     EXPECT_EQ(run("where b = 3"), "");
     EXPECT_EQ(m_second->selectedCount(), 43U);
     EXPECT_EQ(told, 1);
+    m_second->undo();
+    EXPECT_EQ(told, 1) << "there is nothing to take back";
     EXPECT_EQ(run("where b = 4"),
               "Library Filter supports one level only. Please clear library filter first.");
     EXPECT_EQ(m_opened->selectedCount(), 43U);
@@ -176,7 +178,8 @@ TEST_F(Filters, libraryFilterReadsTheSameLanguageWithoutADataset)
 TEST_F(Filters, areMadeFromValues)
 {
     EXPECT_FALSE(m_opened->filterByCell(0, CompareOp::Greater, 8));
-    EXPECT_EQ(m_opened->datasetFilterText(), u"if a > 8"_s);
+    EXPECT_FALSE(m_opened->filterByValue(0, CompareOp::Greater, -1.0));  // which nobody can type
+    EXPECT_EQ(m_opened->datasetFilterText(), u"if a > 8 and a > -1"_s);
     const std::vector<int> observations{3, 9, 10};
     EXPECT_FALSE(m_opened->filterByCells(1, observations, OpenDataset::FilterKind::Library));
     EXPECT_EQ(m_opened->libraryFilterText(), u"where b in (3, 2)"_s);
