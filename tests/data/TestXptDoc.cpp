@@ -81,14 +81,14 @@ TEST_F(XptDoc, tellsBlankRowsFromPadding)
 TEST_F(XptDoc, believesTheCountOfVersion8WhereItCanBeTrue)
 {
     // Three rows of 8 bytes in a card of 80: one to ten rows could be meant.
-    std::string bytes = written("count.xpt", texts("T", 8, {"x", "", ""}), {.release = 8});
+    std::string bytes = written("count.xpt", texts("T", 8, {"x", "y", ""}), {.release = 8});
     const std::size_t count = behind(bytes, "OBSV8   HEADER RECORD!!!!!!!");
     for (const int rows : {1, 3, 10}) {
         bytes.replace(count, 15, fmt::format("{:15}", rows));
         EXPECT_EQ(read("count.xpt", bytes)->observationCount(), rows);
     }
     bytes.replace(count, 15, fmt::format("{:15}", 11));
-    EXPECT_EQ(read("count.xpt", bytes)->observationCount(), 1) << "the rows that are not blank";
+    EXPECT_EQ(read("count.xpt", bytes)->observationCount(), 2) << "the rows that are not blank";
 }
 
 /// A big-endian number of two bytes.
