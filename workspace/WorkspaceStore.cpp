@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QStandardPaths>
 #include <QUuid>
 #include <QVariant>
 
@@ -24,6 +25,12 @@ void enableForeignKeys(const QSqlDatabase& database)
 }
 
 }  // namespace
+
+StoreLocations StoreLocations::standard()
+{
+    return {QStandardPaths::writableLocation(QStandardPaths::HomeLocation),
+            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)};
+}
 
 WorkspaceStore::WorkspaceStore(StoreLocations locations)
     : m_locations(std::move(locations))

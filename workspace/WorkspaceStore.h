@@ -1,9 +1,17 @@
 #pragma once
 
-#include "workspace/StoreLocations.h"
-
 #include <QSqlDatabase>
 #include <QString>
+
+/// Where the workspace store may stand. The second place is taken only when there is no first.
+struct StoreLocations
+{
+    QString home;  ///< empty when the system knows none
+    QString appData;
+
+    /// The user's own.
+    [[nodiscard]] static StoreLocations standard();
+};
 
 /// The database file "quorlane.db" with the registered libraries, the options and the saved
 /// sessions. What goes wrong with it is told to the log.

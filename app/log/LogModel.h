@@ -1,10 +1,21 @@
 #pragma once
 
-#include "app/log/LogRecord.h"
+#include <spdlog/common.h>
 
 #include <QAbstractTableModel>
+#include <QDateTime>
+#include <QSortFilterProxyModel>
+#include <QString>
 
 #include <deque>
+
+/// One message of the log.
+struct LogRecord
+{
+    QDateTime time;  ///< local
+    spdlog::level::level_enum level = spdlog::level::info;
+    QString text;
+};
 
 /// The messages of the log, the oldest first, as a table of time, level and text.
 class LogModel : public QAbstractTableModel
@@ -44,4 +55,22 @@ private:
 
     std::deque<LogRecord> m_records;
     std::size_t m_limit;
+};
+
+/// Lets the messages of a level and those that weigh more through.
+class LogLevelFilter : public QSortFilterProxyModel
+{
+    Q_OBJECT
+
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void setLowestLevel(spdlog::level::level_enum level);
+
+protected:
+    [[nodiscard]] bool filterAcceptsRow(int sourceRow,
+                                        const QModelIndex& sourceParent) const override;
+
+private:
+    spdlog::level::level_enum m_lowestLevel = spdlog::level::trace;
 };

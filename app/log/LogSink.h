@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/log/LogRecord.h"
+#include "app/log/LogModel.h"
 
 #include <spdlog/logger.h>
 #include <spdlog/sinks/base_sink.h>

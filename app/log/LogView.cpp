@@ -1,6 +1,5 @@
 #include "app/log/LogView.h"
 
-#include "app/log/LogLevelFilter.h"
 #include "app/log/LogModel.h"
 #include "app/log/LogSink.h"
 #include "app/look/Icons.h"
