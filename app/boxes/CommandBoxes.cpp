@@ -100,13 +100,16 @@ void CommandBoxes::submitLibraryFilter(const QString& line)
     const QString text = line.trimmed();
     if (text.isEmpty()) {
         m_services.datasets().libraryFilter.clear();
+        emit signalLibraryFilterSubmitted();
     } else if (text != m_services.datasets().libraryFilter.text()) {
-        if (!run(line)) {
+        const bool hasSucceeded = run(line);
+        // A command fails after it has acted when text trails behind it.
+        emit signalLibraryFilterSubmitted();
+        if (!hasSucceeded) {
             return;
         }
         m_libraryFilter->remember(line);
     }
-    emit signalLibraryFilterSubmitted();
     leaveBoxes();
 }
 

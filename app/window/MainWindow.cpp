@@ -141,8 +141,12 @@ void MainWindow::createToolBars()
 {
     m_toolBars = new MainToolBars(*this, *m_actions);
     m_boxes = new CommandBoxes(*this, *m_gridServices);
-    connect(m_boxes, &CommandBoxes::signalLibraryFilterSubmitted, this,
-            &MainWindow::showWhatIsOpen);
+    // A grid tells of the filter; without one nobody does.
+    connect(m_boxes, &CommandBoxes::signalLibraryFilterSubmitted, this, [this] {
+        if (openFiles().isEmpty()) {
+            m_counters->setLibraryFilter(m_gridServices->datasets().libraryFilter.text(), {});
+        }
+    });
     m_boxes->datasetFilterBar()->addAction(m_actions->editDataFilter);
     connect(m_actions->goToDatasetFilter, &QAction::triggered, m_boxes->datasetFilterBar(),
             &CommandBar::edit);
