@@ -1,22 +1,53 @@
-#include "app/window/DatasetWindow.h"
-#include "app/window/MainWindow.h"
-#include "grid/MainTableModel.h"
-#include "grid/MainTableView.h"
-#include "tests/support/LogCapture.h"
-#include "tests/support/ScriptedDataset.h"
-#include "tests/support/TemporaryServices.h"
+#include "data/StatDataset.h"
+#include "samples/TableWriter.h"
+#include "tests/support/WindowFixture.h"
 
-#include <QAction>
+#include <QDialog>
 #include <QDir>
-#include <QHeaderView>
-#include <QLabel>
-#include <QMdiArea>
-#include <QMenuBar>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMimeData>
 #include <QPointer>
 #include <QSettings>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QToolBar>
+
+/// The main window: which files it opens and closes, its docks and looks, and what it remembers.
+class TestMainWindow : public QObject, private WindowFixture
+{
+    Q_OBJECT
+
+private slots:
+    void init() { startUp(); }
+    void cleanup() { shutDown(); }
+    void openedFileIsShownAndTakesTheKeys();
+    void filesAreReadByTheirSuffixOrToldWithAReason();
+    void chosenFilesOpenAndTheirFolderIsRemembered();
+    void openFileIsReadAnewOnlyWhenWanted();
+    void fileClosedWhileReloadIsAskedForIsOpenedAnew();
+    void windowThatRefusesToCloseIsKept();
+    void keysSwitchAndCloseDatasets();
+    void droppedFilesOpen();
+    void receivedFilesWaitForOpenQuestions();
+    void openedFilesStandInTheMenu();
+    void layoutsDivideTheWidth();
+    void whatIsSetIsKeptForTheNextStart();
+    void damagedSettingsGiveWayToTheUsualOnes();
+    void withoutAWorkspaceTheProgramEnds();
+    void actionsDoWhatTheySay();
+
+private:
+    [[nodiscard]] QString write(const QString& name) const;
+    [[nodiscard]] bool isDark() const
+    {
+        const QPalette palette = window->palette();
+        return palette.color(QPalette::Base).lightness()
+            < palette.color(QPalette::Text).lightness();
+    }
+    [[nodiscard]] QRadioButton* labelsButton() const
+    {
+        return window->findChildren<QRadioButton*>().at(1);
+    }
+};
 
 namespace {
 
@@ -26,385 +57,323 @@ class Refusal : public QObject
 public:
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() != QEvent::Close) {
-            return false;
+        if (event->type() == QEvent::Close) {
+            event->ignore();
         }
-        event->ignore();
-        return true;
+        return event->type() == QEvent::Close;
     }
 };
 
 }  // namespace
 
-class TestMainWindow : public QObject
+/// A file with two rows of a text and a number.
+QString TestMainWindow::write(const QString& name) const
 {
-    Q_OBJECT
-
-private slots:
-    void init();
-    void cleanup();
-    void actionsHaveTheirNamesTextsAndShortcuts();
-    void openingShowsAGridAndRemembersWhereItCameFrom();
-    void filesAreChosenByFilterAndTheFolderIsRemembered_data();
-    void filesAreChosenByFilterAndTheFolderIsRemembered();
-    void failedLoadIsToldAndChangesNothing();
-    void openFileIsOnlyActivatedUnlessReloadIsWanted();
-    void reloadReplacesTheWindow();
-    void fileClosedWhileReloadIsAskedForIsOpenedAnew();
-    void windowThatRefusesToCloseIsKept();
-    void failedReloadLeavesTheFileClosed();
-    void relativeAndAbsolutePathsAreTheSameFile();
-    void statusBarFollowsTheActiveGrid();
-    void closingTheLastWindowResetsTheStatusBar();
-    void ctrlWClosesTheActiveWindowOnly();
-    void quittingWithOpenWindowsIsClean();
-    void waitCursorIsShownDuringTheLoadOnly();
-
-private:
-    [[nodiscard]] Result<OpenedDataset> load(const QString& path);
-    [[nodiscard]] QString path(const QString& name) const { return m_folder->filePath(name); }
-    [[nodiscard]] QMdiArea* area() const { return m_window->findChild<QMdiArea*>("mdiArea"); }
-    [[nodiscard]] QStringList titles() const;
-    [[nodiscard]] QStringList statusTexts() const;
-    [[nodiscard]] DatasetWindow* activeDataset() const;
-    void trigger(const QString& action) { m_window->findChild<QAction*>(action)->trigger(); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<LogCapture> m_log;
-    ScriptedPrompts::Script m_script;
-    QStringList m_loaded;
-    bool m_waitedWhileLoading = false;
-    bool m_failing = false;
-    std::unique_ptr<MainWindow> m_window;
-};
-
-void TestMainWindow::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_log = std::make_unique<LogCapture>();
-    m_script = {};
-    m_loaded.clear();
-    m_failing = false;
-    MainWindowServices services = temporaryServices(m_folder->path(), m_script);
-    services.load = [this](const QString& file, const OpenOptions&) { return load(file); };
-    m_window = std::make_unique<MainWindow>(std::move(services));
-    m_window->show();
+    samples::Table table;
+    table.name = "DATA";
+    table.columns = {samples::textColumn("SEX", "Sex"), samples::numberColumn("AGE", "Age")};
+    table.rows = {{"F", 44.0}, {"M", 31.0}};
+    samples::writeTable(path(name).toStdString(), table);
+    return path(name);
 }
 
-void TestMainWindow::cleanup()
+void TestMainWindow::openedFileIsShownAndTakesTheKeys()
 {
-    m_window.reset();
-    const QString log = QString::fromStdString(m_log->take());
-    m_log.reset();
-    QVERIFY2(!log.contains("warning:") && !log.contains("error:"), qPrintable(log));
-    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+    QVERIFY(!area().isVisible());
+    const QString file = write("adsl.sas7bdat");
+    QVERIFY(open("adsl.sas7bdat"));
+    QVERIFY(hasWaited);
+    QVERIFY(view().isVisible());
+    QCOMPARE(QApplication::focusWidget(), &view());
+    QCOMPARE(view().horizontalHeader()->sortIndicatorSection(), -1);
+    QCOMPARE(active()->property("filePath").toString(), file);
+    QCOMPARE(active()->property("fileKey").toString(), file);
+    QCOMPARE(active()->property("fileTimestamp").toDateTime(), QFileInfo(file).lastModified());
+    QCOMPARE(window->openFiles().find(file), active());
+    trigger("actionClose");
+    QVERIFY(window->openFiles().isEmpty());
+    const std::string lines = log->take();
+    QVERIFY(lines.find("Added to openFilesMap: " + file.toStdString()) != std::string::npos);
+    QVERIFY(lines.find("Removed from openFilesMap: " + file.toStdString()) != std::string::npos);
 }
 
-/// Stands in for the readers: the file name says how many rows there are, "bad" fails.
-Result<OpenedDataset> TestMainWindow::load(const QString& file)
+void TestMainWindow::filesAreReadByTheirSuffixOrToldWithAReason()
 {
-    m_loaded << QFileInfo(file).fileName();
-    const QCursor* cursor = QGuiApplication::overrideCursor();
-    m_waitedWhileLoading = cursor != nullptr && cursor->shape() == Qt::WaitCursor;
-    if (m_failing || file.contains("bad")) {
-        return Failure{"The header is damaged."};
+    openWindow(true);
+    const QList<std::pair<QString, SourceKind>> kinds{{"DATA.SAS7BDAT", SourceKind::Sas},
+                                                      {"data.Xpt", SourceKind::Sas},
+                                                      {"data.sav", SourceKind::Spss},
+                                                      {"data.DTA", SourceKind::Stata}};
+    for (const auto& [name, kind] : kinds) {
+        QVERIFY(window->openDatasetFile(write(name)));
+        QVERIFY(active()->dataset()->sourceKind() == kind);
+        QCOMPARE(rows(), "Rows: 2/2");
+        QCOMPARE(view().model()->index(1, 0).data().toString(), "M");
     }
-    auto dataset = std::make_unique<ScriptedDataset>();
-    dataset->variable("A", TypeCode::Double).variable("B", TypeCode::Character);
-    dataset->rows(QFileInfo(file).baseName().right(1).toInt(), [](int row, int column) {
-        return column == 0 ? ScriptedDataset::Value(double(row)) : ScriptedDataset::Value("x");
-    });
-    OpenedDataset opened;
-    opened.dataset = std::move(dataset);
-    return opened;
-}
-
-QStringList TestMainWindow::titles() const
-{
-    QStringList result;
-    for (const QMdiSubWindow* window : area()->subWindowList()) {
-        result << window->windowTitle();
+    QVERIFY(QFile::copy(path("data.Xpt"), path("other.txt")));
+    QFile damaged(path("damaged.sas7bdat"));
+    QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.write("no such thing") > 0);
+    damaged.close();
+    for (const char* name : {"other.txt", "damaged.sas7bdat", "absent.xpt"}) {
+        QVERIFY(!open(name));
+        const QString told = notes().join('\n');
+        QVERIFY2(told.startsWith("warn|Open File|Failed to open the file: " + path(name) + '|')
+                     && !told.endsWith('|'),
+                 qPrintable(told));
     }
-    return result;
+    QCOMPARE(titles().size(), 4);
 }
 
-QStringList TestMainWindow::statusTexts() const
+void TestMainWindow::chosenFilesOpenAndTheirFolderIsRemembered()
 {
-    return {m_window->findChild<QLabel*>("labelStatusBarRow")->text(),
-            m_window->findChild<QLabel*>("labelStatusBarVar")->text()};
-}
-
-DatasetWindow* TestMainWindow::activeDataset() const
-{
-    return qobject_cast<DatasetWindow*>(area()->currentSubWindow());
-}
-
-void TestMainWindow::actionsHaveTheirNamesTextsAndShortcuts()
-{
-    const QString open = QKeySequence::keyBindings(QKeySequence::Open).value(0).toString();
-    const QString find = QKeySequence::keyBindings(QKeySequence::Find).value(0).toString();
-    const QStringList expected{
-        "actionOpenSasData|Open SAS Datasets|" + open,
-        "actionOpenDatasetJson|Open Dataset-JSON Files|",
-        "actionOpenFolder|Open Folder|",
-        "actionManageLibraries|Manage Libraries|",
-        "actionSaveSession|Save Session...|",
-        "actionOpenRData|Open R Datasets|",
-        "actionOpenSpssData|Open SPSS Datasets|",
-        "actionOpenStataData|Open Stata Datasets|",
-        "actionOpenCsv|Open CSV Files|",
-        "actionNewSasProgram|New SAS Program|",
-        "actionClose|Close\tCtrl+W|Ctrl+W",
-        "actionCloseAll|Close All|Ctrl+Shift+W",
-        "actionExit|Exit|Ctrl+Q",
-        "actionFind|Find|" + find,
-        "actionOptions|Options|",
-        "actionAbout|About|",
-        "actionCheckForUpdates|Check for Updates|",
-        "actionDocumentation|Documentaiton|",  // sic
-        "actionCompare|Compare Datasets|",
-        "actionSubmit|Submit|Ctrl+R",
-        "actionToggleDarkMode|Toggle Dark Mode|Ctrl+D",
-        "actionQuickOpen|Quick Open|Ctrl+P",
-        "actionEditDataFilter|Edit Data Filter|",
-        "actionNextDataset|Next Dataset Tab|Ctrl+Tab",
-        "actionLayout1|Layout 1|Ctrl+1",
-        "actionLayout4|Layout 4|Ctrl+4",
-    };
-    QStringList found;
-    for (const QString& line : expected) {
-        const auto* action = m_window->findChild<QAction*>(line.section('|', 0, 0));
-        QVERIFY2(action != nullptr, qPrintable(line));
-        found << QStringList({action->objectName(), action->text(),
-                              action->shortcut().toString(QKeySequence::PortableText)})
-                     .join('|');
+    script.chosenFiles = {path("dm1"), path("bad"), path("dm2")};
+    trigger("actionOpenSasData");
+    QCOMPARE(loaded, QStringList({"dm1", "bad", "dm2"}));
+    QCOMPARE(titles(), QStringList({"dm1", "dm2"}));
+    script.chosenFiles = {};
+    notes();
+    for (const auto& [action, suffix] : {std::pair("actionOpenSasData", "(*.sas7bdat)"),
+                                         std::pair("actionOpenSpssData", "(*.sav)"),
+                                         std::pair("actionOpenStataData", "(*.dta)")}) {
+        trigger(action);
+        const QString asked = notes().join('\n').section('|', 2);
+        QVERIFY(asked.startsWith(folder->path() + '|') && asked.contains(suffix));
     }
-    QCOMPARE(found, expected);
-    QCOMPARE(m_window->menuBar()->objectName(), "menubar");
-    QCOMPARE(m_window->centralWidget()->objectName(), "centralwidget");
-    QCOMPARE(m_window->objectName(), "MainWindow");
+    QCOMPARE(loaded.size(), 3);
 }
 
-void TestMainWindow::openingShowsAGridAndRemembersWhereItCameFrom()
+void TestMainWindow::openFileIsReadAnewOnlyWhenWanted()
 {
-    QFile file(path("adsl3.sas7bdat"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
-    QVERIFY(m_window->openDatasetFile(file.fileName()));
+    open("dm");
+    open("ts");
+    const QPointer<DatasetWindow> first = datasetAt(0);
+    for (const QString& other :
+         {path("dm"), QDir::current().relativeFilePath(path("dm")), folder->path() + "/./dm"}) {
+        activate(1);
+        QVERIFY(window->openDatasetFile(other));
+        QCOMPARE(notes(),
+                 QStringList("confirm|Reload Dataset|\"dm\" is already open.\n"
+                             "Do you want to reload it?"));
+        QCOMPARE(active(), first.data());
+    }
+    QCOMPARE(loaded, QStringList({"dm", "ts"}));
 
-    DatasetWindow* window = activeDataset();
-    QVERIFY(window != nullptr);
-    QCOMPARE(window->property("filePath").toString(), file.fileName());
-    QCOMPARE(window->property("fileKey").toString(), file.fileName());
-    QCOMPARE(window->property("fileTimestamp").toDateTime(), QFileInfo(file).lastModified());
-    QCOMPARE(window->windowTitle(), "adsl3.sas7bdat");
-    QCOMPARE(m_window->openFiles().find(file.fileName()), window);
-    QCOMPARE(window->view()->tableModel()->rowCount(), 3);
-    QCOMPARE(window->view()->horizontalHeader()->sortIndicatorSection(), -1);
-    QVERIFY(window->view()->isVisible());
-    QVERIFY(m_log->take().find("Added to openFilesMap: " + file.fileName().toStdString())
-            != std::string::npos);
-    QVERIFY(m_script.notes.isEmpty());
-}
+    script.confirmation = true;
+    QVERIFY(open("dm"));
+    QVERIFY2(first.isNull(), "the old dataset goes before the new one is read");
+    QCOMPARE(titles(), QStringList({"ts", "dm"}));
+    QCOMPARE(window->openFiles().find(path("dm")), active());
 
-void TestMainWindow::filesAreChosenByFilterAndTheFolderIsRemembered_data()
-{
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("filters");
-    QTest::newRow("SAS") << "actionOpenSasData"
-                         << "Open SAS Datasets"
-                         << "SAS Data Files (*.sas7bdat);; SAS Transport Files (*.xpt)";
-    QTest::newRow("SPSS") << "actionOpenSpssData"
-                          << "Open SPSS Datasets"
-                          << "SPSS Data Files (*.sav)";
-    QTest::newRow("Stata") << "actionOpenStataData"
-                           << "Open Stata Datasets"
-                           << "Stata Data Files (*.dta)";
-}
-
-void TestMainWindow::filesAreChosenByFilterAndTheFolderIsRemembered()
-{
-    QFETCH(QString, action);
-    QFETCH(QString, title);
-    QFETCH(QString, filters);
-    m_script.chosenFiles = {path("one1"), path("bad"), path("two2")};
-    trigger(action);
-    QCOMPARE(m_loaded, QStringList({"one1", "bad", "two2"}));
-    QCOMPARE(titles(), QStringList({"one1", "two2"}));
-
-    m_script.chosenFiles = {};
-    m_script.notes.clear();
-    trigger(action);
-    QCOMPARE(m_script.notes,
-             QStringList({"files|" + title + '|' + m_folder->path() + '|' + filters}));
-    QCOMPARE(m_loaded.size(), 3);
-}
-
-void TestMainWindow::failedLoadIsToldAndChangesNothing()
-{
-    m_window->openDatasetFile(path("good1"));
-    const QString before = statusTexts().join('|');
-    QVERIFY(!m_window->openDatasetFile(path("bad.xpt")));
-
-    QCOMPARE(m_script.notes,
-             QStringList({"warn|Open File|Failed to open the file: " + path("bad.xpt")
-                          + "|The header is damaged."}));
-    QCOMPARE(m_window->openFiles().size(), std::size_t{1});
-    QCOMPARE(titles(), QStringList("good1"));
-    QCOMPARE(statusTexts().join('|'), before);
-}
-
-void TestMainWindow::openFileIsOnlyActivatedUnlessReloadIsWanted()
-{
-    m_window->openDatasetFile(path("first1"));
-    const QPointer<DatasetWindow> first = activeDataset();
-    m_window->openDatasetFile(path("second2"));
-    QVERIFY(m_window->openDatasetFile(path("first1")));
-
-    QCOMPARE(m_script.notes,
-             QStringList("confirm|Reload Dataset|\"first1\" is already open.\n"
-                         "Do you want to reload it?"));
-    QCOMPARE(activeDataset(), first.data());
-    QCOMPARE(m_loaded, QStringList({"first1", "second2"}));
-    QCOMPARE(m_window->openFiles().size(), std::size_t{2});
-}
-
-void TestMainWindow::reloadReplacesTheWindow()
-{
-    m_window->openDatasetFile(path("first1"));
-    const QPointer<DatasetWindow> old = activeDataset();
-    m_script.confirmation = true;
-    QVERIFY(m_window->openDatasetFile(path("first1")));
-
-    QVERIFY2(old.isNull(), "the old dataset goes before the new one is read");
-    QCOMPARE(titles(), QStringList("first1"));
-    QCOMPARE(m_window->openFiles().find(path("first1")), activeDataset());
-    QCOMPARE(statusTexts(), QStringList({"Rows: 1/1", "Vars: 2/2"}));
+    isFailing = true;
+    QVERIFY(!open("dm"));
+    QVERIFY(notes().last().startsWith("warn|Open File|"));
+    QCOMPARE(titles(), QStringList("ts"));
+    QCOMPARE(window->openFiles().size(), std::size_t{1});
 }
 
 void TestMainWindow::fileClosedWhileReloadIsAskedForIsOpenedAnew()
 {
-    m_window->openDatasetFile(path("one1"));
-    m_script.whileAsked = [this] { activeDataset()->close(); };
-    m_script.confirmation = true;
-    QVERIFY(m_window->openDatasetFile(path("one1")));
-    QCOMPARE(titles(), QStringList({"one1"}));
-
-    m_script.confirmation = false;
-    QVERIFY(!m_window->openDatasetFile(path("one1")));
-    QCOMPARE(titles(), QStringList());
-    QCOMPARE(m_window->openFiles().size(), std::size_t{0});
+    open("dm");
+    script.whileAsked = [this] { active()->close(); };
+    for (const bool isWanted : {true, false}) {
+        script.confirmation = isWanted;
+        QCOMPARE(open("dm"), isWanted);
+        QCOMPARE(titles(), isWanted ? QStringList("dm") : QStringList());
+        QCOMPARE(window->openFiles().isEmpty(), !isWanted);
+    }
+    QCOMPARE(notes().size(), 2);
 }
 
 void TestMainWindow::windowThatRefusesToCloseIsKept()
 {
-    m_window->openDatasetFile(path("first1"));
-    DatasetWindow* first = activeDataset();
-    m_window->openDatasetFile(path("second2"));
+    open("dm");
+    DatasetWindow* first = active();
+    open("ts");
     Refusal refusal;
-    first->installEventFilter(&refusal);
-    m_script.confirmation = true;
-    QVERIFY(m_window->openDatasetFile(path("first1")));
-
-    QCOMPARE(activeDataset(), first);
-    QCOMPARE(m_window->openFiles().find(path("first1")), first);
-    QCOMPARE(m_loaded, QStringList({"first1", "second2"}));
-}
-
-void TestMainWindow::failedReloadLeavesTheFileClosed()
-{
-    m_window->openDatasetFile(path("first1"));
-    m_script.confirmation = true;
-    m_failing = true;
-    QVERIFY(!m_window->openDatasetFile(path("first1")));
-    QCOMPARE(m_script.notes.size(), 2);
-    QVERIFY(m_script.notes.last().startsWith("warn|Open File|"));
-    QVERIFY(titles().isEmpty());
-    QVERIFY(m_window->openFiles().isEmpty());
-    QCOMPARE(statusTexts().first(), "Rows: NA / NA");
-}
-
-void TestMainWindow::relativeAndAbsolutePathsAreTheSameFile()
-{
-    m_window->openDatasetFile(path("first1"));
-    m_window->openDatasetFile(QDir::current().relativeFilePath(path("first1")));
-    m_window->openDatasetFile(m_folder->path() + "/./first1");
-    QCOMPARE(m_loaded, QStringList("first1"));
-    QCOMPARE(m_script.notes.size(), 2);
-}
-
-void TestMainWindow::statusBarFollowsTheActiveGrid()
-{
-    QCOMPARE(statusTexts(), QStringList({"Rows: NA/NA", "Vars: NA/NA"}));
-    m_window->openDatasetFile(path("first3"));
-    DatasetWindow* first = activeDataset();
-    m_window->openDatasetFile(path("second5"));
-    DatasetWindow* second = activeDataset();
-    QCOMPARE(statusTexts(), QStringList({"Rows: 5/5", "Vars: 2/2"}));
-
-    first->dataset()->libraryFilterMask().reset(0);
-    first->view()->updateAll();  // of a grid that is not active
-    QCOMPARE(statusTexts().first(), "Rows: 5/5");
-    area()->setActiveSubWindow(first);
-    QCOMPARE(statusTexts().first(), "Rows: 2/3");
-    second->dataset()->libraryFilterMask().reset(0);
-    second->view()->updateAll();
-    QCOMPARE(statusTexts().first(), "Rows: 2/3");
-    QCOMPARE(m_window->activeView(), first->view());
-}
-
-void TestMainWindow::closingTheLastWindowResetsTheStatusBar()
-{
-    m_window->openDatasetFile(path("first1"));
-    m_window->openDatasetFile(path("second2"));
-    area()->subWindowList().at(0)->close();
-    QCOMPARE(statusTexts(), QStringList({"Rows: 2/2", "Vars: 2/2"}));
-    QCOMPARE(m_window->openFiles().size(), std::size_t{1});
-
+    first->view()->installEventFilter(&refusal);
+    script.confirmation = true;
+    QVERIFY(open("dm"));
+    QCOMPARE(active(), first);
+    QCOMPARE(loaded, QStringList({"dm", "ts"}));
     trigger("actionClose");
-    QCOMPARE(statusTexts(), QStringList({"Rows: NA / NA", "Vars: NA/NA"}));
-    QVERIFY(m_window->openFiles().isEmpty());
-    QVERIFY(m_window->activeView() == nullptr);
-    QTRY_VERIFY(area()->subWindowList().isEmpty());
-    QVERIFY(m_log->take().find("Removed from openFilesMap: " + path("first1").toStdString())
-            != std::string::npos);
-
-    m_window->openDatasetFile(path("third4"));
-    m_window->openDatasetFile(path("fourth1"));
-    trigger("actionCloseAll");
-    QCOMPARE(statusTexts(), QStringList({"Rows: NA / NA", "Vars: NA/NA"}));
-    trigger("actionClose");  // with nothing to close
+    QCOMPARE(window->openFiles().find(path("dm")), first);
+    QCOMPARE(window->activeView(), first->view());
+    QCOMPARE(notes().size(), 1);
 }
 
-void TestMainWindow::ctrlWClosesTheActiveWindowOnly()
+void TestMainWindow::keysSwitchAndCloseDatasets()
 {
-    m_window->openDatasetFile(path("first1"));
-    m_window->openDatasetFile(path("second2"));
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    activeDataset()->view()->setFocus();
-
-    QTest::keyClick(activeDataset()->view(), Qt::Key_W, Qt::ControlModifier);
-    QTRY_COMPARE(titles(), QStringList("first1"));
-    QTRY_COMPARE(statusTexts().first(), "Rows: 1/1");
+    for (const char* name : {"dm1", "dm2", "dm3", "dm4"}) {
+        open(name);
+    }
+    QTest::keyClick(window.get(), Qt::Key_Tab, Qt::ControlModifier);
+    QCOMPARE(active()->windowTitle(), "dm1");
+    QCOMPARE(QApplication::focusWidget(), &view());
+    QTest::keyClick(&view(), Qt::Key_W);
+    QTRY_COMPARE(titles(), QStringList({"dm2", "dm3", "dm4"}));
+    activate(1);
+    QTest::keyClick(&view(), Qt::Key_W, Qt::ControlModifier);
+    QTRY_COMPARE(titles(), QStringList({"dm2", "dm4"}));
+    QTest::keyClick(window.get(), Qt::Key_W, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(window->openFiles().isEmpty());
+    window->on_actionClose_triggered();  // with nothing to close
 }
 
-void TestMainWindow::quittingWithOpenWindowsIsClean()
+void TestMainWindow::droppedFilesOpen()
 {
-    m_window->openDatasetFile(path("first1"));
-    m_window->openDatasetFile(path("second2"));
-    const QPointer<MainTableView> view = m_window->activeView();
+    QMimeData data;
+    data.setUrls({QUrl("https://brindlework.example/dm.xpt"), QUrl::fromLocalFile(path("dm 1.xpt")),
+                  QUrl::fromLocalFile(path("ae.xpt"))});
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &drop);
+    QTRY_COMPARE(titles(), QStringList({"dm 1.xpt", "ae.xpt"}));
+}
+
+void TestMainWindow::receivedFilesWaitForOpenQuestions()
+{
+    QDialog question(window.get());
+    question.setModal(true);
+    question.show();
+    window->openReceivedFile(path("dm"));
+    QTest::qWait(200);  // longer than the wait before another try
+    QVERIFY(titles().isEmpty());
+    question.close();
+    QTRY_COMPARE(titles(), QStringList("dm"));
+}
+
+void TestMainWindow::openedFilesStandInTheMenu()
+{
+    for (const char* name : {"ae.xpt", "dm.xpt"}) {
+        QVERIFY(window->openDatasetFile(write(name)));
+    }
+    startAgain();
+    const QList<QAction*> entries = child<QMenu>("menuFile")->actions();
+    QVERIFY(entries.last()->text().contains("ae.xpt"));
+    entries.last()->trigger();
+    QCOMPARE(titles(), QStringList("ae.xpt"));
+}
+
+void TestMainWindow::layoutsDivideTheWidth()
+{
+    window->resize(1600, 900);
+    const auto hasShare = [this](const QString& name, int percent) {
+        const QDockWidget* side = dock(name);
+        return side->isHidden() ? percent == 0 : side->width() == window->width() * percent / 100;
+    };
+    const QList<std::pair<int, int>> shares{{20, 20}, {30, 0}, {0, 30}, {0, 0}};
+    const QStringList layouts{"actionLayout3", "actionLayout1", "actionLayout4", "actionLayout2"};
+    for (qsizetype i = 0; i < layouts.size(); ++i) {
+        trigger(layouts[i]);
+        QVERIFY(child<QAction>(layouts[i])->isChecked());
+        QTRY_VERIFY2(hasShare("Workspace", shares[i].first), qPrintable(layouts[i]));
+        QTRY_VERIFY2(hasShare("Freq", shares[i].second), qPrintable(layouts[i]));
+        QCOMPARE(dock("Desc")->visibleRegion().isEmpty(), shares[i].second == 0);
+        QVERIFY(dock("ShortcutKeys")->visibleRegion().isEmpty());
+    }
+}
+
+void TestMainWindow::whatIsSetIsKeptForTheNextStart()
+{
+    QVERIFY(child<QAction>("actionLayout1")->isChecked());
+    trigger("actionLayout4");
+    window->resize(900, 700);
+    window->addDockWidget(Qt::LeftDockWidgetArea, dock("Log"));
+    child<QToolBar>("toolBarBy")->hide();
+    labelsButton()->click();
+    trigger("actionToggleDarkMode");
+    script.uniqueVarName = "SUBJID";
+    trigger("actionOptions");
+    open("dm");
+    view().run(GridCommand::LargerFont);
+    const int letters = view().fontSize();
+    startAgain();
+
+    QVERIFY(child<QAction>("actionLayout4")->isChecked());
+    QVERIFY(dock("Workspace")->isHidden());
+    QVERIFY(!dock("Freq")->isHidden());
+    QCOMPARE(window->size(), QSize(900, 700));
+    QCOMPARE(window->dockWidgetArea(dock("Log")), Qt::LeftDockWidgetArea);
+    QVERIFY(child<QToolBar>("toolBarBy")->isHidden());
+    QVERIFY(labelsButton()->isChecked());
+    open("dm");
+    QCOMPARE(view().tableModel()->headerMode(), HeaderMode::VariableLabels);
+    QCOMPARE(view().fontSize(), letters);
+    QVERIFY(isDark());
+    trigger("actionToggleDarkMode");
+    QVERIFY(!isDark());
+    script.uniqueVarName.clear();
+    trigger("actionOptions");
+    QCOMPARE(notes(), QStringList({"options|USUBJID", "options|SUBJID"}));
+}
+
+void TestMainWindow::damagedSettingsGiveWayToTheUsualOnes()
+{
+    window->addDockWidget(Qt::LeftDockWidgetArea, dock("Log"));
+    window->close();
+    const QString file = path("settings.ini");
+    const auto state = QSettings(file, QSettings::IniFormat).value("state").toByteArray();
+    for (const int percent : {40, 60, 80, 99}) {
+        window.reset();
+        {
+            QSettings settings(file, QSettings::IniFormat);
+            settings.setValue("state", state.left(state.size() * percent / 100));
+            settings.setValue("geometry", "no geometry");
+            settings.setValue("lastLayout", "10:20:30:40");
+            settings.setValue("columnHeaderMode", 17);
+            settings.setValue("fontSize", 100'000);
+        }
+        openWindow();
+        QVERIFY(log->take().find("could not be restored") != std::string::npos);
+        QCOMPARE(window->dockWidgetArea(dock("Log")), Qt::BottomDockWidgetArea);
+        QVERIFY(!dock("Workspace")->isHidden());
+        QVERIFY(child<QAction>("actionLayout1")->isChecked());
+        QVERIFY(!labelsButton()->isChecked());
+        open("dm");
+        QVERIFY(view().fontSize() <= 72);
+    }
+}
+
+void TestMainWindow::withoutAWorkspaceTheProgramEnds()
+{
+    const QString other = path("no-database");
+    QVERIFY(QDir().mkpath(other + "/quorlane.db"));  // a folder in the file's place
+    window = std::make_unique<MainWindow>(temporaryServices(other, script));
+    QCOMPARE(notes(),
+             QStringList({"critical|Database Initialization Failed|"
+                          "The application will now exit."}));
+    QCOMPARE(QApplication::exec(), 0);
+    QVERIFY(log->take().find("Error: Unable to open database!") != std::string::npos);
+    window->close();
+    QVERIFY(!QSettings(other + "/settings.ini", QSettings::IniFormat).contains("state"));
+}
+
+void TestMainWindow::actionsDoWhatTheySay()
+{
+    trigger("actionDocumentation");
+    QCOMPARE(urls, QStringList("https://quorlane.brindlework.example/documentation/"));
+    trigger("actionAbout");
+    QVERIFY(notes().join('\n').startsWith("inform|About Quorlane|"));
+
+    auto* editor = child<QPlainTextEdit>("programEditor");
+    trigger("actionNewSasProgram");
+    QVERIFY(editor->isVisible() && editor->hasFocus());
+    editor->setPlainText("keep A;");
+    for (const bool isWanted : {false, true}) {
+        script.confirmation = isWanted;
+        trigger("actionNewSasProgram");
+        QCOMPARE(notes().size(), 1);
+        QCOMPARE(editor->toPlainText(), isWanted ? "" : "keep A;");
+    }
+    for (const QToolBar* bar : window->findChildren<QToolBar*>()) {
+        for (const QAction* action : bar->actions()) {
+            QVERIFY(action->objectName().isEmpty() || !action->icon().isNull());
+        }
+    }
     trigger("actionExit");
-    QVERIFY(!m_window->isVisible());
-    m_window.reset();
-    QVERIFY(view.isNull());
-}
-
-void TestMainWindow::waitCursorIsShownDuringTheLoadOnly()
-{
-    m_window->openDatasetFile(path("first1"));
-    QVERIFY(m_waitedWhileLoading);
-    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+    QVERIFY(!window->isVisible());
 }
 
 QTEST_MAIN(TestMainWindow)

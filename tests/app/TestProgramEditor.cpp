@@ -7,164 +7,105 @@
 #include <QTextBlock>
 #include <QTextLayout>
 
-namespace {
-
-/// The colour of a character, invalid where nothing has coloured it.
-QColor colourAt(const QTextBlock& block, int position)
-{
-    for (const QTextLayout::FormatRange& range : block.layout()->formats()) {
-        if (position >= range.start && position < range.start + range.length) {
-            return range.format.foreground().color();
-        }
-    }
-    return {};
-}
-
-}  // namespace
-
+/// The colours and keys of the editor in the Code window.
 class TestProgramEditor : public QObject
 {
     Q_OBJECT
 
 private slots:
     void cleanup() { theme::apply(false); }
-    void eachKindHasItsColour();
     void textIsColouredByItsKind_data();
     void textIsColouredByItsKind();
-    void commentIsColouredAnewWhenItsStartGoes();
-    void coloursFollowTheLook_data();
     void coloursFollowTheLook();
     void escapeLeavesAndTheTabulatorWrites();
-
-private:
-    /// The colours of a keyword, a text in quotes, a comment and a number.
-    [[nodiscard]] static QMap<QChar, QColor> colours();
 };
 
-QMap<QChar, QColor> TestProgramEditor::colours()
+namespace {
+
+/// A keyword, a text in quotes, a number and a comment.
+const QString oneOfEach = "where 'x' 1 /* */";
+const QString kindsOfIt = "kkkkk.qqq.n.ccccc";
+
+/// The colour of each character, in the order of the text without its line ends; invalid where
+/// nothing has coloured it.
+QList<QColor> coloursOf(const ProgramEditor& editor)
 {
-    ProgramEditor editor;
-    editor.setPlainText("where 'x' 1 /* */");
-    const QTextBlock block = editor.document()->firstBlock();
-    return {{'k', colourAt(block, 0)},
-            {'q', colourAt(block, 6)},
-            {'n', colourAt(block, 10)},
-            {'c', colourAt(block, 12)},
-            {'.', QColor()}};
+    QList<QColor> colours;
+    for (QTextBlock block = editor.document()->firstBlock(); block.isValid();
+         block = block.next()) {
+        const qsizetype start = colours.size();
+        colours.resize(start + block.length() - 1);
+        for (const QTextLayout::FormatRange& range : block.layout()->formats()) {
+            std::fill_n(colours.begin() + start + range.start, range.length,
+                        range.format.foreground().color());
+        }
+    }
+    return colours;
 }
 
-void TestProgramEditor::eachKindHasItsColour()
-{
-    QSet<QRgb> different;
-    for (const QChar kind : {'k', 'q', 'n', 'c'}) {
-        QVERIFY(colours().value(kind).isValid());
-        different.insert(colours().value(kind).rgb());
-    }
-    QCOMPARE(different.size(), 4);
-}
+}  // namespace
 
 void TestProgramEditor::textIsColouredByItsKind_data()
 {
-    // Below each character its kind: k keyword, q in quotes, c comment, n number, . none of them.
-    QTest::addColumn<QStringList>("lines");
-    QTest::newRow("statement") << QStringList{"where age >= 18.5;",  //
-                                              "kkkkk........nnnn."};
-    QTest::newRow("letter case") << QStringList{"KEEP a;",  //
-                                                "kkkk..."};
-    QTest::newRow("keyword within a name") << QStringList{"keeper if1 _if;",  //
-                                                          "..............."};
-    QTest::newRow("digits within a name") << QStringList{"var12 = 3;",  //
-                                                         "........n."};
-    QTest::newRow("library and dataset") << QStringList{"set a.b2;",  //
-                                                        "kkk......"};
-    QTest::newRow("doubled quotes") << QStringList{"if a = 'it''s'; by b;",  //
-                                                   "kk.....qqqqqqq..kk..."};
-    QTest::newRow("star at the start") << QStringList{"run; * if 1; keep a;",  //
-                                                      "kkk..ccccccc.kkkk..."};
-    QTest::newRow("star within") << QStringList{"if a * 1;",  //
-                                                "kk.....n."};
-    QTest::newRow("comment over lines") << QStringList{"by /* if",  //
-                                                       "kk.ccccc",  //
-                                                       "1 */ 1;",  //
-                                                       "cccc.n."};
-    QTest::newRow("quotes over lines") << QStringList{"if a = \"x",  //
-                                                      "kk.....qq",  //
-                                                      "if\" 1;",  //
-                                                      "qqq.n."};
-    QTest::newRow("statement over lines") << QStringList{"if a",  //
-                                                         "kk..",  //
-                                                         "* 1;",  //
-                                                         "..n."};
+    // For each character its kind: k keyword, q in quotes, c comment, n number, . none of them.
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("kinds");
+    const auto row = [](const char* name, const QString& text, const QString& kinds) {
+        QTest::newRow(name) << text << kinds;
+    };
+    row("statement", "where age >= 18.5;", "kkkkk........nnnn.");
+    row("letter case", "KEEP a;", "kkkk...");
+    row("within a name", "keeper if1 _if var12;", ".....................");
+    row("library and dataset", "set a.b2;", "kkk......");
+    row("doubled quotes", "if a = 'it''s'; by b;", "kk.....qqqqqqq..kk...");
+    row("star at the start", "run; * if 1; keep a;", "kkk..ccccccc.kkkk...");
+    row("star within", "if a * 1;", "kk.....n.");
+    row("comment over lines", "by /* if\n1 */ 1;", "kk.ccccccccc.n.");
+    row("quotes over lines", "if a = \"x\nif\" 1;", "kk.....qqqqq.n.");
+    row("statement over lines", "if a\n* 1;", "kk....n.");
 }
 
 void TestProgramEditor::textIsColouredByItsKind()
 {
-    QFETCH(QStringList, lines);
-    const QMap<QChar, QColor> expected = colours();
+    QFETCH(QString, text);
+    QFETCH(QString, kinds);
     ProgramEditor editor;
-    QStringList text;
-    for (qsizetype line = 0; line < lines.size(); line += 2) {
-        text << lines.at(line);
+    editor.setPlainText(oneOfEach);
+    QMap<QChar, QColor> expected{{'.', QColor()}};
+    const QList<QColor> samples = coloursOf(editor);
+    for (qsizetype i = 0; i < samples.size(); ++i) {
+        expected[kindsOfIt[i]] = samples[i];
     }
-    editor.setPlainText(text.join('\n'));
-
-    QTextBlock block = editor.document()->firstBlock();
-    for (qsizetype line = 0; line < lines.size(); line += 2, block = block.next()) {
-        const QString kinds = lines.at(line + 1);
-        QCOMPARE(kinds.size(), block.text().size());
-        for (int position = 0; position < kinds.size(); ++position) {
-            if (block.text().at(position) != ' ' || kinds.at(position) == '.') {
-                QVERIFY2(colourAt(block, position) == expected.value(kinds.at(position)),
-                         qPrintable(QStringLiteral("%1 at %2").arg(block.text()).arg(position)));
-            }
-        }
+    QCOMPARE(QSet<QString>({expected['k'].name(), expected['q'].name(), expected['n'].name(),
+                            expected['c'].name()})
+                 .size(),
+             4);
+    editor.setPlainText(text);
+    const QList<QColor> colours = coloursOf(editor);
+    text.remove('\n');
+    QCOMPARE(colours.size(), kinds.size());
+    for (qsizetype i = 0; i < colours.size(); ++i) {
+        QVERIFY2((text[i] == ' ' && kinds[i] != '.') || colours[i] == expected[kinds[i]],
+                 qPrintable(QString("%1 at %2").arg(text).arg(i)));
     }
-}
-
-void TestProgramEditor::commentIsColouredAnewWhenItsStartGoes()
-{
-    const QMap<QChar, QColor> expected = colours();
-    ProgramEditor editor;
-    editor.setPlainText("/*\nwhere a = 1;");
-    const QTextBlock second = editor.document()->lastBlock();
-    QCOMPARE(colourAt(second, 0), expected.value('c'));
-
-    QTextCursor cursor(editor.document());
-    cursor.setPosition(2, QTextCursor::KeepAnchor);
-    cursor.removeSelectedText();
-
-    QCOMPARE(colourAt(second, 0), expected.value('k'));
-}
-
-void TestProgramEditor::coloursFollowTheLook_data()
-{
-    QTest::addColumn<bool>("shownBefore");
-    QTest::newRow("shown") << true;
-    QTest::newRow("hidden meanwhile") << false;
 }
 
 void TestProgramEditor::coloursFollowTheLook()
 {
-    QFETCH(bool, shownBefore);
     ProgramEditor editor;
-    editor.setPlainText("where 'x' 1 /* */");
-    editor.setVisible(shownBefore);
-    const QTextBlock block = editor.document()->firstBlock();
-    const QList<int> positions{0, 6, 10, 12};
-    for (const int position : positions) {
-        const QColor colour = colourAt(block, position);
-        QVERIFY2(colour.isValid() && colour.lightness() < 100, qPrintable(colour.name()));
+    editor.setPlainText(oneOfEach);
+    for (const bool wasShown : {false, true}) {
+        editor.setVisible(wasShown);
+        theme::apply(true);
+        editor.show();
+        for (const qsizetype i : {0, 6, 10, 12}) {
+            QVERIFY(coloursOf(editor)[i].lightness() > 130);
+        }
+        theme::apply(false);
+        for (const qsizetype i : {0, 6, 10, 12}) {
+            QTRY_VERIFY(coloursOf(editor)[i].lightness() < 100);
+        }
     }
-
-    theme::apply(true);
-    editor.show();
-
-    for (const int position : positions) {
-        const QColor colour = colourAt(block, position);
-        QVERIFY2(colour.lightness() > 130, qPrintable(colour.name()));
-    }
-    theme::apply(false);
-    QTRY_VERIFY(colourAt(block, 0).lightness() < 100);
 }
 
 void TestProgramEditor::escapeLeavesAndTheTabulatorWrites()
