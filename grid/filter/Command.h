@@ -39,7 +39,7 @@ struct Command
                                 DropVariables, FrequencyTable, SetLibraryFilter, AddDatasetFilter>;
 
     Action action;
-    /// Something follows the command, which acts all the same; ParseError::trailingText() comes
+    /// Something follows the command, which acts all the same; ParseError::trailingText comes
     /// afterwards.
     bool hasTrailingText = false;
 };

@@ -13,9 +13,9 @@ namespace {
 
 using Kind = LiteralValue::Kind;
 
-ParseError typesDiffer()
+[[noreturn]] void refuseTypes()
 {
-    return ParseError("The variable types do not match.");
+    throw ParseError("The variable types do not match.");
 }
 
 LiteralValue readable(const Literal& literal)
@@ -83,7 +83,7 @@ RowPredicatePointer ConditionCompiler::compile(const IndexTerm& term) const
     const LiteralValue place = readable(term.value);
     if (m_dataset.isNumeric(variable) || needle.kind != Kind::Text || place.kind == Kind::Text
         || term.op == CompareOp::Contains) {
-        throw typesDiffer();
+        refuseTypes();
     }
     if (place.kind == Kind::Missing) {
         return compareWithMissing(term.op, rowpredicates::constant(false));
@@ -133,7 +133,7 @@ RowPredicatePointer ConditionCompiler::compareNumber(int variable, CompareOp op,
                                                      const LiteralValue& value) const
 {
     if (value.kind == Kind::Text || op == CompareOp::Contains) {
-        throw typesDiffer();
+        refuseTypes();
     }
     if (value.kind == Kind::Missing) {
         return compareWithMissing(op, isMissing(variable));
@@ -148,7 +148,7 @@ RowPredicatePointer ConditionCompiler::compareText(int variable, CompareOp op,
     // A text that is missing is blank, so the number "." is the blank text here.
     const bool isMissingNumber = value.kind == Kind::Missing && op != CompareOp::Contains;
     if (value.kind != Kind::Text && !isMissingNumber) {
-        throw typesDiffer();
+        refuseTypes();
     }
     return textpredicates::compare(textColumn(m_dataset, variable), op, value.text);
 }
@@ -160,7 +160,7 @@ RowPredicatePointer ConditionCompiler::numberIsIn(int variable,
     bool hasMissing = false;
     for (const LiteralValue& value : values) {
         if (value.kind == Kind::Text) {
-            throw typesDiffer();
+            refuseTypes();
         }
         if (value.kind == Kind::Missing) {
             hasMissing = true;
@@ -184,7 +184,7 @@ RowPredicatePointer ConditionCompiler::textIsIn(int variable,
     std::vector<std::string> texts;
     for (const LiteralValue& value : values) {
         if (value.kind != Kind::Text && value.kind != Kind::Missing) {
-            throw typesDiffer();
+            refuseTypes();
         }
         texts.push_back(value.text);
     }

@@ -29,7 +29,7 @@ ParsedCondition ConditionParser::parseAll(QStringView text)
     TokenStream tokens(text, Dialect::FilterText);
     ParsedCondition condition = parse(tokens);
     if (!tokens.nextIs(TokenKind::End)) {
-        throw ParseError::trailingText();
+        throw ParseError(ParseError::trailingText);
     }
     return condition;
 }

@@ -8,9 +8,6 @@ class ParseError : public std::runtime_error
 public:
     using std::runtime_error::runtime_error;
 
-    /// Something follows what was asked for.
-    [[nodiscard]] static ParseError trailingText()
-    {
-        return ParseError("unexpected trailing text");
-    }
+    /// What is said where something follows what was asked for.
+    static constexpr const char* trailingText = "unexpected trailing text";
 };

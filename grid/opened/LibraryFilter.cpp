@@ -54,7 +54,7 @@ CommandOutcome LibraryFilter::run(const QString& commandText)
         const Command command = CommandParser::parse(commandText, Dialect::Command);
         carryOut(command.action);
         if (command.hasTrailingText) {
-            throw ParseError::trailingText();
+            throw ParseError(ParseError::trailingText);
         }
     });
 }

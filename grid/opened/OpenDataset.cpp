@@ -29,7 +29,7 @@ std::optional<ParsedCondition> conditionOf(const QString& filterText)
         throw ParseError("This is no such filter: " + filterText.toStdString());
     }
     if (command.hasTrailingText) {
-        throw ParseError::trailingText();
+        throw ParseError(ParseError::trailingText);
     }
     return filter->condition;
 }
@@ -72,7 +72,7 @@ CommandOutcome OpenDataset::run(const QString& commandText, Dialect dialect, IfC
         const Command command = CommandParser::parse(commandText, dialect);
         std::visit([&](const auto& action) { act(action, ifCommand); }, command.action);
         if (command.hasTrailingText) {
-            throw ParseError::trailingText();
+            throw ParseError(ParseError::trailingText);
         }
     });
 }
