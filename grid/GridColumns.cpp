@@ -49,6 +49,7 @@ void GridColumns::keepOrder()
     }
     const QHeaderView& header = *m_view.horizontalHeader();
     std::vector<int> order;
+    order.reserve(static_cast<std::size_t>(header.count()));
     for (int place = 0; place < header.count(); ++place) {
         order.push_back(header.logicalIndex(place));
     }
