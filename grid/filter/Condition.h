@@ -1,7 +1,7 @@
 #pragma once
 
 #include "grid/filter/CompareOp.h"
-#include "grid/filter/Token.h"
+#include "grid/filter/Lexer.h"
 
 #include <QString>
 

@@ -18,15 +18,6 @@ using Kind = LiteralValue::Kind;
     throw ParseError("The variable types do not match.");
 }
 
-LiteralValue readable(const Literal& literal)
-{
-    Result<LiteralValue> value = valueOf(literal);
-    if (!value) {
-        throw ParseError(value.error());
-    }
-    return std::move(value.value());
-}
-
 RowPredicatePointer negatedIf(bool negated, RowPredicatePointer predicate)
 {
     return negated ? rowpredicates::negation(std::move(predicate)) : std::move(predicate);
@@ -71,7 +62,7 @@ RowPredicatePointer ConditionCompiler::compile(const Condition& condition) const
 RowPredicatePointer ConditionCompiler::compile(const CompareTerm& term) const
 {
     const int variable = variableNamed(term.variable);
-    const LiteralValue value = readable(term.value);
+    const LiteralValue value = valueOf(term.value);
     return m_dataset.isNumeric(variable) ? compareNumber(variable, term.op, value)
                                          : compareText(variable, term.op, value);
 }
@@ -79,8 +70,8 @@ RowPredicatePointer ConditionCompiler::compile(const CompareTerm& term) const
 RowPredicatePointer ConditionCompiler::compile(const IndexTerm& term) const
 {
     const int variable = variableNamed(term.variable);
-    const LiteralValue needle = readable(term.needle);
-    const LiteralValue place = readable(term.value);
+    const LiteralValue needle = valueOf(term.needle);
+    const LiteralValue place = valueOf(term.value);
     if (m_dataset.isNumeric(variable) || needle.kind != Kind::Text || place.kind == Kind::Text
         || term.op == CompareOp::Contains) {
         refuseTypes();
@@ -97,7 +88,7 @@ RowPredicatePointer ConditionCompiler::compile(const InTerm& term) const
     const int variable = variableNamed(term.variable);
     std::vector<LiteralValue> values;
     for (const Literal& literal : term.values) {
-        values.push_back(readable(literal));
+        values.push_back(valueOf(literal));
     }
     RowPredicatePointer predicate =
         m_dataset.isNumeric(variable) ? numberIsIn(variable, values) : textIsIn(variable, values);

@@ -21,7 +21,7 @@ ParsedCondition ConditionParser::parse(TokenStream& tokens)
 {
     ConditionParser parser(tokens);
     Condition tree = parser.orCondition();
-    return {parser.m_writer.text(), parser.m_hasOuterOr, std::move(tree)};
+    return {std::move(parser.m_text), parser.m_hasOuterOr, std::move(tree)};
 }
 
 ParsedCondition ConditionParser::parseAll(QStringView text)
@@ -63,7 +63,7 @@ Condition ConditionParser::primary()
     if (m_depth == deepestNesting) {
         throw ParseError("too many parentheses");
     }
-    m_writer.add(m_tokens.take());
+    copyNext();
     ++m_depth;
     Condition inner = orCondition();
     copy(TokenKind::RightParenthesis, "expect ')'");
@@ -81,7 +81,7 @@ Condition ConditionParser::comparison()
         return inList(name, false);
     }
     if (m_tokens.nextIsWord(u"not")) {
-        m_writer.add(m_tokens.take());
+        copyNext();
         if (!m_tokens.nextIsWord(u"in")) {
             throw ParseError("expect operator");
         }
@@ -97,8 +97,7 @@ Condition ConditionParser::comparison()
 
 Condition ConditionParser::indexComparison()
 {
-    m_tokens.take();
-    m_writer.addCall();
+    write(m_tokens.take().text, Spacing::JoinsLeft);
     const QString name = copy(TokenKind::Identifier, "expect variable name").text;
     copy(TokenKind::Comma, "expect ','");
     const Literal needle = copy(TokenKind::String, "expect string literal");
@@ -109,12 +108,12 @@ Condition ConditionParser::indexComparison()
 
 Condition ConditionParser::inList(const QString& variable, bool negated)
 {
-    m_writer.add(m_tokens.take());
+    copyNext();
     copy(TokenKind::LeftParenthesis, "expect '(' after in");
     InTerm term{variable, negated, {}};
     term.values.push_back(value());
     while (m_tokens.nextIs(TokenKind::Comma)) {
-        m_writer.add(m_tokens.take());
+        copyNext();
         term.values.push_back(value());
     }
     copy(TokenKind::RightParenthesis, "expect ')'");
@@ -123,15 +122,17 @@ Condition ConditionParser::inList(const QString& variable, bool negated)
 
 Condition ConditionParser::nullTest(const QString& variable)
 {
-    const Token word = m_tokens.take();
-    m_writer.add(word);
-    bool negated = compareop::sameWord(word.text, u"isnotnull");
-    if (compareop::sameWord(word.text, u"is")) {
+    const QStringView word = copyNext().text;
+    bool negated = compareop::sameWord(word, u"isnotnull");
+    if (compareop::sameWord(word, u"is")) {
         if (m_tokens.nextIsWord(u"not")) {
-            m_writer.add(m_tokens.take());
+            copyNext();
             negated = true;
         }
-        m_writer.add(m_tokens.takeWord(u"null", "expect null"));
+        if (!m_tokens.nextIsWord(u"null")) {
+            throw ParseError("expect null");
+        }
+        copyNext();
     }
     return {NullTerm{variable, negated}};
 }
@@ -145,7 +146,7 @@ CompareOp ConditionParser::compareOperator()
     if (!op) {
         throw ParseError("expect operator");
     }
-    m_writer.add(m_tokens.take());
+    copyNext();
     return *op;
 }
 
@@ -156,12 +157,23 @@ Literal ConditionParser::value()
     return copy(kind, "expect value");
 }
 
-/// Takes a token of this kind and writes it as it stands.
+/// Takes the next token and writes it as it stands.
+Token ConditionParser::copyNext()
+{
+    const Token token = m_tokens.take();
+    const bool joinsLeft =
+        token.kind == TokenKind::RightParenthesis || token.kind == TokenKind::Comma;
+    write(token.text, joinsLeft ? Spacing::JoinsLeft : Spacing::Blank);
+    return token;
+}
+
+/// Copies a token of this kind; throws ParseError with the message for any other.
 Literal ConditionParser::copy(TokenKind kind, const char* message)
 {
-    const Token token = m_tokens.take(kind, message);
-    m_writer.add(token);
-    return {token.kind, token.text.toString()};
+    if (!m_tokens.nextIs(kind)) {
+        throw ParseError(message);
+    }
+    return {kind, copyNext().text.toString()};
 }
 
 bool ConditionParser::takeJunction(TokenKind symbol, QStringView word)
@@ -170,6 +182,14 @@ bool ConditionParser::takeJunction(TokenKind symbol, QStringView word)
         return false;
     }
     m_tokens.take();
-    m_writer.addWord(word);
+    write(word, Spacing::Blank);
     return true;
+}
+
+void ConditionParser::write(QStringView piece, Spacing spacing)
+{
+    if (spacing == Spacing::Blank && !m_text.isEmpty() && !m_text.endsWith(u'(')) {
+        m_text += u' ';
+    }
+    m_text += piece;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "grid/filter/Condition.h"
-#include "grid/filter/ConditionWriter.h"
 #include "grid/filter/TokenStream.h"
 
 /// A condition read from a text.
@@ -23,6 +22,9 @@ struct ParsedCondition
 ///                  | "index" "(" variable "," string ")" operator value
 ///
 /// Words are read in any letter case. Throws ParseError.
+///
+/// The text is written while it is read: one blank between tokens, none inside parentheses, before
+/// a comma and between a function and its parenthesis.
 class ConditionParser
 {
 public:
@@ -46,11 +48,19 @@ private:
 
     CompareOp compareOperator();
     Literal value();
+    Token copyNext();
     Literal copy(TokenKind kind, const char* message);
     bool takeJunction(TokenKind symbol, QStringView word);
 
+    enum class Spacing
+    {
+        Blank,
+        JoinsLeft,
+    };
+    void write(QStringView piece, Spacing spacing);
+
     TokenStream& m_tokens;
-    ConditionWriter m_writer;
+    QString m_text;  ///< of what has been read
     int m_depth = 0;  ///< of open parentheses
     bool m_hasOuterOr = false;
 };

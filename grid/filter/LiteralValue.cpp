@@ -1,6 +1,7 @@
 #include "grid/filter/LiteralValue.h"
 
 #include "grid/filter/DateLiteral.h"
+#include "grid/filter/ParseError.h"
 
 #include <fmt/format.h>
 
@@ -12,21 +13,21 @@ namespace {
 
 using Kind = LiteralValue::Kind;
 
-Result<LiteralValue> numberOf(const std::string& text)
+LiteralValue numberOf(const std::string& text)
 {
     if (text == ".") {
-        return LiteralValue{Kind::Missing, 0, {}};
+        return {Kind::Missing, 0, {}};
     }
     LiteralValue value{Kind::Number, 0, {}};
     const char* first = text.data() + (text.starts_with('+') ? 1 : 0);
     const auto [end, error] = std::from_chars(first, text.data() + text.size(), value.number);
     if (error != std::errc() || end != text.data() + text.size()) {
-        return Failure{fmt::format("The number {} is out of range", text)};
+        throw ParseError(fmt::format("The number {} is out of range", text));
     }
     return value;
 }
 
-Result<LiteralValue> dateOrTime(Kind kind, const std::string& literal, std::string_view content)
+LiteralValue dateOrTime(Kind kind, const std::string& literal, std::string_view content)
 {
     std::optional<double> number;
     const char* meaning = "";
@@ -45,9 +46,9 @@ Result<LiteralValue> dateOrTime(Kind kind, const std::string& literal, std::stri
         break;
     }
     if (!number) {
-        return Failure{fmt::format("{} is not a valid {}", literal, meaning)};
+        throw ParseError(fmt::format("{} is not a valid {}", literal, meaning));
     }
-    return LiteralValue{kind, *number, {}};
+    return {kind, *number, {}};
 }
 
 Kind kindOfSuffix(QStringView suffix)
@@ -63,7 +64,7 @@ Kind kindOfSuffix(QStringView suffix)
 
 }  // namespace
 
-Result<LiteralValue> valueOf(const Literal& literal)
+LiteralValue valueOf(const Literal& literal)
 {
     std::string text = literal.text.toStdString();
     if (literal.kind == TokenKind::Number) {
@@ -73,7 +74,7 @@ Result<LiteralValue> valueOf(const Literal& literal)
     const Kind kind = kindOfSuffix(QStringView(literal.text).sliced(quote + 1));
     std::string content = literal.text.mid(1, quote - 1).toStdString();
     if (kind == Kind::Text) {
-        return LiteralValue{kind, 0, std::move(content)};
+        return {kind, 0, std::move(content)};
     }
     return dateOrTime(kind, text, content);
 }

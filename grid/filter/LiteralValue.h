@@ -1,6 +1,5 @@
 #pragma once
 
-#include "data/Result.h"
 #include "data/values/DateScale.h"
 #include "grid/filter/Condition.h"
 
@@ -39,5 +38,6 @@ struct LiteralValue
     }
 };
 
-/// Converts a literal. A failure shows it: it is no date, or a number that a double cannot hold.
-[[nodiscard]] Result<LiteralValue> valueOf(const Literal& literal);
+/// Converts a literal. Throws ParseError, which shows it, where it is no date, or a number that a
+/// double cannot hold.
+[[nodiscard]] LiteralValue valueOf(const Literal& literal);

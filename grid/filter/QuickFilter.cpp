@@ -85,16 +85,13 @@ std::optional<DateText> dateText(Content content, double count)
 /// The literal of a date or time; nothing when no literal reads back to the same number.
 std::optional<QString> dateLiteral(const DateScale& scale, double stored)
 {
-    const auto written = dateText(scale.content(), scale.sasCount(stored));
-    if (!written) {
+    const double count = scale.sasCount(stored);
+    const auto written = dateText(scale.content(), count);
+    const bool isSame = scale.storedCount(scale.content(), count) == stored;
+    if (!written || !isSame) {
         return std::nullopt;
     }
-    const QString text =
-        QString::fromStdString(fmt::format("\"{}\"{}", written->text, written->suffix));
-    const Result<LiteralValue> read = valueOf({TokenKind::String, text});
-    const bool isSame =
-        read && scale.storedCount(read.value().content(), read.value().number) == stored;
-    return isSame ? std::optional(text) : std::nullopt;
+    return QString::fromStdString(fmt::format("\"{}\"{}", written->text, written->suffix));
 }
 
 }  // namespace

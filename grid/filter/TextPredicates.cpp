@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <span>
 #include <unordered_set>
 
@@ -167,6 +168,11 @@ Records recordsOf(const TextPool& pool, const std::vector<std::string>& texts)
     return records;
 }
 
+RowPredicatePointer hasProperty(const TextColumn& column, Property holds)
+{
+    return std::make_unique<PropertyPredicate>(column.cells, std::move(holds));
+}
+
 }  // namespace
 
 std::string_view withoutTrailingBlanks(std::string_view text)
@@ -229,12 +235,6 @@ RowPredicatePointer compareIndex(const TextColumn& column, std::string needle, C
     return hasProperty(column, [needle = std::move(needle), op, place](std::string_view value) {
         return holdsFor(op, static_cast<double>(indexOf(value, needle)) - place);
     });
-}
-
-RowPredicatePointer hasProperty(const TextColumn& column,
-                                std::function<bool(std::string_view)> holds)
-{
-    return std::make_unique<PropertyPredicate>(column.cells, std::move(holds));
 }
 
 }  // namespace textpredicates

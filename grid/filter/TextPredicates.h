@@ -5,7 +5,6 @@
 #include "grid/filter/CompareOp.h"
 #include "grid/filter/RowPredicate.h"
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -34,9 +33,5 @@ namespace textpredicates {
 /// @param op  any but Contains
 [[nodiscard]] RowPredicatePointer compareIndex(const TextColumn& column, std::string needle,
                                                CompareOp op, double place);
-
-/// Whether any other property holds for the text.
-[[nodiscard]] RowPredicatePointer hasProperty(const TextColumn& column,
-                                              std::function<bool(std::string_view)> holds);
 
 }  // namespace textpredicates

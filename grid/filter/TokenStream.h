@@ -33,14 +33,6 @@ public:
         }
         return take();
     }
-    /// Takes this word; throws ParseError with the message for anything else.
-    Token takeWord(QStringView word, const char* message)
-    {
-        if (!nextIsWord(word)) {
-            throw ParseError(message);
-        }
-        return take();
-    }
 
 private:
     Lexer m_lexer;
