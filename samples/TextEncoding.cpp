@@ -7,7 +7,7 @@ namespace samples {
 
 std::string toWindows1252(const std::string& text)
 {
-    static const iconv_t converter = iconv_open("WINDOWS-1252", "UTF-8");
+    static iconv_t converter = iconv_open("WINDOWS-1252", "UTF-8");
     std::string source = text;  // iconv takes it as changeable
     std::string target(text.size(), '\0');
     char* from = source.data();
