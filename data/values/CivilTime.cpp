@@ -20,8 +20,9 @@ constexpr std::array<std::string_view, 7> weekdayNames{
 template <std::size_t size>
 std::string_view nameAt(const std::array<std::string_view, size>& names, int index)
 {
-    if (index < 0 || index >= static_cast<int>(size))
+    if (index < 0 || index >= static_cast<int>(size)) {
         return {};
+    }
     return names.at(static_cast<std::size_t>(index));
 }
 
@@ -40,15 +41,17 @@ constexpr std::int64_t lastDay =
 std::optional<std::int64_t> floorToInteger(double value)
 {
     constexpr double limit = 1e18;
-    if (!(std::fabs(value) < limit))  // NaN, too
+    if (!(std::fabs(value) < limit)) {  // NaN, too
         return std::nullopt;
+    }
     return static_cast<std::int64_t>(std::floor(value));
 }
 
 std::optional<Date> dateFromDays(std::int64_t days)
 {
-    if (days < firstDay || days > lastDay)
+    if (days < firstDay || days > lastDay) {
         return std::nullopt;
+    }
     const std::chrono::year_month_day date{
         std::chrono::sys_days{std::chrono::days{static_cast<int>(days)}}};
     return Date{static_cast<int>(date.year()),

@@ -17,31 +17,36 @@ constexpr bool isDigit(char character)
 
 constexpr char changedCase(char character, LetterCase letterCase)
 {
-    if (letterCase == LetterCase::Upper && character >= 'a' && character <= 'z')
+    if (letterCase == LetterCase::Upper && character >= 'a' && character <= 'z') {
         return static_cast<char>(character - 'a' + 'A');
-    if (letterCase == LetterCase::Lower && character >= 'A' && character <= 'Z')
+    }
+    if (letterCase == LetterCase::Lower && character >= 'A' && character <= 'Z') {
         return static_cast<char>(character - 'A' + 'a');
+    }
     return character;
 }
 
 std::string_view nonFinite(double value)
 {
-    if (std::isnan(value))
+    if (std::isnan(value)) {
         return "nan";
+    }
     return value < 0 ? "-inf" : "inf";
 }
 
 std::string_view written(const Buffer& buffer, const std::to_chars_result& result)
 {
-    if (result.ec != std::errc())
+    if (result.ec != std::errc()) {
         return {};
+    }
     return {buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data())};
 }
 
 std::string_view withDecimals(double value, std::chars_format format, int decimals, Buffer& buffer)
 {
-    if (!std::isfinite(value))
+    if (!std::isfinite(value)) {
         return nonFinite(value);
+    }
     const int precision = std::clamp(decimals, 0, maximumDecimals);
     return written(
         buffer,
@@ -81,10 +86,12 @@ std::string_view scientific(double value, int decimals, Buffer& buffer)
 
 std::string_view shortest(double value, Buffer& buffer)
 {
-    if (!std::isfinite(value))
+    if (!std::isfinite(value)) {
         return nonFinite(value);
-    if (value == 0)
+    }
+    if (value == 0) {
         return "0";
+    }
     const double magnitude = std::fabs(value);
     const bool plain = magnitude >= 1e-5 && magnitude < 1e15;
     return written(buffer,
@@ -100,14 +107,16 @@ std::string shortest(double value)
 
 void StackText::append(char character)
 {
-    if (m_size < capacity)
+    if (m_size < capacity) {
         m_characters[m_size++] = character;
+    }
 }
 
 void StackText::append(std::string_view text, LetterCase letterCase)
 {
-    for (const char character : text)
+    for (const char character : text) {
         append(changedCase(character, letterCase));
+    }
 }
 
 void StackText::appendInteger(std::int64_t value, int minimumDigits)
@@ -127,30 +136,35 @@ void StackText::appendGrouped(std::string_view number, char separator, char deci
 {
     const std::size_t first = number.starts_with('-') ? 1 : 0;
     std::size_t last = first;
-    while (last < number.size() && isDigit(number[last]))
+    while (last < number.size() && isDigit(number[last])) {
         ++last;
+    }
     append(number.substr(0, first));
     for (std::size_t position = first; position < last; ++position) {
-        if (separator != '\0' && position > first && (last - position) % 3 == 0)
+        if (separator != '\0' && position > first && (last - position) % 3 == 0) {
             append(separator);
+        }
         append(number[position]);
     }
-    for (const char character : number.substr(last))
+    for (const char character : number.substr(last)) {
         append(character == '.' ? decimalPoint : character);
+    }
 }
 
 void StackText::appendRepeated(char character, int count)
 {
-    for (int done = 0; done < count; ++done)
+    for (int done = 0; done < count; ++done) {
         append(character);
+    }
 }
 
 std::string StackText::trimmed() const
 {
     const std::string_view text = view();
     const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
+    if (first == std::string_view::npos) {
         return {};
+    }
     return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
 }
 

@@ -110,8 +110,9 @@ std::optional<int> takeNumber(std::string_view& text)
 {
     int number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || number < 0 || number > unlimitedWidth)
+    if (error != std::errc() || number < 0 || number > unlimitedWidth) {
         return std::nullopt;
+    }
     text.remove_prefix(static_cast<std::size_t>(end - text.data()));
     return number;
 }
@@ -123,27 +124,32 @@ std::optional<Format> parseFormat(std::string_view text)
                                            [name = text.substr(0, digits)](const NamedKind& kind) {
                                                return sameLetters(name, kind.name);
                                            });
-    if (named == namedKinds.end())
+    if (named == namedKinds.end()) {
         return std::nullopt;
+    }
     Format format{named->kind, 0, 0};
     text.remove_prefix(digits);
     if (!text.empty() && text.front() != '.') {
         const auto width = takeNumber(text);
-        if (!width)
+        if (!width) {
             return std::nullopt;
+        }
         format.width = *width;
     }
     if (text.starts_with('.')) {
         text.remove_prefix(1);
         const auto decimals = takeNumber(text);
-        if (!decimals)
+        if (!decimals) {
             return std::nullopt;
+        }
         format.decimals = std::min(*decimals, numbertext::maximumDecimals);
     }
-    if (format.width == 0 && format.kind == Kind::Plain)
+    if (format.width == 0 && format.kind == Kind::Plain) {
         return std::nullopt;
-    if (format.width == 0)
+    }
+    if (format.width == 0) {
         format.width = unlimitedWidth;
+    }
     return text.empty() ? std::optional(format) : std::nullopt;
 }
 
@@ -185,8 +191,9 @@ Digits digitsOf(double value, int decimals, Buffer& buffer)
 {
     std::string_view text = numbertext::fixedHalfAway(value, decimals, buffer);
     const bool negative = text.starts_with('-');
-    if (negative)
+    if (negative) {
         text.remove_prefix(1);
+    }
     const bool zero = text.find_first_not_of("0.") == std::string_view::npos;
     return {negative && !zero, text, std::min(text.find('.'), text.size())};
 }
@@ -205,8 +212,9 @@ Digits bareDigitsOf(double value, int decimals, Buffer& buffer)
 std::string decorated(const Digits& digits, const NumberStyle& style, bool isGrouped)
 {
     StackText text;
-    if (digits.negative)
+    if (digits.negative) {
         text.append('-');
+    }
     text.append(style.prefix);
     text.appendGrouped(digits.text, isGrouped ? style.separator : '\0', style.decimalPoint);
     text.append(style.suffix);
@@ -223,29 +231,33 @@ std::string formatDecimal(double value, const Format& format, const NumberStyle&
         const Digits digits = bareDigitsOf(value, decimals, buffer);
         const auto room = static_cast<std::size_t>(format.width);
         const auto width = digits.text.size() + (digits.negative ? 1 : 0) + affixes;
-        if (width > room)
+        if (width > room) {
             continue;
+        }
         const auto separators = digits.integerDigits > 0 ? (digits.integerDigits - 1) / 3 : 0;
         const bool lostDecimals = decimals == 0 && format.decimals > 0;
         return decorated(digits, style, !lostDecimals && width + separators <= room);
     }
-    if (std::fabs(value) >= fullDigitsLimit)
+    if (std::fabs(value) >= fullDigitsLimit) {
         return numbertext::shortest(value);
+    }
     return decorated(bareDigitsOf(value, format.decimals, buffer), style, true);
 }
 
 std::string formatZeroFilled(double value, const Format& format)
 {
-    if (std::fabs(value) >= fullDigitsLimit)
+    if (std::fabs(value) >= fullDigitsLimit) {
         return numbertext::shortest(value);
+    }
     Buffer buffer;
     const Digits digits = digitsOf(value, format.decimals, buffer);
     const int sign = digits.negative ? 1 : 0;
     // A missing width asks for no zeros.
     const int width = format.width == unlimitedWidth ? 0 : format.width;
     StackText text;
-    if (digits.negative)
+    if (digits.negative) {
         text.append('-');
+    }
     text.appendRepeated('0', width - sign - static_cast<int>(digits.text.size()));
     text.append(digits.text);
     return text.trimmed();
@@ -288,11 +300,13 @@ Seconds splitFraction(double value, int decimals)
     Seconds seconds;
     seconds.whole = static_cast<std::int64_t>(value);
     seconds.decimals = std::clamp(decimals, 0, mostDecimals);
-    if (seconds.decimals == 0)
+    if (seconds.decimals == 0) {
         return seconds;
+    }
     std::int64_t scale = 1;
-    for (int digit = 0; digit < seconds.decimals; ++digit)
+    for (int digit = 0; digit < seconds.decimals; ++digit) {
         scale *= 10;
+    }
     const double fraction = value - std::floor(value);
     seconds.fraction = std::llround(fraction * static_cast<double>(scale));
     if (seconds.fraction == scale) {
@@ -317,8 +331,9 @@ void appendClock(StackText& text, std::int64_t clock, bool withSeconds, const Se
     text.appendInteger(clock / 3600, 2);
     text.append(':');
     text.appendInteger(clock / 60 % 60, 2);
-    if (withSeconds)
+    if (withSeconds) {
         appendSecond(text, clock % 60, seconds);
+    }
 }
 
 /// Fewer decimals where the width leaves no room for them and their point.
@@ -342,8 +357,9 @@ int durationWidthWithSeconds(Kind kind)
 std::string formatDuration(double value, const Format& format)
 {
     constexpr double limit = 1e15;  // whole seconds are still told apart
-    if (std::fabs(value) >= limit)
+    if (std::fabs(value) >= limit) {
         return numbertext::shortest(value);
+    }
     const int widthWithSeconds = durationWidthWithSeconds(format.kind);
     const bool withSeconds = format.width >= widthWithSeconds || format.kind == Kind::MinuteTime;
     const int decimals = withSeconds ? roomForDecimals(format, widthWithSeconds) : 0;
@@ -351,8 +367,9 @@ std::string formatDuration(double value, const Format& format)
     const std::int64_t shown = withSeconds ? seconds.whole : seconds.whole / 60;
 
     StackText text;
-    if (value < 0 && (shown != 0 || seconds.fraction != 0))
+    if (value < 0 && (shown != 0 || seconds.fraction != 0)) {
         text.append('-');
+    }
     if (format.kind == Kind::MinuteTime) {
         text.appendInteger(seconds.whole / 60, 2);
         appendSecond(text, seconds.whole % 60, seconds);
@@ -379,13 +396,15 @@ std::optional<Moment> momentOf(double value, int decimals)
 {
     constexpr double beyondCalendar = 1e12;
     constexpr int lastYear = 9999;
-    if (value < 0 || value >= beyondCalendar)
+    if (value < 0 || value >= beyondCalendar) {
         return std::nullopt;
+    }
     const Seconds seconds = splitFraction(value, decimals);
     const civil::DayAndSecond split = civil::splitSeconds(seconds.whole);
     const auto date = civil::dateFromDays(split.day + civil::dayOf1582October14);
-    if (!date || date->year > lastYear)
+    if (!date || date->year > lastYear) {
         return std::nullopt;
+    }
     return Moment{*date, split.second, seconds};
 }
 
@@ -395,10 +414,11 @@ void appendYear(StackText& text, int year, bool fourDigits)
     // overnight.
     constexpr int firstShortYear = 1950;
     constexpr int lastShortYear = 2049;
-    if (fourDigits || year < firstShortYear || year > lastShortYear)
+    if (fourDigits || year < firstShortYear || year > lastShortYear) {
         text.appendInteger(year, 4);
-    else
+    } else {
         text.appendInteger(year % 100, 2);
+    }
 }
 
 void appendMonthName(StackText& text, const civil::Date& date)
@@ -433,8 +453,9 @@ int widthWithFullYear(Kind kind)
 std::string formatDate(double value, const Format& format)
 {
     const auto moment = momentOf(value, 0);
-    if (!moment)
+    if (!moment) {
         return numbertext::shortest(value);
+    }
     const civil::Date& date = moment->date;
     const bool fourDigits = format.width >= widthWithFullYear(format.kind);
     StackText text;
@@ -474,8 +495,9 @@ std::string formatDate(double value, const Format& format)
         text.append('/');
         appendPair(text, date.month, '/', date.day);
     }
-    if (format.kind == Kind::JulianDate)
+    if (format.kind == Kind::JulianDate) {
         text.appendInteger(civil::dayOfYear(date), 3);
+    }
     return text.trimmed();
 }
 
@@ -486,8 +508,9 @@ std::string formatDateTime(double value, const Format& format)
     const bool withSeconds = format.width >= widthWithSeconds;
     const auto moment =
         momentOf(value, withSeconds ? roomForDecimals(format, widthWithSeconds) : 0);
-    if (!moment)
+    if (!moment) {
         return numbertext::shortest(value);
+    }
     const civil::Date& date = moment->date;
     StackText text;
     if (sortable) {
@@ -511,8 +534,9 @@ std::string formatName(double value, const Format& format)
 {
     const bool isWeekday = format.kind == Kind::Weekday;
     const int count = isWeekday ? 7 : 12;
-    if (value < 1 || value >= count + 1)
+    if (value < 1 || value >= count + 1) {
         return numbertext::shortest(value);
+    }
     const int number = static_cast<int>(value);
     const std::string_view name =
         isWeekday ? civil::weekdayName(number - 1) : civil::monthName(number);
@@ -525,11 +549,13 @@ std::string formatName(double value, const Format& format)
 
 std::string formatNumeric(double value, std::string_view format)
 {
-    if (std::isnan(value))
+    if (std::isnan(value)) {
         return ".";
+    }
     const auto parsed = parseFormat(format);
-    if (!parsed || std::isinf(value))
+    if (!parsed || std::isinf(value)) {
         return numbertext::shortest(value);
+    }
     switch (parsed->kind) {
     case Kind::Plain:
     case Kind::Comma:

@@ -41,8 +41,9 @@ std::optional<int> takeNumber(std::string_view& text)
     constexpr int greatest = 255;
     int number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || number < 0 || number > greatest)
+    if (error != std::errc() || number < 0 || number > greatest) {
         return std::nullopt;
+    }
     text.remove_prefix(static_cast<std::size_t>(end - text.data()));
     return number;
 }
@@ -53,13 +54,15 @@ std::optional<NumberFormat> parseNumberFormat(std::string_view text)
     NumberFormat format;
     format.isZeroFilled = text.starts_with('0');
     const auto width = takeNumber(text);
-    if (!width || text.empty() || (text.front() != '.' && text.front() != ','))
+    if (!width || text.empty() || (text.front() != '.' && text.front() != ',')) {
         return std::nullopt;
+    }
     const bool isEuropean = text.front() == ',';
     text.remove_prefix(1);
     const auto decimals = takeNumber(text);
-    if (!decimals || text.empty())
+    if (!decimals || text.empty()) {
         return std::nullopt;
+    }
     format.width = *width;
     format.decimals = *decimals;
     format.kind = text.front();
@@ -75,11 +78,13 @@ std::optional<NumberFormat> parseNumberFormat(std::string_view text)
 
 std::string_view withoutTrailingZeros(std::string_view number)
 {
-    if (number.find('.') == std::string_view::npos)
+    if (number.find('.') == std::string_view::npos) {
         return number;
+    }
     number = number.substr(0, number.find_last_not_of('0') + 1);
-    if (number.ends_with('.'))
+    if (number.ends_with('.')) {
         number.remove_suffix(1);
+    }
     return number;
 }
 
@@ -92,8 +97,9 @@ void appendShaped(StackText& text, std::string_view number, const NumberFormat& 
             text.append('-');
             number.remove_prefix(1);
         }
-        if (number.starts_with("0."))
+        if (number.starts_with("0.")) {
             number.remove_prefix(1);
+        }
     }
     text.appendGrouped(number, isGrouped ? format.separator : '\0', format.decimalPoint);
 }
@@ -116,8 +122,9 @@ std::string generalWithExponent(double value, const NumberFormat& format, int ex
     const int exponentDigits = std::abs(exponent) >= 100 ? 3 : 2;
     // Sign, first digit, point, "e+", exponent.
     int decimals = std::max(0, format.width - 5 - exponentDigits);
-    if (format.decimals > 0)
+    if (format.decimals > 0) {
         decimals = std::min(decimals, format.decimals - 1);
+    }
     Buffer buffer;
     StackText text;
     appendShaped(text, numbertext::scientific(value, decimals, buffer), format, false);
@@ -134,21 +141,25 @@ std::string formatGeneral(double value, const NumberFormat& format)
     const int digitRoom = std::max(1, format.width - (isNarrow ? 1 : 2));
     const int significant = std::min(digitRoom, mostDigits);
     const int exponent = value == 0 ? 0 : roundedExponent(value, significant);
-    if (isNarrow && exponent >= mostDigits)
+    if (isNarrow && exponent >= mostDigits) {
         return numbertext::shortest(value);
-    if (exponent < smallestExponent || (exponent >= digitRoom && !isNarrow))
+    }
+    if (exponent < smallestExponent || (exponent >= digitRoom && !isNarrow)) {
         return generalWithExponent(value, format, exponent);
+    }
 
     int decimals = std::max(0, exponent < 0 ? significant : significant - 1 - exponent);
-    if (format.decimals > 0)
+    if (format.decimals > 0) {
         decimals = std::clamp(format.decimals - 1 - exponent, 0, decimals);
+    }
     for (;; --decimals) {
         Buffer buffer;
         StackText text;
         appendShaped(text, withoutTrailingZeros(numbertext::fixed(value, decimals, buffer)), format,
                      true);
-        if (format.separator == '\0' || text.size() <= static_cast<std::size_t>(format.width))
+        if (format.separator == '\0' || text.size() <= static_cast<std::size_t>(format.width)) {
             return text.trimmed();
+        }
         if (decimals == 0) {
             StackText plain;
             appendShaped(plain, numbertext::fixed(value, 0, buffer), format, false);
@@ -159,18 +170,21 @@ std::string formatGeneral(double value, const NumberFormat& format)
 
 std::string formatNumber(double value, const NumberFormat& format)
 {
-    if (value == 0)
+    if (value == 0) {
         value = 0;  // a negative zero has no sign
-    if (format.kind == 'g')
+    }
+    if (format.kind == 'g') {
         return formatGeneral(value, format);
+    }
     Buffer buffer;
     StackText number;
     appendShaped(number,
                  format.kind == 'f' ? numbertext::fixed(value, format.decimals, buffer)
                                     : numbertext::scientific(value, format.decimals, buffer),
                  format, format.kind == 'f');
-    if (!format.isZeroFilled)
+    if (!format.isZeroFilled) {
         return number.trimmed();
+    }
     std::string_view digits = number.view();
     StackText filled;
     if (digits.starts_with('-')) {
@@ -198,8 +212,9 @@ struct Moment
 std::optional<Moment> momentOfDay(std::int64_t day)
 {
     const auto date = civil::dateFromDays(day);
-    if (!date || date->year < firstYear || date->year > lastYear)
+    if (!date || date->year < firstYear || date->year > lastYear) {
         return std::nullopt;
+    }
     return Moment{*date, day, 0, {}};
 }
 
@@ -218,22 +233,26 @@ std::optional<Moment> momentOfMilliseconds(std::int64_t milliseconds)
 std::optional<Moment> momentOfPeriod(std::int64_t period, int periodsPerYear)
 {
     constexpr std::int64_t beyondCalendar = 1'000'000;
-    if (period <= -beyondCalendar || period >= beyondCalendar)
+    if (period <= -beyondCalendar || period >= beyondCalendar) {
         return std::nullopt;
+    }
     const int year = static_cast<int>(1960 + civil::floorDivide(period, periodsPerYear));
-    if (year < firstYear || year > lastYear)
+    if (year < firstYear || year > lastYear) {
         return std::nullopt;
+    }
     const int index = static_cast<int>(civil::floorModulo(period, periodsPerYear));
-    if (periodsPerYear == 52)
+    if (periodsPerYear == 52) {
         return momentOfDay(civil::daysFromDate({year, 1, 1}) + std::int64_t{7} * index);
+    }
     return momentOfDay(civil::daysFromDate({year, index * (12 / periodsPerYear) + 1, 1}));
 }
 
 std::optional<Moment> momentOf(double value, char unit)
 {
     const auto count = civil::floorToInteger(value);
-    if (!count)
+    if (!count) {
         return std::nullopt;
+    }
     switch (unit) {
     case 'c':
     case 'C':
@@ -469,8 +488,9 @@ bool appendDetail(StackText& text, std::string_view detail, const Moment& moment
                 return detail.front() == candidate.code.front()
                     && detail.starts_with(candidate.code);
             });
-        if (code == codes.end())
+        if (code == codes.end()) {
             return false;
+        }
         appendPart(text, *code, moment);
         detail.remove_prefix(code->code.size());
     }
@@ -481,16 +501,19 @@ bool appendDetail(StackText& text, std::string_view detail, const Moment& moment
 std::optional<std::string> formatDate(double value, std::string_view format)
 {
     constexpr std::string_view units = "cCdwmqhy";
-    if (format.empty() || units.find(format.front()) == std::string_view::npos)
+    if (format.empty() || units.find(format.front()) == std::string_view::npos) {
         return std::nullopt;
+    }
     const char unit = format.front();
     const auto moment = momentOf(value, unit);
-    if (!moment)
+    if (!moment) {
         return std::nullopt;
+    }
     StackText text;
     const std::string_view detail = format.substr(1);
-    if (!appendDetail(text, detail.empty() ? defaultDetail(unit) : detail, *moment))
+    if (!appendDetail(text, detail.empty() ? defaultDetail(unit) : detail, *moment)) {
         return std::nullopt;
+    }
     return text.trimmed();
 }
 
@@ -498,18 +521,23 @@ std::optional<std::string> formatDate(double value, std::string_view format)
 
 std::string formatNumeric(double value, std::string_view format)
 {
-    if (std::isnan(value))
+    if (std::isnan(value)) {
         return ".";
-    if (std::isinf(value) || !format.starts_with('%') || format.size() > longestFormat)
+    }
+    if (std::isinf(value) || !format.starts_with('%') || format.size() > longestFormat) {
         return numbertext::shortest(value);
+    }
     format.remove_prefix(1);
-    if (format.starts_with('-') || format.starts_with('~'))
+    if (format.starts_with('-') || format.starts_with('~')) {
         format.remove_prefix(1);
+    }
     if (format.starts_with('t') || format.starts_with('d')) {
-        if (format.front() == 't')
+        if (format.front() == 't') {
             format.remove_prefix(1);
-        if (auto date = formatDate(value, format))
+        }
+        if (auto date = formatDate(value, format)) {
             return *std::move(date);
+        }
         return numbertext::shortest(value);
     }
     const auto number = parseNumberFormat(format);
