@@ -159,22 +159,6 @@ TEST(Frequencies, areThoseOfAnOrderedMapForManyValuesToo)
     expectAsDefined(*dataset, {2, 0, 1, 3, 4, 6, 5});
 }
 
-TEST(Frequencies, countRowsOrSubjectsByTheFirstVariableAndThenTheSecond)
-{
-    ScriptedDataset dataset;
-    dataset.variable("USUBJID", TypeCode::Character)
-        .variable("AETERM", TypeCode::Character)
-        .variable("AESEV", TypeCode::Double);
-    dataset.row({"02", "RASH", 10.0}).row({"01", "RASH", 10.0}).row({"02", "RASH", 9.0});
-    dataset.row({"01", "RASH", 10.0}).row({"03", "COUGH", missing}).row({"03 ", "COUGH", -missing});
-
-    EXPECT_EQ(plain(dataset, {1, 2}), (Lines{"\"COUGH\",*:2", "\"RASH\",9:1", "\"RASH\",10:3"}));
-    EXPECT_EQ(plain(dataset, {2, 1}), (Lines{"*,\"COUGH\":2", "9,\"RASH\":1", "10,\"RASH\":3"}));
-    EXPECT_EQ(distinct(dataset, {1, 2}),
-              (Lines{"\"COUGH\",nan:2", "\"RASH\",9:1", "\"RASH\",10:2"}));
-    EXPECT_EQ(distinct(dataset, {}), Lines{":4"}) << "one combination of nothing";
-}
-
 TEST(Frequencies, takeNullTextsForEmptyOnes)
 {
     InMemoryDatasetBuilder builder;
@@ -210,24 +194,6 @@ TEST(Frequencies, findTheSubjectVariableInAnyCaseOfAsciiLetters)
     for (const char* other : {"ID\xC3\x84", "UZUBJI", "ZUBJID", ""}) {
         EXPECT_EQ(distinct(dataset, {0}, other), Lines{"*:3"}) << "rows without " << other;
     }
-}
-
-TEST(Frequencies, haveNothingToCountWithoutValues)
-{
-    class : public StatDataset
-    {
-    public:
-        void open()
-        {
-            setValuesWanted(false);
-            resizeVariables(1);
-            m_observationCount = 7;
-            resizeBits();
-        }
-    } metadata;
-    metadata.open();
-
-    EXPECT_EQ(plain(metadata, {0}), Lines{});
 }
 
 TEST(Frequencies, showValuesByTheFormatOfTheirVariable)

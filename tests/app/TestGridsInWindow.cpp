@@ -1,7 +1,6 @@
 #include "tests/support/WindowFixture.h"
 
 #include <QHelpEvent>
-#include <QStatusBar>
 #include <QToolTip>
 
 /// How grids, boxes, programs and status bar of a main window work together.
@@ -16,7 +15,6 @@ private slots:
     void libraryFilterIsReadTheSameWithoutADataset();
     void dataFilterReplacesTheDatasetFilter();
     void programRunsOnTheActiveGrid();
-    void keysShowStatisticsAndTellWhatTheyCannotDo();
     void longFiltersLeaveTheWindowItsSize();
 
 private:
@@ -136,24 +134,6 @@ void TestGridsInWindow::programRunsOnTheActiveGrid()
     QCOMPARE(status().at(1), "Vars: 2/2");
     QCOMPARE(notes().size(), 1);
     (void)log->take();
-}
-
-void TestGridsInWindow::keysShowStatisticsAndTellWhatTheyCannotDo()
-{
-    open("dm");
-    QTest::keyClick(&view(), Qt::Key_L);
-    QTest::keyClick(&view(), Qt::Key_L);
-    QVERIFY(notes().join('\n').endsWith("Please clear library filter first.|where SEX = \"F\""));
-    QTest::keyClick(&view(), Qt::Key_S);
-    QCOMPARE(notes(),
-             QStringList("inform|Descriptive Statistics|Please select at least one column."));
-    QVERIFY(dock("Desc")->isHidden());
-    view().selectColumn(1);
-    QTest::keyClick(&view(), Qt::Key_S);
-    QVERIFY(dock("Desc")->widget()->isVisibleTo(window.get()));
-    submitDf("drop AGE");
-    view().cmdGotoVariable(1);
-    QCOMPARE(window->statusBar()->currentMessage(), "The variable AGE is hidden.");
 }
 
 void TestGridsInWindow::longFiltersLeaveTheWindowItsSize()

@@ -6,8 +6,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyle>
-#include <QStyleOption>
 #include <QTableWidget>
 #include <QTest>
 #include <QToolButton>
@@ -25,12 +23,9 @@ class TestLook : public QObject
 private slots:
     void cleanup() { theme::apply(false); }
     void textsAreReadableOnTheirGrounds();
-    void looksComeAndGo();
     void focusIsSeen();
     void currentCellIsSeenWithinASelection();
-    void fieldsAndGridLinesAreSeenInTheDark();
     void iconsStandOutInBothLooks();
-    void iconIsDrawnForTheScreen();
 };
 
 namespace {
@@ -111,22 +106,6 @@ void TestLook::textsAreReadableOnTheirGrounds()
     }
 }
 
-void TestLook::looksComeAndGo()
-{
-    const QIcon icon = icons::icon("open");
-    theme::apply(false);
-    const QImage light = imageOf(icon);
-    theme::apply(true);
-    QVERIFY(qApp->styleSheet().startsWith("QToolTip { color: white; background-color: #333;"));
-    QVERIFY(theme::isDark(QApplication::palette()));
-    QVERIFY(imageOf(icon) != light);
-    theme::apply(false);
-    QCOMPARE(qApp->styleSheet(), QString());
-    QCOMPARE(QApplication::style()->objectName(), "fusion");
-    QCOMPARE(QApplication::palette().color(QPalette::Base), QColor(Qt::white));
-    QCOMPARE(imageOf(icon), light);
-}
-
 void TestLook::focusIsSeen()
 {
     for (const bool dark : {false, true}) {
@@ -175,23 +154,6 @@ void TestLook::currentCellIsSeenWithinASelection()
     }
 }
 
-void TestLook::fieldsAndGridLinesAreSeenInTheDark()
-{
-    theme::apply(true);
-    const QPalette palette = QApplication::palette();
-    QVERIFY(contrast(theme::frameColour(palette), palette.color(QPalette::Window)) >= 2.5);
-    QLineEdit edit;
-    edit.resize(100, 24);
-    QVERIFY(pixelsLike(edit.grab().toImage(), theme::frameColour(palette)) > 100);
-
-    QTableWidget table(2, 2);
-    QStyleOption option;
-    option.initFrom(&table);
-    const QColor line = QColor::fromRgba(static_cast<QRgb>(
-        table.style()->styleHint(QStyle::SH_Table_GridLineColor, &option, &table)));
-    QVERIFY(luminance(line) > luminance(palette.color(QPalette::AlternateBase)));
-}
-
 void TestLook::iconsStandOutInBothLooks()
 {
     QVERIFY(icons::names().size() > 30);
@@ -214,21 +176,6 @@ void TestLook::iconsStandOutInBothLooks()
             QVERIFY(countPixels(disabled, [](const QColor& p) { return p.alpha() > 200; }) > 60);
         }
     }
-}
-
-void TestLook::iconIsDrawnForTheScreen()
-{
-    for (const auto& [size, ratio] : {std::pair(16, 2.0), std::pair(24, 1.5), std::pair(96, 1.0)}) {
-        const QPixmap pixmap = icons::icon("layout1").pixmap(QSize(size, size), ratio);
-        QCOMPARE(pixmap.size(), QSize(size, size) * ratio);
-        QCOMPARE(pixmap.devicePixelRatio(), ratio);
-        // Drawn at that size rather than stretched, an outline of 1.75 in 24 stays that wide.
-        const int side = pixmap.width();
-        const int opaque = countPixels(pixmap.toImage().copy(0, side * 2 / 3, side / 4, 1),
-                                       [](const QColor& p) { return p.alpha() > 128; });
-        QVERIFY(opaque >= 1.75 * side / 24);
-    }
-    QVERIFY(icons::application().availableSizes().contains(QSize(256, 256)));
 }
 
 QTEST_MAIN(TestLook)

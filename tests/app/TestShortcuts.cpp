@@ -1,9 +1,7 @@
-#include "app/docks/ShortcutKeysWindow.h"
 #include "app/docks/ShortcutList.h"
 #include "app/window/MainActions.h"
 
 #include <QAction>
-#include <QLineEdit>
 #include <QTest>
 
 /// The list of shortcut keys against the keys that act.
@@ -13,7 +11,6 @@ class TestShortcuts : public QObject
 
 private slots:
     void everyListedKeyActs();
-    void windowListsAllAndCannotBeEdited();
 };
 
 void TestShortcuts::everyListedKeyActs()
@@ -43,22 +40,6 @@ void TestShortcuts::everyListedKeyActs()
         found += shortcut.action == "Increase the Font Size" && shortcut.keys == "Ctrl++" ? 1 : 0;
     }
     QCOMPARE(found, 6);  // those of the filters stand in two windows
-}
-
-void TestShortcuts::windowListsAllAndCannotBeEdited()
-{
-    ShortcutKeysWindow window;
-    window.show();
-    qsizetype rows = 0;
-    for (int top = 0; top < window.topLevelItemCount(); ++top) {
-        QVERIFY(window.topLevelItem(top)->isExpanded());
-        rows += window.topLevelItem(top)->childCount();
-    }
-    QCOMPARE(rows, 47);
-    window.setCurrentItem(window.topLevelItem(2)->child(10));
-    QCOMPARE(window.currentItem()->text(0), "Dataset Filter, Undo");  // last, unlike in the grid's
-    QTest::keyClick(&window, Qt::Key_F2);
-    QVERIFY(window.findChildren<QLineEdit*>().isEmpty());
 }
 
 QTEST_MAIN(TestShortcuts)

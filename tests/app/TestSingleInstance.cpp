@@ -4,7 +4,6 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocalSocket>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -49,11 +48,9 @@ private slots:
     void init();
     void cleanup();
     void pathsThatExistAreHandedOver();
-    void eachChunkIsOnePath();
     void filesHandedOverEarlyAreServedLater();
     void newerInstanceTakesTheNameOverAndKeepsIt();
     void staleSocketIsReplacedByOneForTheUserAlone();
-    void nameThatCannotBeTakenIsAFailure();
     void nothingIsHandedToAnotherUser();
     void nameHeldByAnotherUserIsAvoided();
     void privateSocketIsFoundAfterTheNameIsFree();
@@ -127,21 +124,6 @@ void TestSingleInstance::pathsThatExistAreHandedOver()
     }
 }
 
-void TestSingleInstance::eachChunkIsOnePath()
-{
-    Listener running(channel());
-    running.serve();
-    QLocalSocket socket;
-    socket.connectToServer("channel");
-    QVERIFY(socket.waitForConnected());
-    QStringList files;
-    for (const QString name : {"a.xpt", "b.xpt"}) {
-        files << write(name);
-        socket.write(files.last().toUtf8());
-        QTRY_COMPARE(running.files(), files);
-    }
-}
-
 void TestSingleInstance::filesHandedOverEarlyAreServedLater()
 {
     Listener running(channel());
@@ -198,14 +180,6 @@ void TestSingleInstance::staleSocketIsReplacedByOneForTheUserAlone()
         QCOMPARE(QFile::permissions(socket) & others, QFile::Permissions());
     }
     QVERIFY(!QFileInfo::exists(socket));
-}
-
-void TestSingleInstance::nameThatCannotBeTakenIsAFailure()
-{
-    QVERIFY(QDir(m_folder->path()).mkpath("channel/in/use"));
-    SingleInstance running(channel());
-    QVERIFY(!running.listen());
-    QVERIFY(!running.errorString().isEmpty());
 }
 
 void TestSingleInstance::nothingIsHandedToAnotherUser()

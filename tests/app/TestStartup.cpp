@@ -1,4 +1,3 @@
-#include "app/look/Icons.h"
 #include "app/start/Startup.h"
 #include "app/start/WindowsCheck.h"
 #include "data/Version.h"
@@ -7,8 +6,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QGuiApplication>
-#include <QSize>
 
 #include <stdexcept>
 
@@ -42,15 +39,4 @@ TEST(Startup, takesTheFirstArgumentAsAFileAndMakesItAbsolute)
     EXPECT_EQ(startup::fileArgument({"quorlane", ""}), QString());
     EXPECT_EQ(startup::fileArgument({"quorlane", "ae.xpt", "dm.xpt"}), here + "/ae.xpt");
     EXPECT_EQ(startup::fileArgument({"quorlane", "/data/ae.xpt"}), QString("/data/ae.xpt"));
-}
-
-TEST(Startup, hasAnIconForSmallAndLargePlaces)
-{
-    int count = 1;
-    char name[] = "test";
-    char* arguments[] = {name, nullptr};
-    const QGuiApplication application(count, arguments);
-    const QList<QSize> sizes = icons::application().availableSizes();
-    EXPECT_TRUE(sizes.contains(QSize(16, 16)));
-    EXPECT_TRUE(sizes.contains(QSize(256, 256)));
 }

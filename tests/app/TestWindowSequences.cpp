@@ -119,7 +119,7 @@ void TestWindowSequences::findFiles()
     while (walk.hasNext()) {
         walk.next();
         if (walk.fileInfo().size() < largest) {
-            m_files << walk.filePath();
+            m_files << QDir::cleanPath(walk.filePath());
         }
     }
     m_files.sort();

@@ -30,11 +30,3 @@ TEST(CivilTime, OnlyNumbersInRangeBecomeIntegers)
     EXPECT_FALSE(civil::floorToInteger(1e18));
     EXPECT_FALSE(civil::floorToInteger(std::nan("")));
 }
-
-TEST(CivilTime, NamesAreEmptyOutsideTheirRange)
-{
-    EXPECT_EQ(civil::monthName(0), "");
-    EXPECT_EQ(civil::monthAbbreviation(13), "");
-    EXPECT_EQ(civil::weekdayName(-1), "");
-    EXPECT_EQ(civil::weekdayAbbreviation(7), "");
-}

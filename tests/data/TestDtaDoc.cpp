@@ -1,6 +1,5 @@
 #include "tests/data/ReaderTest.h"
 
-#include <array>
 #include <bit>
 #include <cmath>
 
@@ -13,7 +12,16 @@ constexpr unsigned int32 = 65528;
 constexpr unsigned int16 = 65529;
 constexpr unsigned int8 = 65530;
 
-/// Writes a release 119 file, in either byte order.
+/// A variable, with the width of its cells in bytes and what they hold.
+struct Variable
+{
+    unsigned type;
+    std::string format;
+    std::size_t width;
+    std::vector<std::uint64_t> cells;
+};
+
+/// Writes release 119 files, in either byte order.
 class DtaFile
 {
 public:
@@ -21,52 +29,61 @@ public:
         : m_littleEndian(littleEndian)
     { }
 
-    /// A variable, with the width of its cells in bytes and what they hold.
-    struct Variable
+    [[nodiscard]] std::string bytes(const std::vector<Variable>& variables,
+                                    const std::vector<std::string>& texts = {}) const
     {
-        unsigned type;
-        std::string format;
-        std::size_t width;
-        std::vector<std::uint64_t> cells;
-    };
-
-    std::string bytes(const std::vector<Variable>& variables,
-                      const std::vector<std::string>& texts = {})
-    {
-        m_bytes = "<stata_dta><header><release>119</release><byteorder>";
-        m_bytes += std::string(m_littleEndian ? "LSF" : "MSF") + "</byteorder><K>";
-        number(variables.size(), 4);
-        m_bytes += "</K><N>";
-        number(variables[0].cells.size(), 8);
-        m_bytes += "</N><label>";
-        number(0, 2);
-        m_bytes += "</label><timestamp>";
-        m_bytes += '\0';
-        m_bytes += "</timestamp></header>";
-        mark(1);
-        m_bytes += "<map>";
-        m_map = m_bytes.size();
-        m_bytes += std::string(14 * 8, '\0') + "</map>";
-        describe(variables);
-        section(9, "<data>");
-        for (std::size_t row = 0; row < variables[0].cells.size(); ++row) {
+        const auto section = [&](const std::string& name, const auto& of) {
+            std::string all = '<' + name + '>';
             for (const Variable& variable : variables) {
-                number(variable.cells[row], variable.width);
+                all += of(variable);
+            }
+            return all + "</" + name + '>';
+        };
+        const auto nothing = [](std::size_t size) {
+            return [size](const Variable&) { return std::string(size, '\0'); };
+        };
+        const auto number = [this](auto value, std::size_t size) {
+            return this->number(value, size);
+        };
+        const std::size_t rows = variables[0].cells.size();
+        std::string data;
+        for (std::size_t row = 0; row < rows; ++row) {
+            for (const Variable& variable : variables) {
+                data += number(variable.cells[row], variable.width);
             }
         }
-        m_bytes += "</data>";
-        section(10, "<strls>");
+        std::string longTexts;
         for (std::size_t i = 0; i < texts.size(); ++i) {
-            addLongString(i + 1, texts[i]);
+            longTexts += "GSO" + number(1, 4) + number(i + 1, 8) + '\x82'
+                + number(texts[i].size() + 1, 4) + texts[i] + '\0';
         }
-        m_bytes += "</strls>";
-        section(11, "<value_labels></value_labels>");
-        section(12, "</stata_dta>");
-        mark(13);
-        for (std::size_t i = 0; i < m_offsets.size(); ++i) {
-            put(m_map + 8 * i, m_offsets[i], 8);
+        // In the order of the map.
+        const std::string parts[] = {
+            "<stata_dta><header><release>119</release><byteorder>"
+                + std::string(m_littleEndian ? "LSF" : "MSF") + "</byteorder><K>"
+                + number(variables.size(), 4) + "</K><N>" + number(rows, 8) + "</N><label>"
+                + number(0, 2) + "</label><timestamp>" + '\0' + "</timestamp></header>",
+            "<map>" + std::string(14 * 8, '\0') + "</map>",
+            section("variable_types", [&](const Variable& one) { return number(one.type, 2); }),
+            section("varnames",
+                    [](const Variable& one) { return field("v" + std::to_string(one.type), 129); }),
+            "<sortlist>" + std::string(4 * (variables.size() + 1), '\0') + "</sortlist>",
+            section("formats", [](const Variable& one) { return field(one.format, 57); }),
+            section("value_label_names", nothing(129)),
+            section("variable_labels", [](const Variable&) { return field("A label", 321); }),
+            section("characteristics", nothing(0)),
+            "<data>" + data + "</data>",
+            "<strls>" + longTexts + "</strls>",
+            "<value_labels></value_labels>",
+            "</stata_dta>",
+        };
+        std::string all;
+        std::string map = number(0, 8);
+        for (const std::string& part : parts) {
+            all += part;
+            map += number(all.size(), 8);
         }
-        return m_bytes;
+        return all.replace(parts[0].size() + 5, map.size(), map);
     }
 
     /// What a cell holds that refers to the long string (1, observation); 0 refers to none.
@@ -78,75 +95,21 @@ public:
     }
 
 private:
-    void mark(std::size_t entry) { m_offsets[entry] = m_bytes.size(); }
-    void section(std::size_t entry, const std::string& tag)
+    [[nodiscard]] std::string number(std::uint64_t value, std::size_t size) const
     {
-        mark(entry);
-        m_bytes += tag;
-    }
-    void put(std::size_t at, std::uint64_t value, std::size_t size)
-    {
+        std::string bytes(size, '\0');
         for (std::size_t i = 0; i < size; ++i) {
-            const std::size_t shift = 8 * (m_littleEndian ? i : size - 1 - i);
-            m_bytes.at(at + i) = static_cast<char>(value >> shift);
+            bytes[m_littleEndian ? i : size - 1 - i] = static_cast<char>(value >> 8 * i);
         }
+        return bytes;
     }
-    void number(std::uint64_t value, std::size_t size)
+    static std::string field(std::string text, std::size_t size)
     {
-        m_bytes += std::string(size, '\0');
-        put(m_bytes.size() - size, value, size);
-    }
-    void field(const std::string& text, std::size_t size)
-    {
-        m_bytes += text + std::string(size - text.size(), '\0');
-    }
-    template <typename Add>
-    void sectionOf(std::size_t entry, const std::string& name, Add add)
-    {
-        section(entry, '<' + name + '>');
-        add();
-        m_bytes += "</" + name + '>';
-    }
-    void describe(const std::vector<Variable>& variables)
-    {
-        const auto fields = [&](std::size_t size, auto textOf) {
-            return [&variables, this, size, textOf] {
-                for (const Variable& variable : variables) {
-                    field(textOf(variable), size);
-                }
-            };
-        };
-        const auto nothing = [](const Variable&) { return std::string(); };
-        sectionOf(2, "variable_types", [&] {
-            for (const Variable& variable : variables) {
-                number(variable.type, 2);
-            }
-        });
-        sectionOf(3, "varnames", fields(129, [](const Variable& variable) {
-                      return "v" + std::to_string(variable.type);
-                  }));
-        sectionOf(4, "sortlist", [&] { field("", 4 * (variables.size() + 1)); });
-        sectionOf(5, "formats",
-                  fields(57, [](const Variable& variable) { return variable.format; }));
-        sectionOf(6, "value_label_names", fields(129, nothing));
-        sectionOf(7, "variable_labels",
-                  fields(321, [](const Variable&) { return std::string("A label"); }));
-        sectionOf(8, "characteristics", [] {});
-    }
-    void addLongString(std::uint64_t observation, const std::string& text)
-    {
-        m_bytes += "GSO";
-        number(1, 4);
-        number(observation, 8);
-        m_bytes += '\x82';
-        number(text.size() + 1, 4);
-        m_bytes += text + '\0';
+        text.resize(size, '\0');
+        return text;
     }
 
     bool m_littleEndian;
-    std::string m_bytes;
-    std::size_t m_map = 0;
-    std::array<std::uint64_t, 14> m_offsets{};
 };
 
 class DtaDoc : public ReaderTest
@@ -175,7 +138,7 @@ TEST_F(DtaDoc, readsTheLongStringsOfRelease119)
 TEST_F(DtaDoc, showsNarrowNumbersByTheirFormats)
 {
     // The largest and smallest number of each type, "." and ".c".
-    const std::vector<DtaFile::Variable> variables{
+    const std::vector<Variable> variables{
         {int8, "%8.0g", 1, {100, 0x81, 101, 104}},
         {int16, "%8.0g", 2, {32740, 0x8001, 32741, 32744}},
         {int32, "%td", 4, {21915, 0xFFFFFFFF, 2147483621, 2147483624}},

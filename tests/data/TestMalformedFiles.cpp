@@ -284,17 +284,4 @@ TEST_F(MalformedFiles, whatIsNoFileIsRefused)
     }
 }
 
-TEST_F(MalformedFiles, aFileThatMayNotBeReadIsRefused)
-{
-    if (geteuid() == 0) {
-        GTEST_SKIP() << "may read everything";
-    }
-    for (const char* const name : {"a.sas7bdat", "a.xpt", "a.sav", "a.dta"}) {
-        SCOPED_TRACE(name);
-        static_cast<void>(written(name, people()));
-        std::filesystem::permissions(m_folder.file(name), std::filesystem::perms::none);
-        expectRefused(path(name), name, "");
-    }
-}
-
 }  // namespace

@@ -53,27 +53,4 @@ TEST(CompiledCondition, findsNamesInAnyLetterCase)
     EXPECT_EQ(selected(dataset, "AGE = 4"), Rows{1}) << "else the first";
 }
 
-// More distinct texts than answers are remembered for, asked again once they are.
-TEST(CompiledCondition, givesTheSameAnswerAgainForHundredThousandsOfTexts)
-{
-    constexpr int rows = 200'003;
-    const auto few = [](int row) { return "T" + std::to_string(row * 7919 % 9973); };
-    const auto unique = [](int row) { return "ID-" + std::to_string(row); };
-    ScriptedDataset dataset;
-    dataset.variable("FEW", TypeCode::Character)
-        .variable("UNIQUE", TypeCode::Character)
-        .rows(rows, [&](int row, int column) -> ScriptedDataset::Value {
-            return column == 0 ? few(row) : unique(row);
-        });
-    Rows wanted;
-    for (int row = 0; row < rows; ++row) {
-        if (unique(row).find("77") != std::string::npos || few(row) < "T2") {
-            wanted.push_back(row + 1);
-        }
-    }
-    const CompiledCondition condition(u"UNIQUE contains '77' or FEW < 'T2'", dataset);
-    EXPECT_EQ(selected(condition), wanted);
-    EXPECT_EQ(selected(condition), wanted);
-}
-
 }  // namespace

@@ -57,22 +57,6 @@ Table mixedTable(int rowCount)
     return table;
 }
 
-/// More columns than rows, so that most of the file is description.
-Table wideTable()
-{
-    Table table{{"WIDE", "Many columns", {}}, {}};
-    Row row;
-    for (int column = 0; column < 40; ++column) {
-        const std::string name = "V" + std::to_string(column);
-        const bool character = column % 3 == 0;
-        table.columns.push_back(character ? textColumn(name, "Text " + name, 1 + column)
-                                          : numberColumn(name, "Number " + name, "BEST", 12));
-        row.push_back(character ? Cell("t") : Cell(column * 1.5));
-    }
-    table.rows.assign(3, row);
-    return table;
-}
-
 struct Deleter
 {
     void operator()(readstat_writer_t* writer) const noexcept { readstat_writer_free(writer); }
@@ -129,7 +113,6 @@ void writeSeeds(const Path& folder)
 {
     for (const Target& target : targets) {
         writeTable(folder / (std::string("mixed-") + target.name), mixedTable(12), target.options);
-        writeTable(folder / (std::string("wide-") + target.name), wideTable(), target.options);
         writeTable(folder / (std::string("empty-") + target.name), mixedTable(0), target.options);
     }
     Table longNames = mixedTable(2);
@@ -138,7 +121,7 @@ void writeSeeds(const Path& folder)
     writeTable(folder / "long.xpt", longNames, {.release = 8});
     for (const int release : {5, 8}) {
         writeTransport(folder / ("members-" + std::to_string(release) + ".xpt"),
-                       std::vector<Table>{mixedTable(3), wideTable(), mixedTable(2)},
+                       std::vector<Table>{mixedTable(3), mixedTable(0), mixedTable(2)},
                        {.release = release});
     }
     writeLabelled(folder / "labels.sav", 2, READSTAT_COMPRESS_NONE);

@@ -21,7 +21,6 @@ private slots:
     void byListIsClearedAndTakesKnownNamesOnly();
     void frequencyOfSeveralVariablesComesInScreenOrder();
     void statisticsStayUntilOthersAreMade();
-    void libraryFilterHoldsForGridsOpenedLater();
     void waitCursorIsShownWhileRowsAreSelected();
 
 private:
@@ -191,17 +190,6 @@ void TestGridCommands::statisticsStayUntilOthersAreMade()
     const auto* table = docks.at(1).at(0).value<QTableWidget*>();
     QCOMPARE(table->horizontalHeaderItem(0)->text(), "AGE");
     QCOMPARE(table->item(1, 1)->text(), "49.6667");
-}
-
-void TestGridCommands::libraryFilterHoldsForGridsOpenedLater()
-{
-    view().cmdRunCommand("where SEX = 'M'");
-    ScriptedDataset other;
-    other.variable("SEX", TypeCode::Character).row({"F"}).row({"M"});
-    const auto second = m_grid->open(other);
-    QCOMPARE(GridFixture::shown(*second), "2");
-    second->run(GridCommand::ClearLibraryFilter);
-    QCOMPARE(m_grid->shown(), "1 2 3 4 5 6");
 }
 
 void TestGridCommands::waitCursorIsShownWhileRowsAreSelected()

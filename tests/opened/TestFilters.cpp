@@ -159,22 +159,6 @@ TEST_F(Filters, libraryFilterIsOneForAllDatasets)
     EXPECT_EQ(m_opened->selectedCount(), 300U);
 }
 
-TEST_F(Filters, libraryFilterReadsTheSameLanguageWithoutADataset)
-{
-    const auto message = [this](const char* command) {
-        const CommandOutcome failure = m_shared.libraryFilter.run(QString::fromUtf8(command));
-        return failure ? failure->message.toStdString() : "";
-    };
-    EXPECT_EQ(message("where a > -1"), "unknown character in input");
-    EXPECT_EQ(m_shared.libraryFilter.text(), QString());
-    EXPECT_NE(message("if a > 1"), "");
-    EXPECT_EQ(message("where a > 1"), "");
-    EXPECT_EQ(m_shared.libraryFilter.text(), u"where a > 1"_s);
-    EXPECT_NE(message("where b > 1"), "") << "one level";
-    EXPECT_EQ(message("clf x"), "unexpected trailing text");
-    EXPECT_EQ(m_shared.libraryFilter.text(), QString());
-}
-
 TEST_F(Filters, areMadeFromValues)
 {
     EXPECT_FALSE(m_opened->filterByCell(0, CompareOp::Greater, 8));

@@ -101,21 +101,4 @@ TEST(Study, rowsHaveUniqueKeysOfSubjectsInDemographics)
     EXPECT_EQ(keys("ADAE", event), keys("AE", event));
 }
 
-// A qualifier of two identifying variables is what a join has to put together again.
-TEST(Study, supplementalRowsPointToTheirEventsByNumberOrByText)
-{
-    const auto numbers = keys("AE", {"USUBJID", "AESEQ"});
-    const auto texts = keys("AE", {"USUBJID", "AESPID"});
-    std::set<std::string> used;
-    for (const auto& row : keys("SUPPAE", {"IDVAR", "QNAM", "USUBJID", "IDVARVAL"})) {
-        const bool byNumber = row.starts_with("AESEQ|");
-        const auto subject = row.find("QLN-101-");
-        used.insert(row.substr(0, subject));
-        EXPECT_TRUE((byNumber ? numbers : texts).contains(row.substr(subject))) << row;
-    }
-    EXPECT_EQ(used,
-              std::set<std::string>(
-                  {"AESEQ|AECOMM|", "AESEQ|AETRTEM|", "AESPID|AECOMM|", "AESPID|AECRFPG|"}));
-}
-
 }  // namespace

@@ -100,59 +100,6 @@ TEST(TableWriter, everyKindOfFileKeepsTheTableAndIsAsAskedFor)
     }
 }
 
-TEST(TableWriter, theSameTableGivesTheSameBytesInEveryTimeZone)
-{
-    const TemporaryFolder folder;
-    const auto write = [&](const Target& target, const char* zone) {
-        setenv("TZ", zone, 1);
-        tzset();
-        writeTable(folder.file(target.file), smallTable(), target.options);
-        return bytesOf(folder.file(target.file));
-    };
-    for (const auto& target : targets) {
-        EXPECT_EQ(write(target, "UTC"), write(target, "JST-9")) << target.file;
-    }
-    setenv("TZ", "UTC", 1);
-    tzset();
-}
-
-TEST(TableWriter, transportMembersFollowEachOther)
-{
-    const TemporaryFolder folder;
-    const auto path = folder.file("two.xpt");
-    for (const int release : {5, 8}) {
-        std::vector<Table> tables{smallTable(), smallTable()};
-        tables[1].name = "OTHER";
-        tables[1].rows.erase(tables[1].rows.begin());
-        writeTransport(path, tables, {.release = release});
-        const auto opened = openDataset(QString::fromStdString(path.string()));
-        ASSERT_TRUE(opened.ok()) << opened.error();
-        EXPECT_EQ(opened.value().members, Texts({"SMALL", "OTHER"}));
-        EXPECT_EQ(opened.value().dataset->observationCount(), 3);
-        const auto second = readBack(path, "OTHER");
-        EXPECT_EQ(second->observationCount(), 2);
-        EXPECT_EQ(second->cellText(1, 0), "O'Neil \"x\"");
-        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
-    }
-}
-
-// Rows of 8 bytes: without their number the last one would be taken for the padding of a record.
-TEST(TableWriter, version8CountsItsRowsAndKeepsLongNamesAndLabels)
-{
-    const TemporaryFolder folder;
-    const std::string label = "A label that is longer than the forty bytes of version 5";
-    const Table table{{"LONG", "", {textColumn("NAME_OF_THE_PERSON", label, 8)}}, {{"x"}, {""}}};
-    writeTable(folder.file("long.xpt"), table, {.release = 8});
-    const auto read = readBack(folder.file("long.xpt"));
-    EXPECT_EQ(read->names(), Texts({"NAME_OF_THE_PERSON"}));
-    EXPECT_EQ(read->labels(), Texts({label}));
-    EXPECT_EQ(read->observationCount(), 2);
-    const auto bytes = bytesOf(folder.file("long.xpt"));
-    const auto header = bytes.find("HEADER RECORD*******OBSV8   ");
-    ASSERT_NE(header, std::string::npos);
-    EXPECT_EQ(bytes.substr(header + 48, 32), "              2" + std::string(17, ' '));
-}
-
 TEST(TableWriter, failuresNameTheFileAndLeaveNone)
 {
     struct Case

@@ -119,43 +119,4 @@ TEST(Translations, areCompleteAndKeepWhatIsNoLanguage)
                                   << faults.join('\n').toStdString();
 }
 
-TEST(Translations, thatLackATextAreFound)
-{
-    const QTemporaryDir folder;
-    QFile file(folder.filePath("quorlane_de_DE.ts"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(
-        R"(<?xml version="1.0" encoding="utf-8"?><!DOCTYPE TS><TS version="2.1" language="de">
-        <context><name>MainMenus</name><message><source>&amp;File</source>
-        <translation>&amp;Datei</translation></message></context></TS>)");
-    file.close();
-    const QStringList faults = faultsIn(folder.path());
-    EXPECT_TRUE(faults.contains("quorlane_de_DE.ts: \"&Edit\" is unfinished"));
-    EXPECT_FALSE(faults.join(' ').contains("\"&File\""));
-}
-
-TEST(Translations, faultsAreFound)
-{
-    const std::pair<Text, const char*> table[]{
-        {{"Open", "", {"Auf"}}, ""},
-        {{"Open", "vanished", {" "}}, "is vanished, is empty"},
-        {{"%1 of %2", "", {"%2: %1"}}, ""},
-        {{"%1 of %2", "", {"%1 von"}}, "has other placeholders"},
-        {{"Row", "", {"Zeile %L1"}}, "has other placeholders"},
-        {{"Hide\tAlt+H", "", {"Aus\tAlt+H"}}, ""},
-        {{"Hide\tH", "", {"Aus H"}}, "shows other keys"},
-        {{"A (*.a *.b);; C (*.c)", "", {"X (*.a *.b);; Y (*.c)"}}, ""},
-        {{"A (*.a);; C (*.c)", "", {"X (*.a) Y (*.c)"}}, "selects other files"},
-        {{"%n rows", "", {"eine Zeile", "%n Zeilen"}}, ""},
-        {{"%n rows", "", {"", "Zeilen"}}, "is empty, does not tell the number"},
-    };
-    for (const auto& [text, faults] : table) {
-        EXPECT_EQ(faultsOf(text).join(", ").toStdString(), faults) << text.source.toStdString();
-    }
-    const auto plural = read("<message numerus=\"yes\"><source>%n rows</source><translation>"
-                             "<numerusform>a</numerusform><numerusform>b</numerusform>"
-                             "</translation></message>");
-    EXPECT_EQ(plural.at(0).translations, QStringList({"a", "b"}));
-}
-
 }  // namespace
