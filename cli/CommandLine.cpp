@@ -89,6 +89,7 @@ struct Requests
     RowsRequest rows;
     FreqRequest freq;
     StatsRequest stats;
+    std::string text;  ///< to find
 };
 
 CLI::App* addContents(CLI::App& app, Requests& requests)
@@ -136,6 +137,15 @@ CLI::App* addStats(CLI::App& app, Requests& requests)
     return command;
 }
 
+CLI::App* addFind(CLI::App& app, Requests& requests)
+{
+    CLI::App* command = app.add_subcommand("find", "Lists the cells that show a text");
+    addCommon(*command, requests.common);
+    command->add_option("TEXT", requests.text, "The text, in any letter case")->required();
+    addWhere(*command, requests.where);
+    return command;
+}
+
 }  // namespace
 
 int run(int argc, char** argv)
@@ -149,6 +159,7 @@ int run(int argc, char** argv)
     CLI::App* contents = addContents(app, requests);
     CLI::App* rows = addRows(app, requests);
     CLI::App* freq = addFreq(app, requests);
+    CLI::App* find = addFind(app, requests);
     addStats(app, requests);
     try {
         app.parse(argc, argv);
@@ -158,6 +169,7 @@ int run(int argc, char** argv)
         return runOnRows(common, requests.where, [&](const StatDataset& dataset) {
             return rows->parsed() ? printRows(dataset, requests.rows, format)
                 : freq->parsed()  ? printFrequencies(dataset, requests.freq, format)
+                : find->parsed()  ? printFound(dataset, requests.text, format)
                                   : printStatistics(dataset, requests.stats, format);
         });
     } catch (const CLI::Success& information) {

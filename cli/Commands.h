@@ -52,4 +52,9 @@ struct StatsRequest
 [[nodiscard]] Result<bool> printStatistics(const StatDataset& dataset, const StatsRequest& request,
                                            OutputFormat format);
 
+/// Prints every cell that shows the text, in any letter case: observation, variable and the text of
+/// the cell, in the order of the observations that the filters select.
+[[nodiscard]] Result<bool> printFound(const StatDataset& dataset, const std::string& text,
+                                      OutputFormat format);
+
 }  // namespace cli

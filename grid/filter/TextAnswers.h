@@ -1,16 +1,11 @@
 #pragma once
 
-#include "data/cells/KeyCoder.h"
+#include "grid/filter/RememberedAnswers.h"
 
-#include <cstddef>
-#include <cstdint>
 #include <functional>
-#include <span>
 #include <string_view>
-#include <vector>
 
-/// The answers to a yes-or-no question about the texts of one dataset. It is asked once for each
-/// distinct text, as long as remembering the answers pays.
+/// The answers to a yes-or-no question about the texts of one dataset.
 class TextAnswers
 {
 public:
@@ -21,11 +16,6 @@ public:
     [[nodiscard]] std::uint64_t word(std::span<const std::uint64_t> keys);
 
 private:
-    [[nodiscard]] bool remembersMore() const;
-    [[nodiscard]] bool answer(std::uint64_t key, std::uint32_t code);
-
     std::function<bool(std::string_view)> m_question;
-    KeyCoder m_coder;
-    std::vector<char> m_answers;  ///< one for each code
-    std::size_t m_asked = 0;
+    RememberedAnswers m_answers;
 };
