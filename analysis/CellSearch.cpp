@@ -2,6 +2,7 @@
 
 #include "data/cells/ValueKey.h"
 #include "data/StatDataset.h"
+#include "data/values/Texts.h"
 #include "grid/filter/CellColumn.h"
 
 #include <array>
@@ -17,13 +18,26 @@ std::uint64_t bitsOf(const CellValue& cell)
                              : valuekey::of(cells::record(cell));
 }
 
+/// Of ASCII letters, as all others are QStringMatcher's.
+void makeLettersSmall(std::string& text)
+{
+    for (char& letter : text) {
+        letter = letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    }
+}
+
 }  // namespace
 
 CellSearch::CellSearch(const StatDataset& dataset, const QString& text)
     : m_dataset(dataset)
     , m_matcher(text, Qt::CaseInsensitive)
     , m_answers(static_cast<std::size_t>(dataset.variableCount()))
-{ }
+{
+    if (texts::isAscii(text.toStdString())) {
+        m_asciiText = text.toStdString();
+        makeLettersSmall(m_asciiText);
+    }
+}
 
 std::uint64_t CellSearch::word(int variable, std::span<const std::uint32_t> observations)
 {
@@ -39,7 +53,10 @@ std::uint64_t CellSearch::word(int variable, std::span<const std::uint32_t> obse
 
 bool CellSearch::isShown(int variable, std::uint32_t observation) const
 {
-    return m_matcher.indexIn(
-               QString::fromStdString(m_dataset.cellText(static_cast<int>(observation), variable)))
-        >= 0;
+    std::string shown = m_dataset.cellText(static_cast<int>(observation), variable);
+    if (!m_asciiText.empty() && texts::isAscii(shown)) {
+        makeLettersSmall(shown);
+        return shown.find(m_asciiText) != std::string::npos;
+    }
+    return m_matcher.indexIn(QString::fromStdString(shown)) >= 0;
 }

@@ -6,12 +6,13 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <vector>
 
 class StatDataset;
 
-/// Tells which cells of a dataset show a text, whatever the case of its letters. Each distinct value
-/// of a variable is looked at once, as long as that pays.
+/// Tells which cells of a dataset show a text, whatever the case of its letters. Each distinct
+/// value of a variable is looked at once, as long as that pays.
 class CellSearch
 {
 public:
@@ -27,5 +28,6 @@ private:
 
     const StatDataset& m_dataset;
     QStringMatcher m_matcher;
+    std::string m_asciiText;  ///< in small letters; empty where the text has other characters
     std::vector<RememberedAnswers> m_answers;  ///< one for each variable
 };

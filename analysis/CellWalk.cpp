@@ -25,8 +25,9 @@ std::optional<TableCell> CellWalk::next(std::optional<TableCell> from, Direction
         return search(0, count, direction);
     }
     const Place place = std::clamp<Place>(placeOf(*from), 0, std::max<Place>(count - 1, 0));
-    const auto ahead = isForward ? search(place + 1, count, direction) : search(0, place, direction);
-    return ahead       ? ahead
+    const auto ahead =
+        isForward ? search(place + 1, count, direction) : search(0, place, direction);
+    return ahead    ? ahead
         : isForward ? search(0, std::min(place + 1, count), direction)
                     : search(place, count, direction);
 }
@@ -49,7 +50,8 @@ CellWalk::Block CellWalk::blockAt(Place number) const
 {
     const Place blocksInColumn = (m_rows + blockRows - 1) / blockRows;
     const bool isByRow = m_order == Order::ByRow;
-    const auto firstRow = static_cast<int>((isByRow ? number : number % blocksInColumn) * blockRows);
+    const auto firstRow =
+        static_cast<int>((isByRow ? number : number % blocksInColumn) * blockRows);
     return {firstRow, std::min(blockRows, m_rows - firstRow),
             isByRow ? 0 : static_cast<int>(number / blocksInColumn), isByRow ? m_columns : 1};
 }
@@ -85,8 +87,7 @@ std::optional<TableCell> CellWalk::searchBlock(const Block& block, Place begin, 
     std::vector<std::uint64_t> words(static_cast<std::size_t>(block.columnCount));
     std::uint64_t any = 0;
     for (std::size_t i = 0; i < words.size(); ++i) {
-        words[i] =
-            m_word(block.firstColumn + static_cast<int>(i), block.firstRow, block.rowCount);
+        words[i] = m_word(block.firstColumn + static_cast<int>(i), block.firstRow, block.rowCount);
         any |= words[i];
     }
     const int cells = any == 0 ? 0 : block.rowCount * block.columnCount;

@@ -191,6 +191,20 @@ void MainTableView::cmdGotoVariable(int variable)
     makeCurrent(variable);
 }
 
+void MainTableView::cmdGotoObservation(int observation)
+{
+    const int row = isReady() ? tableModel()->rowOf(observation) : -1;
+    if (row < 0) {
+        return;
+    }
+    if (!rows().isShown(row)) {
+        emit signalMessage(tr("Observation %1 is hidden by a filter.").arg(observation + 1));
+        return;
+    }
+    setCurrentIndex(model()->index(row, std::max(currentVariable(), 0)));
+    scrollTo(currentIndex());
+}
+
 void MainTableView::shiftVariableLeft()
 {
     shiftVariable(-1);

@@ -81,6 +81,8 @@ public slots:
     void cmdGotoVariable();
     /// Goes to a variable's column, unless it is hidden.
     void cmdGotoVariable(int variable);
+    /// Goes to an observation's row, unless a filter hides it.
+    void cmdGotoObservation(int observation);
     void shiftVariableLeft();
     void shiftVariableRight();
     void cmdSelectCol();

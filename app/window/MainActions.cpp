@@ -76,6 +76,10 @@ void MainActions::createOtherActions()
 {
     find = add("actionFind", tr("Find"));
     find->setShortcuts(QKeySequence::Find);
+    findNext = add("actionFindNext", tr("Find Next"));
+    findNext->setShortcuts(QKeySequence::FindNext);
+    findPrevious = add("actionFindPrevious", tr("Find Previous"));
+    findPrevious->setShortcuts(QKeySequence::FindPrevious);
     options = add("actionOptions", tr("Options"));
     options->setMenuRole(QAction::PreferencesRole);
     about = add("actionAbout", tr("About"));
@@ -88,16 +92,13 @@ void MainActions::createOtherActions()
     toggleDarkMode = add("actionToggleDarkMode", tr("Toggle Dark Mode"));
     toggleDarkMode->setStatusTip(tr("Toggle between light and dark mode"));
     toggleDarkMode->setShortcut(Qt::CTRL | Qt::Key_D);
-    // Their dialogs are not part of this version.
-    find->setEnabled(false);
-    compare->setEnabled(false);
+    compare->setEnabled(false);  // its dialog is not part of this version
 }
 
 void MainActions::createBarActions()
 {
     quickOpen = add("actionQuickOpen", tr("Quick Open"));
     quickOpen->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_P), QKeySequence(Qt::Key_Q)});
-    quickOpen->setEnabled(false);  // its palette is not part of this version
     editDataFilter = add("actionEditDataFilter", tr("Edit Data Filter"));
     goToDatasetFilter = add("actionGoToDatasetFilter", tr("Go to Dataset Filter"));
     goToDatasetFilter->setShortcut(Qt::CTRL | Qt::Key_L);
@@ -163,8 +164,8 @@ void MainActions::drawIcons()
 
 void MainActions::setDatasetOpen(bool isOpen)
 {
-    for (QAction* action :
-         {close, closeAll, submit, editDataFilter, goToDatasetFilter, nextDataset}) {
+    for (QAction* action : {close, closeAll, find, findNext, findPrevious, submit, editDataFilter,
+                            goToDatasetFilter, nextDataset}) {
         action->setEnabled(isOpen);
     }
 }

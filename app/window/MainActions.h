@@ -44,6 +44,8 @@ public:
     QAction* closeAll = nullptr;
     QAction* exit = nullptr;
     QAction* find = nullptr;
+    QAction* findNext = nullptr;
+    QAction* findPrevious = nullptr;
     QAction* options = nullptr;
     QAction* about = nullptr;
     QAction* checkForUpdates = nullptr;

@@ -37,7 +37,9 @@ void MainMenus::fillFileMenu(const MainActions& actions)
 void MainMenus::fillEditMenu(const MainActions& actions)
 {
     QMenu* edit = addMenu("menuEdit", tr("&Edit"));
-    edit->addActions({actions.find, actions.goToDatasetFilter, actions.editDataFilter});
+    edit->addActions({actions.find, actions.findNext, actions.findPrevious});
+    edit->addSeparator();
+    edit->addActions({actions.goToDatasetFilter, actions.editDataFilter});
 }
 
 void MainMenus::fillViewMenu(const MainActions& actions)

@@ -22,6 +22,7 @@
 #include "app/window/MainActions.h"
 #include "app/window/MainMenus.h"
 #include "app/window/MainToolBars.h"
+#include "app/window/Navigation.h"
 #include "app/window/StatusCounters.h"
 #include "app/window/WindowArrangement.h"
 #include "grid/MainTableView.h"
@@ -165,7 +166,10 @@ void MainWindow::createDocks()
 
 void MainWindow::fillDocks()
 {
-    m_docks->workspace()->setWidget(new WorkspaceTree(m_docks->workspace()));
+    auto* workspace = new WorkspaceTree(m_docks->workspace());
+    m_docks->workspace()->setWidget(workspace);
+    m_navigation = new Navigation(*this, *m_actions, *workspace->model());
+    connect(m_navigation, &Navigation::signalFileChosen, this, &MainWindow::openDatasetFile);
     m_program = new ProgramEditor(m_docks->code());
     m_docks->code()->setWidget(m_program);
     connect(m_program, &ProgramEditor::signalLeft, this, &MainWindow::handleTabSwitch);
@@ -288,6 +292,7 @@ void MainWindow::activeWindow(QMdiSubWindow* window)
     m_activeView = active->view();
     connectGrid(m_activeView);
     m_boxes->setGrid(m_activeView);
+    m_navigation->setGrid(m_activeView);
     m_docks->showTitlesOf(active->datasetName());
     m_docks->univariate()->setWidget(m_activeView->statisticsTable());
     updateStatus();
@@ -301,6 +306,7 @@ void MainWindow::subWindowClosed(DatasetWindow* closedWindow)
         disconnect(m_activeView, nullptr, this, nullptr);
         m_activeView = nullptr;
         m_boxes->setGrid(nullptr);
+        m_navigation->setGrid(nullptr);
     }
     showWhatIsOpen();
 }

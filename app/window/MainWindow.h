@@ -18,6 +18,7 @@ class LogView;
 class MainMenus;
 class MainTableView;
 class MainToolBars;
+class Navigation;
 class ProgramEditor;
 class QAbstractButton;
 class QAction;
@@ -138,6 +139,7 @@ private:
     std::unique_ptr<RecentFiles> m_recentFiles;
     MainToolBars* m_toolBars = nullptr;
     CommandBoxes* m_boxes = nullptr;
+    Navigation* m_navigation = nullptr;
     DatasetsArea* m_area = nullptr;
     DatasetOpener* m_opener = nullptr;
     ProgramEditor* m_program = nullptr;

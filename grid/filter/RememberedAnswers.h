@@ -8,8 +8,8 @@
 #include <span>
 #include <vector>
 
-/// The answers to a yes-or-no question about values. It is asked once for each distinct one, as long
-/// as remembering the answers pays.
+/// The answers to a yes-or-no question about values. It is asked once for each distinct one, as
+/// long as remembering the answers pays.
 class RememberedAnswers
 {
 public:
