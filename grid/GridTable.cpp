@@ -193,13 +193,19 @@ bool GridTable::eventFilter(QObject* watched, QEvent* event)
 
 void GridTable::setFontSize(int points)
 {
-    if (points == fontSize() && points == QFontInfo(horizontalHeader()->font()).pointSize()) {
+    // An application's style sheet keeps letters from going on to the header and from there to what
+    // it is painted on.
+    QWidget* const header = horizontalHeader();
+    QWidget* const headerGround = horizontalHeader()->viewport();
+    if (points == fontSize() && points == QFontInfo(header->font()).pointSize()
+        && points == QFontInfo(headerGround->font()).pointSize()) {
         return;
     }
     QFont changed = font();
     changed.setPointSize(points);
     setFont(changed);
-    horizontalHeader()->setFont(changed);  // which an application's style sheet takes from it
+    header->setFont(changed);
+    headerGround->setFont(changed);
     if (isReady()) {
         // Hidden rows would keep the height that they had.
         const Place before = place();

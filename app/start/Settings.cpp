@@ -10,6 +10,10 @@ namespace {
 constexpr int smallestFont = 6;
 constexpr int largestFont = 72;
 
+// What the buttons say in English, whatever the user's language.
+constexpr QLatin1StringView nameMode("Var Name");
+constexpr QLatin1StringView labelMode("Var Label");
+
 }  // namespace
 
 QByteArray Settings::geometry() const
@@ -61,14 +65,12 @@ void Settings::setLastLayout(const QString& layout)
 
 bool Settings::headersShowLabels() const
 {
-    return m_store.value(u"columnHeaderMode", QStringLiteral("name")).toString()
-        == QLatin1String("label");
+    return m_store.value(u"columnHeaderMode").toString() == labelMode;
 }
 
 void Settings::setHeadersShowLabels(bool areLabels)
 {
-    m_store.setValue(u"columnHeaderMode",
-                     areLabels ? QStringLiteral("label") : QStringLiteral("name"));
+    m_store.setValue(u"columnHeaderMode", QString(areLabels ? labelMode : nameMode));
 }
 
 QString Settings::lastFolder() const

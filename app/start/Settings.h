@@ -32,7 +32,7 @@ public:
     [[nodiscard]] QString lastLayout() const;
     void setLastLayout(const QString& layout);
 
-    /// Whether column headers show labels instead of names.
+    /// Whether column headers show labels instead of names: "Var Label" or "Var Name".
     [[nodiscard]] bool headersShowLabels() const;
     void setHeadersShowLabels(bool areLabels);
 

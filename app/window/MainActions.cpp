@@ -104,6 +104,8 @@ void MainActions::createBarActions()
     goToDatasetFilter->setShortcut(Qt::CTRL | Qt::Key_L);
     nextDataset = add("actionNextDataset", tr("Next Dataset Tab"));
     nextDataset->setShortcut(Qt::CTRL | Qt::Key_Tab);
+    resetArrangement = add("actionResetArrangement", tr("Reset Window Arrangement"));
+    resetArrangement->setStatusTip(tr("Put docks and toolbars where they stood at first"));
 }
 
 void MainActions::createLayoutActions()
@@ -124,6 +126,7 @@ void MainActions::createLayoutActions()
         layout->setStatusTip(tips[i]);
         layout->setShortcut(
             QKeyCombination(Qt::CTRL, static_cast<Qt::Key>(Qt::Key_1 + static_cast<int>(i))));
+        layout->setIconVisibleInMenu(false);  // where the mark of the checked one stands
         layouts[i] = layout;
     }
 }

@@ -58,6 +58,7 @@ public:
     QAction* editDataFilter = nullptr;
     QAction* goToDatasetFilter = nullptr;
     QAction* nextDataset = nullptr;
+    QAction* resetArrangement = nullptr;
     QActionGroup* layoutGroup = nullptr;
     std::array<QAction*, layoutCount> layouts{};
 

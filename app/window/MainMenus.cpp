@@ -49,6 +49,7 @@ void MainMenus::fillViewMenu(const MainActions& actions)
     m_dockWindows->setObjectName(QStringLiteral("menuDockWindows"));
     view->addSeparator();
     view->addActions(actions.layoutGroup->actions());
+    view->addAction(actions.resetArrangement);
     view->addSeparator();
     view->addActions({actions.nextDataset, actions.toggleDarkMode});
 }

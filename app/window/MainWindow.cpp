@@ -214,6 +214,8 @@ void MainWindow::connectActions()
     run(m_actions->toggleDarkMode, &MainWindow::toggleDarkMode);
     run(m_actions->editDataFilter, &MainWindow::editDataFilter);
     run(m_actions->nextDataset, &MainWindow::onSwitchWindow);
+    connect(m_actions->resetArrangement, &QAction::triggered, this,
+            [this] { m_arrangement->reset(); });
     for (std::size_t layout = 0; layout < m_actions->layouts.size(); ++layout) {
         connect(m_actions->layouts[layout], &QAction::triggered, this,
                 [this, layout] { m_arrangement->applyLayout(layout); });
@@ -450,7 +452,7 @@ void MainWindow::on_actionNewSasProgram_triggered()
                               tr("The program in the Code window will be cleared. Go on?"))) {
         m_program->clear();
     }
-    DockWindows::bringUp(*m_docks->code());
+    m_arrangement->show(*m_docks->code());
     m_program->setFocus();
 }
 

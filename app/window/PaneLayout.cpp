@@ -4,16 +4,16 @@
 
 #include <algorithm>
 
-void PaneLayout::apply(std::size_t layout)
+void PaneLayout::apply(const Shares& wanted)
 {
-    const Shares& wanted = shares.at(layout);
-    applyToSide(Qt::LeftDockWidgetArea, wanted[0]);
-    applyToSide(Qt::RightDockWidgetArea, wanted[2]);
-    if (layout == maximized) {
+    const auto [left, main, right] = wanted;
+    applyToSide(Qt::LeftDockWidgetArea, left);
+    applyToSide(Qt::RightDockWidgetArea, right);
+    if (left == 0 && right == 0) {
         applyToSide(Qt::BottomDockWidgetArea, 0);
     }
-    resizeSide(Qt::LeftDockWidgetArea, wanted[0]);
-    resizeSide(Qt::RightDockWidgetArea, wanted[2]);
+    resizeArea(Qt::LeftDockWidgetArea, left);
+    resizeArea(Qt::RightDockWidgetArea, right);
 }
 
 void PaneLayout::applyToSide(Qt::DockWidgetArea area, int percent)
@@ -31,13 +31,17 @@ void PaneLayout::applyToSide(Qt::DockWidgetArea area, int percent)
     std::for_each(docks.rbegin(), docks.rend(), [](QDockWidget* dock) { dock->raise(); });
 }
 
-void PaneLayout::resizeSide(Qt::DockWidgetArea area, int percent)
+/// Gives an area its share of the window's width, or of its height at the bottom.
+void PaneLayout::resizeArea(Qt::DockWidgetArea area, int percent)
 {
     QList<QDockWidget*> docks = docksAt(area);
     docks.removeIf([](const QDockWidget* dock) { return dock->isHidden(); });
     if (percent > 0 && !docks.isEmpty()) {
-        // The docks of a side are as wide as each other.
-        m_window.resizeDocks({docks.first()}, {m_window.width() * percent / 100}, Qt::Horizontal);
+        const bool isSide = area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea;
+        const int whole = isSide ? m_window.width() : m_window.height();
+        // The docks of a side are as wide as each other, those of the bottom as tall.
+        m_window.resizeDocks({docks.first()}, {whole * percent / 100},
+                             isSide ? Qt::Horizontal : Qt::Vertical);
     }
 }
 
@@ -46,13 +50,11 @@ void PaneLayout::makeRoomFor(QDockWidget& dock)
     constexpr int readable = 30;
     const Qt::DockWidgetArea area = m_window.dockWidgetArea(&dock);
     const QList<QDockWidget*> docks = docksAt(area);
-    const bool wasShown = std::any_of(docks.begin(), docks.end(), [&](const QDockWidget* other) {
-        return other != &dock && !other->isHidden();
-    });
-    const bool isSide = area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea;
-    if (isSide && dock.isHidden() && !wasShown) {
-        dock.show();
-        resizeSide(area, readable);
+    const bool wasShown = std::any_of(docks.begin(), docks.end(),
+                                      [](const QDockWidget* other) { return !other->isHidden(); });
+    dock.show();
+    if (!wasShown && !dock.isFloating()) {
+        resizeArea(area, readable);
     }
 }
 
@@ -65,18 +67,24 @@ QList<QDockWidget*> PaneLayout::docksAt(Qt::DockWidgetArea area) const
     return docks;
 }
 
-QString PaneLayout::text(std::size_t layout)
+QString PaneLayout::text(const Shares& shares)
 {
-    const Shares& wanted = shares.at(layout);
-    return QStringLiteral("%1:%2:%3").arg(wanted[0]).arg(wanted[1]).arg(wanted[2]);
+    return QStringLiteral("%1:%2:%3").arg(shares[0]).arg(shares[1]).arg(shares[2]);
 }
 
-std::size_t PaneLayout::fromText(const QString& text)
+std::optional<PaneLayout::Shares> PaneLayout::fromText(const QString& text)
 {
-    for (std::size_t layout = 0; layout < shares.size(); ++layout) {
-        if (PaneLayout::text(layout) == text) {
-            return layout;
+    const QStringList parts = text.split(u':');
+    Shares shares{};
+    if (parts.size() != static_cast<qsizetype>(shares.size())) {
+        return std::nullopt;
+    }
+    for (std::size_t i = 0; i < shares.size(); ++i) {
+        bool isNumber = false;
+        shares[i] = parts[static_cast<qsizetype>(i)].toInt(&isNumber);
+        if (!isNumber || shares[i] < 0 || shares[i] > 100) {
+            return std::nullopt;
         }
     }
-    return 0;
+    return shares;
 }

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <array>
+#include <optional>
 
 class QDockWidget;
 
@@ -14,10 +15,9 @@ public:
     /// The widths in percent of the window's width: left, main, right.
     using Shares = std::array<int, 3>;
 
+    /// What the four layouts give.
     static constexpr std::array<Shares, 4> shares{
         {{30, 70, 0}, {0, 100, 0}, {20, 60, 20}, {0, 70, 30}}};
-    /// Of the layouts, the one that leaves nothing but the main area.
-    static constexpr std::size_t maximized = 1;
 
     /// @param docks  of the window, the more important ones first; both outlive this object
     PaneLayout(QMainWindow& window, QList<QDockWidget*> docks)
@@ -26,20 +26,20 @@ public:
     { }
 
     /// Shows or hides the sides and gives them their widths. A side that has a share and shows no
-    /// dock shows all of its docks.
-    void apply(std::size_t layout);
-    /// Makes the side of a dock wide enough to read it, where it has no width.
+    /// dock shows all of its docks. Where neither has one, nothing but the main area is left.
+    void apply(const Shares& wanted);
+    /// Shows a dock, wide or tall enough to read it where none stood in its place.
     void makeRoomFor(QDockWidget& dock);
 
     /// "30:70:0", as the setting holds it.
-    [[nodiscard]] static QString text(std::size_t layout);
-    /// The layout of such a text, the first one for any other text.
-    [[nodiscard]] static std::size_t fromText(const QString& text);
+    [[nodiscard]] static QString text(const Shares& shares);
+    /// The shares of such a text; nothing for a text that holds no three percentages.
+    [[nodiscard]] static std::optional<Shares> fromText(const QString& text);
 
 private:
     [[nodiscard]] QList<QDockWidget*> docksAt(Qt::DockWidgetArea area) const;
     void applyToSide(Qt::DockWidgetArea area, int percent);
-    void resizeSide(Qt::DockWidgetArea area, int percent);
+    void resizeArea(Qt::DockWidgetArea area, int percent);
 
     QMainWindow& m_window;
     QList<QDockWidget*> m_docks;

@@ -16,23 +16,46 @@ WindowArrangement::WindowArrangement(QMainWindow& window, const DockWindows& doc
     , m_actions(actions)
     , m_settings(settings)
     , m_layout(window, docks.all())
-{ }
+{
+    for (QDockWidget* dock : docks.all()) {
+        // The dock's own handler closes it also where it stands behind another and is not seen.
+        QAction* action = dock->toggleViewAction();
+        QObject::disconnect(action, &QAction::triggered, nullptr, nullptr);
+        QObject::connect(action, &QAction::triggered, dock, [this, dock] { toggle(*dock); });
+    }
+}
 
 void WindowArrangement::restore()
 {
     m_window.restoreGeometry(m_settings.geometry());
-    const QByteArray usual = m_window.saveState();
+    m_usual = m_window.saveState();
     const QByteArray remembered = m_settings.state();
-    if (!remembered.isEmpty() && !m_window.restoreState(remembered)) {
+    m_isRestored = m_window.restoreState(remembered);
+    if (!m_isRestored && !remembered.isEmpty()) {
         spdlog::warn("The arrangement of docks and toolbars could not be restored");
-        m_window.restoreState(usual);  // of the damaged one a part may be in force
+        m_window.restoreState(m_usual);  // of the damaged one a part may be in force
     }
-    applyLayout(PaneLayout::fromText(m_settings.lastLayout()));
+    const PaneLayout::Shares shares = lastShares();
+    for (std::size_t layout = 0; layout < PaneLayout::shares.size(); ++layout) {
+        m_actions.layouts.at(layout)->setChecked(PaneLayout::shares[layout] == shares);
+    }
+    if (!m_isRestored) {
+        m_layout.apply(shares);
+    }
+}
+
+PaneLayout::Shares WindowArrangement::lastShares() const
+{
+    return PaneLayout::fromText(m_settings.lastLayout()).value_or(PaneLayout::shares.front());
 }
 
 void WindowArrangement::finish()
 {
-    m_layout.apply(PaneLayout::fromText(m_settings.lastLayout()));
+    if (m_isRestored) {
+        m_window.restoreState(m_settings.state());
+    } else {
+        m_layout.apply(lastShares());
+    }
     m_docks.raiseFloating();
 }
 
@@ -44,12 +67,28 @@ void WindowArrangement::save() const
 void WindowArrangement::applyLayout(std::size_t layout)
 {
     m_actions.layouts.at(layout)->setChecked(true);
-    m_settings.setLastLayout(PaneLayout::text(layout));
-    m_layout.apply(layout);
+    m_settings.setLastLayout(PaneLayout::text(PaneLayout::shares.at(layout)));
+    m_layout.apply(PaneLayout::shares.at(layout));
+}
+
+void WindowArrangement::reset()
+{
+    m_window.restoreState(m_usual);
+    applyLayout(0);
 }
 
 void WindowArrangement::show(QDockWidget& dock)
 {
     m_layout.makeRoomFor(dock);
     DockWindows::bringUp(dock);
+}
+
+void WindowArrangement::toggle(QDockWidget& dock)
+{
+    if (dock.visibleRegion().isEmpty()) {
+        show(dock);
+    } else {
+        dock.close();
+    }
+    dock.toggleViewAction()->setChecked(!dock.isHidden());
 }

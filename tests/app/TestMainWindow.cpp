@@ -2,6 +2,7 @@
 #include "samples/TableWriter.h"
 #include "tests/support/WindowFixture.h"
 
+#include <QActionGroup>
 #include <QDialog>
 #include <QDir>
 #include <QDropEvent>
@@ -27,6 +28,7 @@ private slots:
     void droppedFilesOpen();
     void receivedFilesWaitForOpenQuestions();
     void layoutsDivideTheWidth();
+    void docksAreShownInFrontAndPutBack();
     void whatIsSetIsKeptForTheNextStart();
     void damagedSettingsGiveWayToTheUsualOnes();
     void withoutAWorkspaceTheProgramEnds();
@@ -39,6 +41,14 @@ private:
         const QPalette palette = window->palette();
         return palette.color(QPalette::Base).lightness()
             < palette.color(QPalette::Text).lightness();
+    }
+    [[nodiscard]] bool isSeen(const QString& name) const
+    {
+        return !dock(name)->visibleRegion().isEmpty();
+    }
+    [[nodiscard]] QSettings settings() const
+    {
+        return QSettings(path("settings.ini"), QSettings::IniFormat);
     }
     [[nodiscard]] QRadioButton* labelsButton() const
     {
@@ -221,9 +231,42 @@ void TestMainWindow::layoutsDivideTheWidth()
         QVERIFY(child<QAction>(layouts[i])->isChecked());
         QTRY_VERIFY2(hasShare("Workspace", shares[i].first), qPrintable(layouts[i]));
         QTRY_VERIFY2(hasShare("Freq", shares[i].second), qPrintable(layouts[i]));
-        QCOMPARE(dock("Desc")->visibleRegion().isEmpty(), shares[i].second == 0);
-        QVERIFY(dock("ShortcutKeys")->visibleRegion().isEmpty());
+        QCOMPARE(isSeen("Desc"), shares[i].second > 0);
+        QVERIFY(!isSeen("ShortcutKeys"));
     }
+    window.reset();
+    settings().setValue("lastLayout", "25:50:25");
+    openWindow();
+    QTRY_VERIFY(hasShare("Workspace", 25) && hasShare("Freq", 25));
+    QVERIFY(child<QActionGroup>("layoutGroup")->checkedAction() == nullptr);
+}
+
+void TestMainWindow::docksAreShownInFrontAndPutBack()
+{
+    const auto toggle = [this](const char* name) {
+        dock(name)->toggleViewAction()->trigger();
+        QCOMPARE(dock(name)->toggleViewAction()->isChecked(), !dock(name)->isHidden());
+    };
+    trigger("actionLayout3");
+    QVERIFY(!dock("ShortcutKeys")->isHidden() && !isSeen("ShortcutKeys"));
+    toggle("ShortcutKeys");
+    QTRY_VERIFY(isSeen("ShortcutKeys"));
+    toggle("ShortcutKeys");
+    QVERIFY(dock("ShortcutKeys")->isHidden());
+    for (const char* name : {"Output", "Log"}) {
+        toggle(name);
+        QTRY_VERIFY(isSeen(name));
+        QTRY_VERIFY(dock(name)->height() >= window->height() / 4);
+    }
+
+    window->addDockWidget(Qt::LeftDockWidgetArea, dock("Log"));
+    dock("Variables")->hide();
+    child<QToolBar>("toolBarLf")->hide();
+    trigger("actionResetArrangement");
+    QCOMPARE(window->dockWidgetArea(dock("Log")), Qt::BottomDockWidgetArea);
+    QTRY_VERIFY(isSeen("Variables") && isSeen("Workspace") && dock("Log")->isHidden());
+    QVERIFY(dock("Freq")->isHidden() && !child<QToolBar>("toolBarLf")->isHidden());
+    QVERIFY(child<QAction>("actionLayout1")->isChecked());
 }
 
 void TestMainWindow::whatIsSetIsKeptForTheNextStart()
@@ -232,6 +275,10 @@ void TestMainWindow::whatIsSetIsKeptForTheNextStart()
     trigger("actionLayout4");
     window->resize(900, 700);
     window->addDockWidget(Qt::LeftDockWidgetArea, dock("Log"));
+    dock("Desc")->close();
+    dock("ShortcutKeys")->close();
+    QTRY_VERIFY(isSeen("Freq"));
+    window->resizeDocks({dock("Freq")}, {400}, Qt::Horizontal);
     child<QToolBar>("toolBarBy")->hide();
     labelsButton()->click();
     trigger("actionToggleDarkMode");
@@ -242,7 +289,11 @@ void TestMainWindow::whatIsSetIsKeptForTheNextStart()
     const int letters = view().fontSize();
     startAgain();
 
+    QCOMPARE(settings().value("columnHeaderMode").toString(), "Var Label");
+    QCOMPARE(settings().value("lastLayout").toString(), "0:70:30");
     QVERIFY(child<QAction>("actionLayout4")->isChecked());
+    QVERIFY(dock("Desc")->isHidden() && dock("ShortcutKeys")->isHidden());
+    QTRY_COMPARE(dock("Freq")->width(), 400);
     QVERIFY(dock("Workspace")->isHidden());
     QVERIFY(!dock("Freq")->isHidden());
     QCOMPARE(window->size(), QSize(900, 700));

@@ -326,9 +326,11 @@ void TestWindowSequences::checkGrids() const
         const MainTableView* grid = shown->view();
         QCOMPARE(grid->opened()->libraryFilterText(), m_libraryFilter);
         QCOMPARE(grid->tableModel()->headerMode(), m_headers);
-        for (const QWidget* lettered : {static_cast<const QWidget*>(grid),
-                                        static_cast<const QWidget*>(grid->verticalHeader()),
-                                        static_cast<const QWidget*>(grid->horizontalHeader())}) {
+        for (const QWidget* lettered :
+             {static_cast<const QWidget*>(grid),
+              static_cast<const QWidget*>(grid->verticalHeader()),
+              static_cast<const QWidget*>(grid->horizontalHeader()),
+              static_cast<const QWidget*>(grid->horizontalHeader()->viewport())}) {
             QVERIFY(m_letters == 0 || QFontInfo(lettered->font()).pointSize() == m_letters);
         }
     }
