@@ -47,7 +47,14 @@ void addCommon(CLI::App& command, Common& common)
 
 Result<OpenedDataset> open(const Common& common, bool metadataOnly)
 {
-    return openDataset(filepath::fromBytes(common.file), {metadataOnly, common.member});
+    Result<OpenedDataset> opened =
+        openDataset(filepath::fromBytes(common.file), {metadataOnly, common.member});
+    if (opened) {
+        for (const std::string& note : opened.value().dataset->damageNotes()) {
+            fmt::print(stderr, "quorlane-cli: {}: {}\n", common.file, note);
+        }
+    }
+    return opened;
 }
 
 void addWhere(CLI::App& command, std::optional<std::string>& where)

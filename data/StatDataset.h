@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 /// One bit per observation or per variable, in 64-bit words.
@@ -117,6 +118,11 @@ public:
     [[nodiscard]] SourceKind sourceKind() const { return m_sourceKind; }
     void setSourceKind(SourceKind kind) { m_sourceKind = kind; }
 
+    /// What may be wrong with the file although it could be read, a sentence for its user each;
+    /// empty where nothing is. What is certainly damaged is not read at all.
+    [[nodiscard]] const std::vector<std::string>& damageNotes() const { return m_damageNotes; }
+    void addDamageNote(std::string note) { m_damageNotes.push_back(std::move(note)); }
+
     [[nodiscard]] int observationCount() const { return m_observationCount; }
     [[nodiscard]] int variableCount() const { return m_variableCount; }
 
@@ -195,4 +201,5 @@ protected:
     bool m_valuesWanted = true;
     TextPool m_textPool;
     SourceKind m_sourceKind = SourceKind::Sas;
+    std::vector<std::string> m_damageNotes;
 };

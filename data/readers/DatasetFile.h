@@ -25,7 +25,8 @@ struct OpenedDataset
 };
 
 /// Reads a data file: the reader is chosen by the suffix, in any letter case, and the source kind
-/// is recorded in the dataset. The reason of a failure is a sentence that names the file.
+/// is recorded in the dataset. The reason of a failure is a sentence that names the file; what may
+/// be wrong with a file that was read stands in StatDataset::damageNotes().
 [[nodiscard]] Result<OpenedDataset> openDataset(const QString& path,
                                                 const OpenOptions& options = {});
 

@@ -4,6 +4,8 @@
 #include "data/readers/ReadStatLoad.h"
 #include "data/values/SpssFormat.h"
 
+#include <fmt/format.h>
+
 #include <memory>
 
 namespace {
@@ -12,6 +14,8 @@ constexpr std::int64_t headerSize = 176;
 constexpr std::size_t layoutCodeAt = 64;
 constexpr std::size_t compressionAt = 72;
 constexpr std::size_t caseCountAt = 80;
+constexpr std::uint32_t rowCompression = 1;
+constexpr std::uint32_t zlibCompression = 2;
 
 /// No zlib stream unpacks to more than about this many times its size.
 constexpr std::int64_t largestZlibRatio = 1032;
@@ -105,7 +109,13 @@ std::string SavDoc::Load::prepare(const FileReader& file, ParserInput& input)
     const std::uint32_t layoutCode = ByteView(start, true).u32(layoutCodeAt);
     const ByteView header(start, layoutCode == 2 || layoutCode == 3);
     m_isZlib = start.starts_with("$FL3");
-    m_isRowCompressed = header.u32(compressionAt) != 0;
+    const std::uint32_t compression = header.u32(compressionAt);
+    m_isRowCompressed = compression == rowCompression || compression == zlibCompression;
+    if (compression > zlibCompression) {
+        m_dataset.addDamageNote(
+            fmt::format("Its header names an unknown compression ({}); it was read as uncompressed",
+                        compression));
+    }
 
     // An unknown number of cases is legal, but the library then reads none: it is shown the largest
     // number, and its complaint that not all came is no failure.

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdio>
+#include <fstream>
 #include <nlohmann/json.hpp>
 #include <sstream>
 #include <sys/wait.h>
@@ -155,6 +156,24 @@ TEST_F(CommandLine, problemsNameTheFileOrVariable)
     EXPECT_EQ(run("contents", "", "ae.txt").code, 2);
     EXPECT_EQ(run("rows", "--member DM").code, 2);
     EXPECT_EQ(run("rows", "--format xml").code, 2);
+}
+
+TEST_F(CommandLine, aFileThatMayBeDamagedSaysSo)
+{
+    samples::Table table;
+    table.columns = {samples::numberColumn("AGE", "Age")};
+    samples::writeTable(m_folder.file("odd.sav"), table);
+    std::fstream(m_folder.file("odd.sav"), std::ios::in | std::ios::out | std::ios::binary)
+        .seekp(72)
+        .put('\7');
+    for (const char* const command : {"contents", "rows"}) {
+        const Outcome outcome = run(command, "", "odd.sav");
+        EXPECT_EQ(outcome.code, 0) << command;
+        EXPECT_NE(outcome.out.find("AGE"), std::string::npos) << outcome.out;
+        EXPECT_NE(outcome.err.find("odd.sav: "), std::string::npos) << outcome.err;
+        EXPECT_NE(outcome.err.find("unknown compression"), std::string::npos) << outcome.err;
+    }
+    EXPECT_EQ(run("contents").err, "");
 }
 
 }  // namespace

@@ -90,7 +90,7 @@ struct Malformed
     Kind kind;
     std::function<void(std::string& bytes)> damage;
     int rows;  ///< that can be read, or `refused`, `rowsRefused`
-    const char* message = "";  ///< a part of it
+    const char* message = "";  ///< a part of it, or of the note on what can be read
 };
 
 std::ostream& operator<<(std::ostream& out, const Malformed& one)
@@ -152,6 +152,7 @@ const Malformed cases[] = {
      "promises 2147483647 observations"},
     {"savWithLessThanNoRows", sav, putAt(80, 0xFFFFFFFE, 4), refused},
     {"savThatTellsNoRowCount", sav, putAt(80, 0xFFFFFFFF, 4), healthyRows},
+    {"savOfUnknownCompression", sav, putAt(72, 7, 4), healthyRows, "unknown compression (7)"},
     {"savTextOfTwoGigabytes", sav, putAt(savVariable + 4, 0x7FFFFFFF, 4), healthyRows},
     {"savWithCountlessMissingValues", sav, putAt(savVariable + 12, 0x7FFFFFFF, 4), refused},
     {"zlibSavWithCountlessBlocks", zsav, putFromEnd(28, 0x7FFFFFFF, 4), rowsRefused},
@@ -208,6 +209,10 @@ TEST_P(MalformedFile, endsInAMessageOrInWhatIsReadable)
         return;
     }
     const auto dataset = read(one.kind.file, bytes);
+    EXPECT_EQ(dataset->damageNotes().size(), *one.message == '\0' ? 0U : 1U);
+    for (const std::string& note : dataset->damageNotes()) {
+        EXPECT_NE(note.find(one.message), std::string::npos) << note;
+    }
     ASSERT_EQ(dataset->observationCount(), one.rows);
     for (int row = 0; row < one.rows; ++row) {
         EXPECT_EQ(dataset->cellText(row, 0), "Person-" + std::to_string(row));
