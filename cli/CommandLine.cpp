@@ -81,6 +81,10 @@ int runOnRows(const Common& common, const std::optional<std::string>& where,
         return fail(opened.error());
     }
     StatDataset& dataset = *opened.value().dataset;
+    if (common.member.empty() && opened.value().members.size() > 1) {
+        fmt::print(stderr, "quorlane-cli: {}: {} of the datasets {}; --member picks another\n",
+                   common.file, dataset.datasetName(), fmt::join(opened.value().members, ", "));
+    }
     Result<bool> done = selectWhere(dataset, where);
     if (done) {
         done = print(dataset);

@@ -71,4 +71,10 @@ std::string displayName(const QString& path)
     return name.toStdString();
 }
 
+std::string baseName(const QString& path)
+{
+    const std::string name = displayName(path);
+    return name.substr(0, name.rfind('.'));
+}
+
 }  // namespace filepath

@@ -14,5 +14,7 @@ namespace filepath {
 [[nodiscard]] std::string toBytes(const QString& path);
 /// The last component, for messages; stray bytes as U+FFFD.
 [[nodiscard]] std::string displayName(const QString& path);
+/// The same without its last suffix.
+[[nodiscard]] std::string baseName(const QString& path);
 
 }  // namespace filepath

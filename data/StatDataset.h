@@ -118,6 +118,14 @@ public:
     [[nodiscard]] SourceKind sourceKind() const { return m_sourceKind; }
     void setSourceKind(SourceKind kind) { m_sourceKind = kind; }
 
+    /// What the dataset is called: its own name, or, where its file tells none, what whoever opened
+    /// it said.
+    [[nodiscard]] const std::string& datasetName() const
+    {
+        return m_header.tableName.empty() ? m_fallbackName : m_header.tableName;
+    }
+    void setFallbackName(std::string name) { m_fallbackName = std::move(name); }
+
     /// What may be wrong with the file although it could be read, a sentence for its user each;
     /// empty where nothing is. What is certainly damaged is not read at all.
     [[nodiscard]] const std::vector<std::string>& damageNotes() const { return m_damageNotes; }
@@ -201,5 +209,6 @@ protected:
     bool m_valuesWanted = true;
     TextPool m_textPool;
     SourceKind m_sourceKind = SourceKind::Sas;
+    std::string m_fallbackName;
     std::vector<std::string> m_damageNotes;
 };

@@ -13,7 +13,23 @@ Result<OpenedDataset> openDataset(const QString& path, const OpenOptions& option
             fmt::format("{}: Its suffix belongs to no kind of data file that can be opened",
                         filepath::displayName(path))};
     }
-    return suffix->reader(path, options);
+    Result<OpenedDataset> opened = suffix->reader(path, options);
+    if (opened) {
+        opened.value().dataset->setFallbackName(filepath::baseName(path));
+    }
+    return opened;
+}
+
+Result<std::vector<std::string>> datasetNames(const QString& path)
+{
+    const filekinds::Suffix* suffix = filekinds::suffixOf(path);
+    return suffix == nullptr || suffix->lister == nullptr ? std::vector<std::string>()
+                                                          : suffix->lister(path);
+}
+
+QString datasetKey(const QString& path, const QString& name)
+{
+    return name.isEmpty() ? path : path + QStringLiteral("::") + name;
 }
 
 bool isDatasetFile(const QString& path)

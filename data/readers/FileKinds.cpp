@@ -54,7 +54,7 @@ Result<OpenedDataset> readTransport(const QString& path, const OpenOptions& opti
 
 constexpr std::array sasSuffixes{
     Suffix{"sas7bdat", "type-sas7bdat", readSingle<SasDoc, SourceKind::Sas>},
-    Suffix{"xpt", "type-xpt", readTransport},
+    Suffix{"xpt", "type-xpt", readTransport, XptDoc::memberNamesOf},
 };
 constexpr std::array jsonSuffixes{
     Suffix{"json", "type-json"},

@@ -22,12 +22,14 @@ enum class FileKind
 namespace filekinds {
 
 using Reader = Result<OpenedDataset> (*)(const QString& path, const OpenOptions& options);
+using Lister = Result<std::vector<std::string>> (*)(const QString& path);
 
 struct Suffix
 {
     const char* suffix = nullptr;  ///< without its point, in small letters
     const char* icon = nullptr;
     Reader reader = nullptr;  ///< null where there is none yet
+    Lister lister = nullptr;  ///< of the datasets in a file; null where that is always one
 };
 
 struct Entry

@@ -1,5 +1,7 @@
 #include "data/readers/XptDoc.h"
 
+#include "data/FilePath.h"
+#include "data/readers/DistinctNames.h"
 #include "data/readers/ReadStatLoad.h"
 #include "data/readers/XptLayout.h"
 
@@ -15,6 +17,19 @@ bool sameName(const std::string& one, const std::string& other)
     return std::equal(
         one.begin(), one.end(), other.begin(), other.end(),
         [](unsigned char a, unsigned char b) { return std::toupper(a) == std::toupper(b); });
+}
+
+std::vector<std::string> namesOf(const XptLayout& layout, const TextDecoder& decoder)
+{
+    std::vector<std::string> names;
+    for (const XptMember& member : layout.members) {
+        names.push_back(decoder.decode(member.name));
+        if (names.back().empty() && layout.members.size() > 1) {
+            names.back() = fmt::format("DATA{}", names.size());
+        }
+    }
+    makeDistinct(names);
+    return names;
 }
 
 }  // namespace
@@ -38,6 +53,7 @@ private:
     void hideDamagedTimes(const XptLayout& layout, ParserInput& input);
 
     XptDoc& m_dataset;
+    std::string m_name;
     XptMember m_member;
     bool m_timesAreKnown = true;
 };
@@ -47,6 +63,21 @@ int XptDoc::load(const QString& path)
     return Load(*this).run(path);
 }
 
+Result<std::vector<std::string>> XptDoc::memberNamesOf(const QString& path)
+{
+    FileReader file;
+    const std::string name = filepath::displayName(path);
+    if (!file.open(filepath::toBytes(path))) {
+        return Failure{fmt::format("{}: {}", name, file.error())};
+    }
+    const TextDecoder decoder;
+    const Result<XptLayout> layout = readXptLayout(file);
+    if (!layout) {
+        return Failure{fmt::format("{}: {}", name, decoder.decode(layout.error()))};
+    }
+    return namesOf(layout.value(), decoder);
+}
+
 std::string XptDoc::Load::prepare(const FileReader& file, ParserInput& input)
 {
     cells().setDecoder(TextDecoder());
@@ -54,10 +85,7 @@ std::string XptDoc::Load::prepare(const FileReader& file, ParserInput& input)
     if (!layout) {
         return decoded(layout.error().c_str());  // it may quote the file
     }
-    m_dataset.m_memberNames.clear();
-    for (const XptMember& member : layout.value().members) {
-        m_dataset.m_memberNames.push_back(decoded(member.name.c_str()));
-    }
+    m_dataset.m_memberNames = namesOf(layout.value(), cells().decoder());
     if (std::string problem = chooseMember(layout.value()); !problem.empty()) {
         return problem;
     }
@@ -84,16 +112,19 @@ void XptDoc::Load::hideDamagedTimes(const XptLayout& layout, ParserInput& input)
 
 std::string XptDoc::Load::chooseMember(const XptLayout& layout)
 {
-    const auto found = m_dataset.m_memberName.empty()
-        ? layout.members.begin()
-        : std::find_if(layout.members.begin(), layout.members.end(), [&](const XptMember& one) {
-              return sameName(decoded(one.name.c_str()), m_dataset.m_memberName);
-          });
-    if (found == layout.members.end()) {
-        return fmt::format("It has no data set named {}; it has {}", m_dataset.m_memberName,
-                           fmt::join(m_dataset.m_memberNames, ", "));
+    const std::vector<std::string>& names = m_dataset.m_memberNames;
+    const std::string& wanted = m_dataset.m_memberName;
+    auto found = wanted.empty() ? names.begin() : std::find(names.begin(), names.end(), wanted);
+    if (found == names.end()) {
+        found = std::find_if(names.begin(), names.end(),
+                             [&](const std::string& name) { return sameName(name, wanted); });
     }
-    m_member = *found;
+    if (found == names.end()) {
+        return fmt::format("It has no data set named {}; it has {}", wanted,
+                           fmt::join(names, ", "));
+    }
+    m_name = *found;
+    m_member = layout.members[static_cast<std::size_t>(found - names.begin())];
     if (m_member.rowLength <= 0 && !m_member.variables.empty()) {
         return "Its variables have no length";
     }
@@ -116,7 +147,7 @@ int XptDoc::Load::acceptMetadata(const readstat_metadata_t& metadata)
         header.creationTime = 0;
         header.modificationTime = 0;
     }
-    header.tableName = decoded(m_member.name.c_str());
+    header.tableName = m_name;
     header.fileLabel = decoded(metadata.file_label);
     header.memberType = {};
     header.encoding = {};

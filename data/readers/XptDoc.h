@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/readers/SasDataset.h"
+#include "data/Result.h"
 
 #include <string>
 #include <vector>
@@ -14,8 +15,11 @@ public:
 
     /// Which data set of the file to load, in any letter case; the first when empty.
     void setMember(std::string name) { m_memberName = std::move(name); }
-    /// The names of all data sets of the file, in its order; known after a load.
+    /// The names of all data sets of the file, in its order; known after a load. Of equal ones the
+    /// later have a suffix.
     [[nodiscard]] const std::vector<std::string>& memberNames() const { return m_memberNames; }
+    /// The same of a file that is not loaded. The reason of a failure names the file.
+    [[nodiscard]] static Result<std::vector<std::string>> memberNamesOf(const QString& path);
 
 private:
     class Load;

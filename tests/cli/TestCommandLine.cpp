@@ -176,4 +176,22 @@ TEST_F(CommandLine, aFileThatMayBeDamagedSaysSo)
     EXPECT_EQ(run("contents").err, "");
 }
 
+TEST_F(CommandLine, aFileOfSeveralDatasetsSaysWhichIsRead)
+{
+    samples::Table tables[2];
+    for (samples::Table& table : tables) {
+        table.columns = {samples::numberColumn("AGE", "Age")};
+        table.name = &table == tables ? "DM" : "AE";
+        table.rows = {{&table == tables ? 1.0 : 2.0}};
+    }
+    samples::writeTransport(m_folder.file("study.xpt"), tables);
+    const Outcome first = run("rows", "--format tsv", "study.xpt");
+    EXPECT_EQ(first.out, "Obs\tAGE\n1\t1\n");
+    EXPECT_NE(first.err.find("study.xpt: DM of the datasets DM, AE"), std::string::npos)
+        << first.err;
+    const Outcome second = run("rows", "--format tsv --member ae", "study.xpt");
+    EXPECT_EQ(second.out, "Obs\tAGE\n1\t2\n");
+    EXPECT_EQ(second.err, "");
+}
+
 }  // namespace

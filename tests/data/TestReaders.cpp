@@ -54,6 +54,8 @@ TEST_P(Readers, readEveryCell)
     const auto opened = reread(visits());
     const StatDataset& dataset = *opened;
     EXPECT_EQ(dataset.sourceKind(), GetParam().kind);
+    const bool isNamed = dataset.sourceKind() == SourceKind::Sas;
+    EXPECT_EQ(dataset.datasetName(), isNamed ? "VS" : "vs") << "its own name, or its file's";
     ASSERT_EQ(dataset.observationCount(), 3);
     EXPECT_EQ(dataset.names(), (std::vector<std::string>{"SITE", "DOSE", "VSDT"}));
     EXPECT_EQ(dataset.labels(),

@@ -43,10 +43,30 @@ TEST_F(XptDoc, opensEachMemberWholeAndAlone)
     EXPECT_EQ(second.value().dataset->cellText(1, 0), "e");
     EXPECT_EQ(open("study.xpt", {.member = "LB"}).value().dataset->observationCount(), 0);
 
+    EXPECT_EQ(datasetNames(path("study.xpt")).value(), first.value().members);
+    EXPECT_EQ(second.value().dataset->datasetName(), "AE");
+    EXPECT_EQ(datasetKey(path("study.xpt"), "AE"), path("study.xpt") + "::AE");
+
     const auto none = open("study.xpt", {.member = "CM"});
     ASSERT_FALSE(none.ok());
     EXPECT_NE(none.error().find("study.xpt"), std::string::npos);
     EXPECT_NE(none.error().find("DM, AE, LB"), std::string::npos) << none.error();
+}
+
+TEST_F(XptDoc, tellsMembersOfOneNameAndOfNoneApart)
+{
+    const samples::Table members[] = {texts("ae", 8, {"a"}), texts("AE", 8, {"b"}),
+                                      texts("AE", 8, {"c"}), texts("XX", 8, {"d"})};
+    samples::writeTransport(m_folder.file("twice.xpt"), members);
+    std::string bytes = bytesOf(m_folder.file("twice.xpt"));
+    bytes.replace(bytes.find("XX      SASDATA"), 2, "  ");
+    const auto names = datasetNames(write("twice.xpt", bytes)).value();
+    EXPECT_EQ(names, (std::vector<std::string>{"ae", "AE", "AE_2", "DATA4"}));
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const auto dataset = read("twice.xpt", bytes, {.member = names[i]});
+        EXPECT_EQ(dataset->datasetName(), names[i]);
+        EXPECT_EQ(dataset->cellText(0, 0), std::string(1, static_cast<char>('a' + i)));
+    }
 }
 
 struct PaddingCase
