@@ -1,6 +1,8 @@
 // Frequencies, distinct subjects and statistics of the benchmark table, each told as a multiple of
 // ordered maps from the values of a row to a count, taken in the same run.
 
+#include "analysis/CellSearch.h"
+#include "analysis/CellWalk.h"
 #include "analysis/Frequencies.h"
 #include "analysis/Statistics.h"
 #include "benchmarks/BenchmarkFiles.h"
@@ -9,6 +11,7 @@
 #include <benchmark/benchmark.h>
 #include <iostream>
 #include <map>
+#include <numeric>
 
 namespace {
 
@@ -85,6 +88,23 @@ void describe(benchmark::State& state, const StatDataset& dataset, const Variabl
     }
 }
 
+/// Looks at every cell for a text that none shows.
+void findNothing(benchmark::State& state, const StatDataset& dataset, const Variables& /*none*/)
+{
+    std::vector<std::uint32_t> rows(static_cast<std::size_t>(dataset.observationCount()));
+    std::iota(rows.begin(), rows.end(), 0U);
+    for (auto _ : state) {
+        CellSearch search(dataset, QStringLiteral("zzzzz"));
+        const CellWalk walk(dataset.observationCount(), dataset.variableCount(),
+                            CellWalk::Order::ByRow, [&](int column, int first, int count) {
+                                return search.word(column,
+                                                   {&rows[static_cast<std::size_t>(first)],
+                                                    static_cast<std::size_t>(count)});
+                            });
+        benchmark::DoNotOptimize(walk.next({}, CellWalk::Direction::Forward).has_value());
+    }
+}
+
 using Benchmark = void (*)(benchmark::State&, const StatDataset&, const Variables&);
 
 class Registration
@@ -136,6 +156,7 @@ void addAll(const StatDataset& dataset)
     registration.addSubjects("two", {L"VISIT", L"SITEID"});
     registration.add("statistics/whole", describe, {L"AVAL"});
     registration.add("statistics/by-two", describe, {L"VISIT", L"SITEID", L"AVAL"});
+    registration.add("find/nothing", findNothing, {});
 }
 
 }  // namespace

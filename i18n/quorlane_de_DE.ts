@@ -201,6 +201,45 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
 </context>
 <context>
+    <name>FindDialog</name>
+    <message>
+        <source>By &amp;Row</source>
+        <translation>&amp;Zeilenweise</translation>
+    </message>
+    <message>
+        <source>By &amp;Column</source>
+        <translation>&amp;Spaltenweise</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Find in table...</source>
+        <translation>In der Tabelle suchen …</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Gesuchter Text</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nächste</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Vorige</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Found, but not visible</source>
+        <translation>Gefunden, aber nicht sichtbar</translation>
+    </message>
+</context>
+<context>
     <name>GridContextMenu</name>
     <message>
         <source>Copy</source>
@@ -493,6 +532,22 @@ Möchten Sie den Datensatz neu laden?</translation>
         <source>Go to Dataset Filter</source>
         <translation>Zum Datensatzfilter</translation>
     </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>Reset Window Arrangement</source>
+        <translation>Fensteranordnung zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Put docks and toolbars where they stood at first</source>
+        <translation>Stellt Andockfenster und Werkzeugleisten an ihren ersten Platz</translation>
+    </message>
 </context>
 <context>
     <name>MainMenus</name>
@@ -530,6 +585,10 @@ Möchten Sie den Datensatz neu laden?</translation>
     <message>
         <source>The variable %1 is hidden.</source>
         <translation>Die Variable %1 ist ausgeblendet.</translation>
+    </message>
+    <message>
+        <source>Observation %1 is hidden by a filter.</source>
+        <translation>Beobachtung %1 ist durch einen Filter verborgen.</translation>
     </message>
 </context>
 <context>
@@ -637,6 +696,29 @@ Datendateien werden ausschließlich gelesen.</translation>
     <message>
         <source>Not all of these are variables.</source>
         <translation>Nicht alle dieser Namen sind Variablen.</translation>
+    </message>
+</context>
+<context>
+    <name>QuickOpenDialog</name>
+    <message>
+        <source>Quick Open</source>
+        <translation>Schnell öffnen</translation>
+    </message>
+    <message>
+        <source>Dataset, &quot;v&quot; and a variable, or a row number</source>
+        <translation>Dataset, „v“ und eine Variable oder eine Zeilennummer</translation>
+    </message>
+    <message>
+        <source>Return goes to observation %1</source>
+        <translation>Die Eingabetaste führt zu Beobachtung %1</translation>
+    </message>
+    <message>
+        <source>Nothing matches</source>
+        <translation>Nichts passt</translation>
+    </message>
+    <message>
+        <source>The workspace holds no datasets</source>
+        <translation>Der Arbeitsbereich enthält keine Datasets</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,45 @@ Do you want to reload it?</source>
     </message>
 </context>
 <context>
+    <name>FindDialog</name>
+    <message>
+        <source>By &amp;Row</source>
+        <translation>按行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>By &amp;Column</source>
+        <translation>按列(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Find in table...</source>
+        <translation>在表格中查找…</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>要查找的文本</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一个</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>上一个</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>Found, but not visible</source>
+        <translation>已找到，但不可见</translation>
+    </message>
+</context>
+<context>
     <name>GridContextMenu</name>
     <message>
         <source>Copy</source>
@@ -493,6 +532,22 @@ Do you want to reload it?</source>
         <source>Go to Dataset Filter</source>
         <translation>转到数据集筛选框</translation>
     </message>
+    <message>
+        <source>Find Next</source>
+        <translation>查找下一个</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>查找上一个</translation>
+    </message>
+    <message>
+        <source>Reset Window Arrangement</source>
+        <translation>重置窗口布局</translation>
+    </message>
+    <message>
+        <source>Put docks and toolbars where they stood at first</source>
+        <translation>将停靠窗口和工具栏恢复到最初的位置</translation>
+    </message>
 </context>
 <context>
     <name>MainMenus</name>
@@ -530,6 +585,10 @@ Do you want to reload it?</source>
     <message>
         <source>The variable %1 is hidden.</source>
         <translation>变量 %1 已隐藏。</translation>
+    </message>
+    <message>
+        <source>Observation %1 is hidden by a filter.</source>
+        <translation>观测 %1 被筛选器隐藏。</translation>
     </message>
 </context>
 <context>
@@ -637,6 +696,29 @@ Data files are only ever read.</source>
     <message>
         <source>Not all of these are variables.</source>
         <translation>其中有些名称不是变量。</translation>
+    </message>
+</context>
+<context>
+    <name>QuickOpenDialog</name>
+    <message>
+        <source>Quick Open</source>
+        <translation>快速打开</translation>
+    </message>
+    <message>
+        <source>Dataset, &quot;v&quot; and a variable, or a row number</source>
+        <translation>数据集、“v”加变量名，或行号</translation>
+    </message>
+    <message>
+        <source>Return goes to observation %1</source>
+        <translation>按回车键转到观测 %1</translation>
+    </message>
+    <message>
+        <source>Nothing matches</source>
+        <translation>没有匹配项</translation>
+    </message>
+    <message>
+        <source>The workspace holds no datasets</source>
+        <translation>工作区中没有数据集</translation>
     </message>
 </context>
 <context>

@@ -118,6 +118,16 @@ TEST_F(CommandLine, rowsChoosesSortsAndLimits)
     EXPECT_EQ(run("rows", "--sort AVAL:down").code, 2);
 }
 
+TEST_F(CommandLine, findListsTheCellsThatShowAText)
+{
+    EXPECT_EQ(run("find", "EA --format tsv").out,
+              "Obs\tVariable\tText\n1\tAETERM\tHEADACHE\n3\tAETERM\tNAUSEA\n");
+    EXPECT_EQ(jsonLines(run("find", "a --format json --where 'AVAL > 1'").out),
+              (std::vector<json>{{{"obs", 2}, {"variable", "AETERM"}, {"text", "RASH\tred"}},
+                                 {{"obs", 2}, {"variable", "ASTDT"}, {"text", "nan"}}}));
+    EXPECT_EQ(run("find", "''").code, 2);
+}
+
 TEST_F(CommandLine, rowsKeepsTheObservationsThatMeetACondition)
 {
     const auto observations = [this](const std::string& condition, const std::string& more = {}) {
