@@ -1,5 +1,6 @@
 #include "app/dialogs/DialogPrompts.h"
 
+#include "app/dialogs/ChooseDatasetsDialog.h"
 #include "app/dialogs/DataFilterDialog.h"
 #include "workspace/OptionsDialog.h"
 
@@ -80,6 +81,12 @@ QStringList DialogPrompts::chooseFiles(const QString& title, const QString& fold
                                        const QString& filters)
 {
     return QFileDialog::getOpenFileNames(m_parent, title, folder, filters);
+}
+
+QStringList DialogPrompts::chooseDatasets(const QString& fileName, const QStringList& names)
+{
+    ChooseDatasetsDialog dialog(fileName, names, m_parent);
+    return dialog.exec() == QDialog::Accepted ? dialog.chosen() : QStringList();
 }
 
 std::optional<QString> DialogPrompts::editDataFilter(const QString& condition)

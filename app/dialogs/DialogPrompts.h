@@ -18,6 +18,8 @@ public:
     [[nodiscard]] bool offerToOpen(const QString& title, const QString& text) override;
     [[nodiscard]] QStringList chooseFiles(const QString& title, const QString& folder,
                                           const QString& filters) override;
+    [[nodiscard]] QStringList chooseDatasets(const QString& fileName,
+                                             const QStringList& names) override;
     [[nodiscard]] std::optional<QString> editDataFilter(const QString& condition) override;
     [[nodiscard]] QString editOptions(const QString& uniqueVarName) override;
 

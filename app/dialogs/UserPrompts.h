@@ -29,6 +29,10 @@ public:
     /// @return         the paths; none when the user cancels
     [[nodiscard]] virtual QStringList chooseFiles(const QString& title, const QString& folder,
                                                   const QString& filters) = 0;
+    /// Lets the user choose among the datasets of a file.
+    /// @return  some of the names; none when the user cancels
+    [[nodiscard]] virtual QStringList chooseDatasets(const QString& fileName,
+                                                     const QStringList& names) = 0;
     /// Lets the user edit the condition of a dataset filter.
     /// @return  nothing when the user cancels
     [[nodiscard]] virtual std::optional<QString> editDataFilter(const QString& condition) = 0;

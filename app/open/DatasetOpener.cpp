@@ -1,8 +1,10 @@
 #include "app/open/DatasetOpener.h"
 
 #include "app/dialogs/UserPrompts.h"
+#include "app/open/GridPlace.h"
 #include "app/start/Settings.h"
 #include "app/window/DatasetWindow.h"
+#include "app/window/TabTitles.h"
 #include "grid/MainTableView.h"
 #include "grid/WaitCursor.h"
 
@@ -10,18 +12,20 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMdiArea>
+#include <QTabBar>
 
 #include <utility>
 
 namespace {
 
-/// The origin of a file that holds one dataset. The time is taken before the file is read, so that
-/// a change during the reading does not go unnoticed.
-DatasetOrigin originOf(const QString& path)
+/// The time is taken before the file is read, so that a change during the reading does not go
+/// unnoticed.
+/// @param member  empty for a file's only dataset
+DatasetOrigin originOf(const QString& path, const QString& member = {})
 {
     const QFileInfo file(path);
     const QString absolute = QDir::cleanPath(file.absoluteFilePath());
-    return {absolute, absolute, file.lastModified()};
+    return {absolute, datasetKey(absolute, member), file.lastModified(), file.size()};
 }
 
 }  // namespace
@@ -32,6 +36,10 @@ DatasetOpener::DatasetOpener(Surroundings surroundings, QObject* parent)
 {
     m_retry.setSingleShot(true);
     connect(&m_retry, &QTimer::timeout, this, &DatasetOpener::openWaiting);
+    connect(&m_watch, &FileWatch::signalChanged, this, &DatasetOpener::lookAtFiles);
+    // No system tells of changes that another computer makes.
+    connect(qApp, &QGuiApplication::applicationStateChanged, this,
+            &DatasetOpener::lookAtActiveFile);
 }
 
 void DatasetOpener::chooseAndOpen(FileKind kind)
@@ -48,11 +56,39 @@ void DatasetOpener::chooseAndOpen(FileKind kind)
 
 bool DatasetOpener::open(const QString& path)
 {
-    const DatasetOrigin origin = originOf(path);
+    const auto found = datasetNames(path);
+    if (!found || found.value().size() < 2) {
+        return openDatasetOf(originOf(path));
+    }
+    QStringList names;
+    for (const std::string& name : found.value()) {
+        names << QString::fromStdString(name);
+    }
+    const QStringList chosen = m_surroundings.prompts.chooseDatasets(path.section(u'/', -1), names);
+    bool isOpen = false;
+    for (const QString& name : chosen) {
+        isOpen = openMember(path, name) || isOpen;
+    }
+    return isOpen;
+}
+
+bool DatasetOpener::openMember(const QString& path, const QString& name)
+{
+    return openDatasetOf(originOf(path, name));
+}
+
+bool DatasetOpener::openDatasetOf(const DatasetOrigin& origin)
+{
     if (settleReload(origin) == Reload::Declined) {
         return m_openFiles.find(origin.fileKey) != nullptr;
     }
-    return load(origin);
+    std::unique_ptr<DatasetWindow> window = read(origin);
+    if (window == nullptr) {
+        return false;
+    }
+    show(std::move(window));
+    emit signalRead(origin.filePath);
+    return true;
 }
 
 /// Asks whether a file that is open is to be read again, and if so closes its window.
@@ -61,8 +97,9 @@ DatasetOpener::Reload DatasetOpener::settleReload(const DatasetOrigin& origin)
     if (m_openFiles.find(origin.fileKey) == nullptr) {
         return Reload::NotOpen;
     }
-    const QString question = tr("\"%1\" is already open.\nDo you want to reload it?")
-                                 .arg(origin.filePath.section(u'/', -1));
+    const QString name =
+        origin.member().isEmpty() ? origin.filePath.section(u'/', -1) : origin.member();
+    const QString question = tr("\"%1\" is already open.\nDo you want to reload it?").arg(name);
     const bool isWanted = m_surroundings.prompts.confirm(tr("Reload Dataset"), question);
     // Looked for anew: the window may have gone while the question was open.
     QMdiSubWindow* window = m_openFiles.find(origin.fileKey);
@@ -73,7 +110,12 @@ DatasetOpener::Reload DatasetOpener::settleReload(const DatasetOrigin& origin)
         activate(window);
         return Reload::Declined;
     }
-    return close(window, origin) ? Reload::Agreed : Reload::Declined;
+    if (!close(window, origin)) {
+        return Reload::Declined;
+    }
+    // Not left to the event loop: the memory of the old dataset is wanted for the new one.
+    delete window;
+    return Reload::Agreed;
 }
 
 /// Closes a window that is to be replaced; one that refuses stays open and becomes active.
@@ -85,8 +127,6 @@ bool DatasetOpener::close(QMdiSubWindow* window, const DatasetOrigin& origin)
         activate(window);
         return false;
     }
-    // Not left to the event loop: the memory of the old dataset is wanted for the new one.
-    delete window;
     return true;
 }
 
@@ -110,28 +150,40 @@ void DatasetOpener::openWaiting()
     }
 }
 
-bool DatasetOpener::load(const DatasetOrigin& origin)
+/// Reads a dataset into a window that is not shown yet; null, once it has been told, where that
+/// fails.
+std::unique_ptr<DatasetWindow> DatasetOpener::read(const DatasetOrigin& origin)
 {
     QString reason;
     {
         const WaitCursor waitCursor;
-        Result<OpenedDataset> loaded = m_surroundings.load(origin.filePath, OpenOptions());
+        Result<OpenedDataset> loaded =
+            m_surroundings.load(origin.filePath, {.member = origin.member().toStdString()});
         if (loaded) {
-            show(std::make_unique<DatasetWindow>(std::move(loaded.value().dataset), origin,
-                                                 m_surroundings.datasets));
-            emit signalRead(origin.filePath);
-            return true;
+            return std::make_unique<DatasetWindow>(std::move(loaded.value().dataset), origin,
+                                                   m_surroundings.datasets);
         }
         reason = QString::fromStdString(loaded.error());
     }
-    m_surroundings.prompts.warn(tr("Open File"),
-                                tr("Failed to open the file: %1").arg(origin.filePath), reason);
-    return false;
+    tellFailure(origin, reason);
+    return nullptr;
+}
+
+void DatasetOpener::tellFailure(const DatasetOrigin& origin, const QString& reason)
+{
+    const QString member = origin.member();
+    const QString text = member.isEmpty()
+        ? tr("Failed to open the file: %1").arg(origin.filePath)
+        : tr("Failed to open dataset '%1' in %2.").arg(member, origin.filePath);
+    m_surroundings.prompts.warn(tr("Open File"), text, reason);
 }
 
 void DatasetOpener::show(std::unique_ptr<DatasetWindow> window)
 {
+    const WaitCursor waitCursor;
     DatasetWindow* opened = window.get();
+    connect(opened, &DatasetWindow::signalReloadRequested, this,
+            [this](DatasetWindow* stale) { reload(*stale); });
     emit signalOpened(opened);
     m_surroundings.area.addSubWindow(window.release());  // which the area owns from here on
     m_openFiles.add(opened->fileKey(), opened);
@@ -139,11 +191,98 @@ void DatasetOpener::show(std::unique_ptr<DatasetWindow> window)
     emit signalShown(opened);
     activate(opened);
     opened->view()->setFocus();
+    followWindows();
+}
+
+void DatasetOpener::reloadActive()
+{
+    if (auto* window = qobject_cast<DatasetWindow*>(m_surroundings.area.currentSubWindow())) {
+        reload(*window);
+    }
+}
+
+void DatasetOpener::reload(DatasetWindow& window)
+{
+    const DatasetOrigin origin = originOf(window.origin().filePath, window.origin().member());
+    std::unique_ptr<DatasetWindow> renewed = read(origin);
+    if (renewed == nullptr) {
+        return;
+    }
+    const GridPlace place(*window.view());
+    const ViewState state = window.view()->opened()->state();
+    const auto tab = m_surroundings.area.subWindowList().indexOf(&window);
+    if (!close(&window, origin)) {
+        return;
+    }
+    DatasetWindow* shown = renewed.get();
+    show(std::move(renewed));
+    if (auto* tabs = m_surroundings.area.findChild<QTabBar*>()) {
+        tabs->moveTab(tabs->count() - 1, static_cast<int>(tab));
+    }
+    bringBack(*shown, state);
+    place.goTo(*shown->view());
+}
+
+/// A filter that the new dataset cannot have goes, and everything else stays.
+void DatasetOpener::bringBack(const DatasetWindow& window, ViewState state)
+{
+    OpenDataset& opened = *window.view()->opened();
+    const CommandOutcome problem = opened.restore(state);
+    if (problem) {
+        const QString filter = std::exchange(state.datasetFilter, QString());
+        static_cast<void>(opened.restore(state));
+        m_surroundings.prompts.warn(tr("Reload Dataset"),
+                                    tr("The filter could not be kept: %1").arg(filter),
+                                    problem->message);
+    }
 }
 
 void DatasetOpener::forget(DatasetWindow* window)
 {
     m_openFiles.remove(window->fileKey(), window);
+    followWindows();
+}
+
+// What becomes of the files
+
+QList<DatasetWindow*> DatasetOpener::windows() const
+{
+    QList<DatasetWindow*> windows;
+    for (QMdiSubWindow* window : m_openFiles.windows()) {
+        windows << qobject_cast<DatasetWindow*>(window);
+    }
+    return windows;
+}
+
+/// Names the windows that are open now, and watches their files.
+void DatasetOpener::followWindows()
+{
+    const QList<DatasetWindow*> open = windows();
+    tabtitles::show(m_surroundings.area, open);
+    QStringList paths;
+    for (const DatasetWindow* window : open) {
+        paths << window->origin().filePath;
+    }
+    m_watch.setFiles(paths);
+}
+
+void DatasetOpener::lookAtFiles(const QString& changed)
+{
+    for (DatasetWindow* window : windows()) {
+        const QString& path = window->origin().filePath;
+        if (path == changed || QFileInfo(path).path() == changed) {
+            window->lookAtFile();
+        }
+    }
+    followWindows();
+}
+
+void DatasetOpener::lookAtActiveFile(Qt::ApplicationState state)
+{
+    auto* window = qobject_cast<DatasetWindow*>(m_surroundings.area.currentSubWindow());
+    if (state == Qt::ApplicationActive && window != nullptr) {
+        window->lookAtFile();
+    }
 }
 
 void DatasetOpener::activate(QMdiSubWindow* window)

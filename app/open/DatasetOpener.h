@@ -1,7 +1,9 @@
 #pragma once
 
+#include "app/open/FileWatch.h"
 #include "app/open/OpenFilesMap.h"
 #include "data/readers/FileKinds.h"
+#include "grid/opened/ViewState.h"
 
 #include <QObject>
 #include <QString>
@@ -41,13 +43,18 @@ public:
 
     /// Lets the user choose files of a kind and opens them one by one.
     void chooseAndOpen(FileKind kind);
-    /// Opens one file. One that is open already is only activated, unless the user wants it
-    /// reloaded.
-    /// @return  whether the file is open now
+    /// Opens one file; of one that holds several datasets those that the user chooses. What is open
+    /// already is only activated, unless the user wants it reloaded.
+    /// @return  whether the file, or at least one of the chosen datasets, is open now
     bool open(const QString& path);
+    /// Opens one dataset of a file that holds several.
+    bool openMember(const QString& path, const QString& name);
     /// Opens files once nobody is asked anything and the event in hand is done: what comes from
     /// outside must not change what a question is about.
     void openLater(const QStringList& paths);
+    /// Reads the active dataset anew, and keeps what its user has made of it. Where the file cannot
+    /// be read the old one stays.
+    void reloadActive();
     /// Takes a window that closes out of the map.
     void forget(DatasetWindow* window);
 
@@ -69,15 +76,24 @@ private:
         Declined
     };
 
+    [[nodiscard]] bool openDatasetOf(const DatasetOrigin& origin);
     [[nodiscard]] Reload settleReload(const DatasetOrigin& origin);
     [[nodiscard]] bool close(QMdiSubWindow* window, const DatasetOrigin& origin);
     void openWaiting();
-    [[nodiscard]] bool load(const DatasetOrigin& origin);
+    [[nodiscard]] std::unique_ptr<DatasetWindow> read(const DatasetOrigin& origin);
+    void tellFailure(const DatasetOrigin& origin, const QString& reason);
     void show(std::unique_ptr<DatasetWindow> window);
+    void reload(DatasetWindow& window);
+    void bringBack(const DatasetWindow& window, ViewState state);
     void activate(QMdiSubWindow* window);
+    [[nodiscard]] QList<DatasetWindow*> windows() const;
+    void followWindows();
+    void lookAtFiles(const QString& changed);
+    void lookAtActiveFile(Qt::ApplicationState state);
 
     Surroundings m_surroundings;
     OpenFilesMap m_openFiles;
     QStringList m_waiting;
     QTimer m_retry;
+    FileWatch m_watch;
 };

@@ -23,3 +23,12 @@ QMdiSubWindow* OpenFilesMap::find(const QString& key) const
     const auto entry = m_windows.find(key);
     return entry == m_windows.end() ? nullptr : entry->second;
 }
+
+QList<QMdiSubWindow*> OpenFilesMap::windows() const
+{
+    QList<QMdiSubWindow*> windows;
+    for (const auto& [key, window] : m_windows) {
+        windows << window;
+    }
+    return windows;
+}

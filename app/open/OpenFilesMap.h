@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 #include <map>
@@ -17,6 +18,7 @@ public:
 
     /// The window of the key, or nullptr.
     [[nodiscard]] QMdiSubWindow* find(const QString& key) const;
+    [[nodiscard]] QList<QMdiSubWindow*> windows() const;
     [[nodiscard]] bool isEmpty() const { return m_windows.empty(); }
     [[nodiscard]] std::size_t size() const { return m_windows.size(); }
 

@@ -7,6 +7,7 @@
 #include <memory>
 
 class MainTableView;
+class NoticeBar;
 class OpenDataset;
 class StatDataset;
 struct OpenDatasets;
@@ -17,6 +18,10 @@ struct DatasetOrigin
     QString filePath;  ///< absolute
     QString fileKey;  ///< of the open-files map: the path, and "::name" for one dataset of several
     QDateTime fileTimestamp;  ///< when the file was last changed, as it was opened
+    qint64 fileSize = 0;  ///< bytes, as it was opened
+
+    /// The name of one dataset within a file of several; empty for a file's only one.
+    [[nodiscard]] QString member() const;
 };
 
 /// The sub-window of one open dataset. It owns the dataset, what its user has made of it, and the
@@ -34,12 +39,27 @@ public:
 
     [[nodiscard]] MainTableView* view() const { return m_view; }
     [[nodiscard]] StatDataset* dataset() const { return m_dataset.get(); }
-    [[nodiscard]] QString fileKey() const;
-    /// What the user calls the dataset: its name within a file of several, else the file's without
-    /// its suffix.
+    [[nodiscard]] QString fileKey() const { return m_origin.fileKey; }
+    [[nodiscard]] const DatasetOrigin& origin() const { return m_origin; }
+    /// What the user calls the dataset: the name that it has itself, else the file's without its
+    /// suffix.
     [[nodiscard]] const QString& datasetName() const { return m_datasetName; }
+    /// The path of the file, with the dataset's name behind it for one of several.
+    [[nodiscard]] QString path() const;
+    /// Where the dataset comes from and what it is about, as its tab tells it.
+    [[nodiscard]] QString tip() const;
+    /// What the main window is called while this dataset is in front.
+    [[nodiscard]] QString mainTitle() const;
+
+    /// Names the folder in the title, which tells this dataset from others of its name.
+    /// @param place  empty where there are none
+    void setPlace(const QString& place);
+    /// Compares the file with what it was when it was read, and says what has become of it.
+    void lookAtFile();
 
 signals:
+    /// The dataset is to be read anew.
+    void signalReloadRequested(DatasetWindow* window);
     /// The window has agreed to close and is about to be deleted.
     void signalClosed(DatasetWindow* window);
 
@@ -48,11 +68,17 @@ protected:
 
 private:
     void createGrid();
+    void createNotices();
+    void showTitle();
     void dropSystemMenuShortcuts();
     void addCloseKey();
 
     std::unique_ptr<StatDataset> m_dataset;
     std::unique_ptr<OpenDataset> m_opened;
+    DatasetOrigin m_origin;
     QString m_datasetName;
+    QString m_place;
+    QString m_fileState;  ///< what has become of the file since; empty for nothing
     MainTableView* m_view = nullptr;  ///< owned by this window as its child
+    NoticeBar* m_fileNotice = nullptr;
 };

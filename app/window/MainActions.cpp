@@ -67,6 +67,9 @@ void MainActions::createFileActions()
     close->setShortcut(Qt::CTRL | Qt::Key_W);
     closeAll = add("actionCloseAll", tr("Close All"));
     closeAll->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_W);
+    reload = add("actionReload", tr("Reload Dataset"));
+    reload->setShortcut(Qt::Key_F5);
+    reload->setStatusTip(tr("Read the file anew and keep filters, columns, order and place"));
     exit = add("actionExit", tr("Exit"));
     exit->setShortcut(Qt::CTRL | Qt::Key_Q);
     exit->setMenuRole(QAction::QuitRole);
@@ -167,8 +170,8 @@ void MainActions::drawIcons()
 
 void MainActions::setDatasetOpen(bool isOpen)
 {
-    for (QAction* action : {close, closeAll, find, findNext, findPrevious, submit, editDataFilter,
-                            goToDatasetFilter, nextDataset}) {
+    for (QAction* action : {reload, close, closeAll, find, findNext, findPrevious, submit,
+                            editDataFilter, goToDatasetFilter, nextDataset}) {
         action->setEnabled(isOpen);
     }
 }

@@ -59,6 +59,7 @@ public:
     QAction* goToDatasetFilter = nullptr;
     QAction* nextDataset = nullptr;
     QAction* resetArrangement = nullptr;
+    QAction* reload = nullptr;
     QActionGroup* layoutGroup = nullptr;
     std::array<QAction*, layoutCount> layouts{};
 

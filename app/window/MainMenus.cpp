@@ -29,7 +29,7 @@ void MainMenus::fillFileMenu(const MainActions& actions)
     m_file->addSeparator();
     m_file->addAction(actions.newSasProgram);
     m_file->addSeparator();
-    m_file->addActions({actions.close, actions.closeAll});
+    m_file->addActions({actions.reload, actions.close, actions.closeAll});
     m_file->addSeparator();
     m_file->addAction(actions.exit);
 }

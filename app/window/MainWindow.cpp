@@ -214,6 +214,7 @@ void MainWindow::connectActions()
     run(m_actions->toggleDarkMode, &MainWindow::toggleDarkMode);
     run(m_actions->editDataFilter, &MainWindow::editDataFilter);
     run(m_actions->nextDataset, &MainWindow::onSwitchWindow);
+    connect(m_actions->reload, &QAction::triggered, m_opener, &DatasetOpener::reloadActive);
     connect(m_actions->resetArrangement, &QAction::triggered, this,
             [this] { m_arrangement->reset(); });
     for (std::size_t layout = 0; layout < m_actions->layouts.size(); ++layout) {
@@ -295,6 +296,7 @@ void MainWindow::activeWindow(QMdiSubWindow* window)
     connectGrid(m_activeView);
     m_boxes->setGrid(m_activeView);
     m_navigation->setGrid(m_activeView);
+    setWindowTitle(active->mainTitle());
     m_docks->showTitlesOf(active->datasetName());
     m_docks->univariate()->setWidget(m_activeView->statisticsTable());
     updateStatus();
@@ -320,6 +322,7 @@ void MainWindow::showWhatIsOpen()
     m_actions->setDatasetOpen(isAny);
     m_area->showDatasets(isAny);
     if (!isAny) {
+        setWindowTitle(tr("Quorlane"));
         m_counters->showNothingOpen();
         m_counters->setLibraryFilter(m_gridServices->datasets().libraryFilter.text(), QString());
         m_docks->showTitlesOf(QString());

@@ -1,3 +1,4 @@
+#include "app/window/NoticeBar.h"
 #include "data/StatDataset.h"
 #include "samples/TableWriter.h"
 #include "tests/support/WindowFixture.h"
@@ -8,7 +9,9 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QPointer>
+#include <QPushButton>
 #include <QSettings>
+#include <QTabBar>
 #include <QToolBar>
 
 /// The main window: which files it opens and closes, its docks and looks, and what it remembers.
@@ -27,6 +30,10 @@ private slots:
     void keysSwitchAndCloseDatasets();
     void droppedFilesOpen();
     void receivedFilesWaitForOpenQuestions();
+    void datasetsOfOneNameAreToldApart();
+    void datasetsOfAFileAreChosenAndOpened();
+    void reloadKeepsWhatTheUserHasMade();
+    void whatMayBeDamagedIsToldAboveTheGrid();
     void layoutsDivideTheWidth();
     void docksAreShownInFrontAndPutBack();
     void whatIsSetIsKeptForTheNextStart();
@@ -215,6 +222,131 @@ void TestMainWindow::receivedFilesWaitForOpenQuestions()
     QVERIFY(titles().isEmpty());
     question.close();
     QTRY_COMPARE(titles(), QStringList("dm"));
+}
+
+void TestMainWindow::datasetsOfOneNameAreToldApart()
+{
+    const auto openThem = [this](const QStringList& names) {
+        trigger("actionCloseAll");
+        for (const QString& name : names) {
+            open(name);
+        }
+        return titles();
+    };
+    QCOMPARE(openThem({"a/dm.x", "b/dm.x", "b/ae.x"}),
+             QStringList({"dm.x (in a)", "dm.x (in b)", "ae.x"}));
+    const auto* tabs = area().findChild<QTabBar*>();
+    QCOMPARE(tabs->tabToolTip(1), path("b/dm.x"));
+    QCOMPARE(window->windowTitle(), "ae - " + path("b/ae.x") + " - Quorlane");
+    datasetAt(0)->close();
+    QCOMPARE(titles(), QStringList({"dm.x", "ae.x"}));
+    QCOMPARE(openThem({"s1/data/dm", "s2/data/dm", "dm"}),
+             QStringList({"dm (in s1/data)", "dm (in s2/data)",
+                          "dm (in " + QFileInfo(folder->path()).fileName() + ")"}));
+    trigger("actionCloseAll");
+    QCOMPARE(window->windowTitle(), "Quorlane");
+}
+
+void TestMainWindow::datasetsOfAFileAreChosenAndOpened()
+{
+    openWindow(true);
+    samples::Table members[3];
+    for (std::size_t i = 0; i < 3; ++i) {
+        members[i].name = std::array{"DM", "AE", "LB"}[i];
+        members[i].label = "Study";
+        members[i].columns = {samples::numberColumn("N", "Number")};
+        members[i].rows = {{double(i)}};
+    }
+    const QString file = path("study.xpt");
+    samples::writeTransport(file.toStdString(), members);
+    QVERIFY(!window->openDatasetFile(file));
+    script.chosenDatasets = {"AE", "LB"};
+    QVERIFY(window->openDatasetFile(file));
+    QCOMPARE(notes(), QStringList(2, "datasets|study.xpt|DM AE LB"));
+    QCOMPARE(titles(), QStringList({"AE (in study.xpt)", "LB (in study.xpt)"}));
+    QCOMPARE(window->openFiles().find(file + "::LB"), active());
+    QCOMPARE(active()->property("filePath").toString(), file);
+    QCOMPARE(dock("Variables")->windowTitle(), "Variable - LB");
+    QCOMPARE(area().findChild<QTabBar*>()->tabToolTip(0), file + "\nStudy");
+
+    script.chosenDatasets = {"AE"};
+    QVERIFY(window->openDatasetFile(file));
+    QVERIFY(notes().last().startsWith("confirm|Reload Dataset|\"AE\" is already open."));
+    trigger("actionReload");
+    QCOMPARE(view().model()->index(0, 0).data().toString(), "1");
+    QVERIFY(QFile::remove(file));
+    trigger("actionReload");
+    QCOMPARE(notes().join('\n').section('|', 0, 2),
+             "warn|Open File|Failed to open dataset 'AE' in " + file + ".");
+}
+
+void TestMainWindow::reloadKeepsWhatTheUserHasMade()
+{
+    openWindow(true);
+    samples::Table table;
+    table.columns = {samples::textColumn("SEX", "Sex"), samples::numberColumn("AGE", "Age"),
+                     samples::numberColumn("ID", "Number")};
+    table.rows = {{"F", 44.0, 1.0}, {"M", 31.0, 2.0}, {"F", 52.0, 3.0}, {"M", 60.0, 4.0}};
+    const QString file = path("dm.xpt");
+    const auto replace = [&] {
+        samples::writeTable(path("new.xpt").toStdString(), table);
+        QFile::remove(file);
+        QVERIFY(QFile::rename(path("new.xpt"), file));
+    };
+    replace();
+    window->openDatasetFile(file);
+    window->openDatasetFile(write("ae.xpt"));
+    activate(0);
+    submit("comboBoxDf", "if AGE > 40");
+    view().onHeaderClicked(1);
+    view().setCurrentIndex(view().model()->index(view().tableModel()->rowOf(2), 2));
+    view().run(GridCommand::ShiftLeft);
+    view().opened()->setShown({{0}}, false);
+    view().setColumnWidth(1, 177);
+    const ViewState state = view().opened()->state();
+
+    table.rows.push_back({"F", 71.0, 5.0});
+    table.rows[0][1] = 39.0;
+    replace();
+    QTRY_COMPARE(titles().at(0), "dm.xpt - changed on disk");
+    auto* notice = active()->findChild<NoticeBar*>("fileNotice");
+    QVERIFY(notice->isVisible() && notice->text().contains("changed"));
+    QTest::keyClick(&view(), Qt::Key_F5);
+    QCOMPARE(titles(), QStringList({"dm.xpt", "ae.xpt"}));
+    QVERIFY(active() == datasetAt(0) && view().hasFocus());
+    QVERIFY(!active()->findChild<NoticeBar*>("fileNotice")->isVisible());
+    QCOMPARE(rows(), "Rows: 3/5");
+    QVERIFY(view().opened()->state() == state);
+    QCOMPARE(boxText("comboBoxDf"), state.datasetFilter);
+    QCOMPARE(view().tableModel()->observationAt(view().currentIndex().row()), 2);
+    QCOMPARE(view().currentIndex().column(), 2);
+    QCOMPARE(view().columnWidth(1), 177);
+
+    table.columns[1] = samples::numberColumn("AGEY", "Age");
+    replace();
+    QTRY_COMPARE(titles().at(0), "dm.xpt - changed on disk");
+    active()->findChild<NoticeBar*>("fileNotice")->findChild<QPushButton*>()->click();
+    QTRY_COMPARE(titles().at(0), "dm.xpt");
+    QVERIFY(notes().join('\n').contains("could not be kept: if AGE > 40|"));
+    QCOMPARE(status().mid(0, 2), QStringList({"Rows: 5/5", "Vars: 2/3"}));
+
+    const DatasetWindow* last = active();
+    QVERIFY(QFile::remove(file));
+    QTRY_COMPARE(titles().at(0), "dm.xpt - gone from disk");
+    trigger("actionReload");
+    QVERIFY(notes().join('\n').startsWith("warn|Open File|"));
+    QCOMPARE(active(), last);
+    QCOMPARE(window->openFiles().find(file), last);
+}
+
+void TestMainWindow::whatMayBeDamagedIsToldAboveTheGrid()
+{
+    const auto notice = [this] { return active()->findChild<NoticeBar*>("damageNotice"); };
+    open("worn");
+    QVERIFY(notice()->isVisible() && notice()->geometry().bottom() < view().geometry().top());
+    QCOMPARE(notice()->text(), "Its end may be missing.");
+    open("dm");
+    QVERIFY(!notice()->isVisible());
 }
 
 void TestMainWindow::layoutsDivideTheWidth()

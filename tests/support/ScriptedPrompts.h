@@ -17,6 +17,7 @@ public:
         bool opening = false;
         std::function<void()> whileAsked{};  ///< what happens while a question is open
         QStringList chosenFiles{};
+        QStringList chosenDatasets{};
         std::optional<QString> dataFilter{};  ///< once; then the user cancels
         QString uniqueVarName{};  ///< kept as it is when empty
         QStringList notes{};  ///< one line "kind|title|text|..." for each prompt, in order
@@ -56,6 +57,12 @@ public:
     {
         m_script.notes << QStringList({"files", title, folder, filters}).join('|');
         return m_script.chosenFiles;
+    }
+    [[nodiscard]] QStringList chooseDatasets(const QString& fileName,
+                                             const QStringList& names) override
+    {
+        m_script.notes << QStringList({"datasets", fileName, names.join(' ')}).join('|');
+        return m_script.chosenDatasets;
     }
     [[nodiscard]] std::optional<QString> editDataFilter(const QString& condition) override
     {

@@ -29,7 +29,7 @@
 /// A main window that keeps everything in a folder of its own, to be inherited by its tests.
 ///
 /// What stands in for the readers goes by the file's name: "ts..." is two rows of TSPARM, "bad..."
-/// cannot be read, and any other is SEX and AGE with F 30, M 40, F 50.
+/// cannot be read, and any other is SEX and AGE with F 30, M 40, F 50; "worn..." may be damaged.
 class WindowFixture
 {
 protected:
@@ -149,6 +149,9 @@ private:
         } else {
             dataset->variable("SEX", TypeCode::Character).variable("AGE", TypeCode::Double);
             dataset->row({"F", 30.0}).row({"M", 40.0}).row({"F", 50.0});
+        }
+        if (name.startsWith("worn")) {
+            dataset->addDamageNote("Its end may be missing.");
         }
         OpenedDataset opened;
         opened.dataset = std::move(dataset);
