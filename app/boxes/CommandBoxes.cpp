@@ -3,6 +3,7 @@
 #include "app/boxes/CommandBar.h"
 #include "app/window/GridServices.h"
 #include "grid/MainTableView.h"
+#include "grid/WaitCursor.h"
 
 #include <QMainWindow>
 
@@ -20,31 +21,45 @@ CommandBoxes::CommandBoxes(QMainWindow& window, GridServices& services)
     : QObject(&window)
     , m_window(window)
     , m_services(services)
-    , m_datasetFilter(
-          addBar(tr("Dataset Filter"), QStringLiteral("toolBarDf"), QStringLiteral("comboBoxDf")))
-    , m_libraryFilter(
-          addBar(tr("Library Filter"), QStringLiteral("toolBarLf"), QStringLiteral("comboBoxLf")))
-    , m_byVariables(
-          addBar(tr("By Variables"), QStringLiteral("toolBarBy"), QStringLiteral("comboBoxBy")))
+    , m_datasetFilter(addBar(tr("Dataset Filter"), QStringLiteral("toolBarDf"),
+                             QStringLiteral("comboBoxDf"), BoxLine::Box::DatasetFilter))
+    , m_libraryFilter(addBar(tr("Library Filter"), QStringLiteral("toolBarLf"),
+                             QStringLiteral("comboBoxLf"), BoxLine::Box::LibraryFilter))
+    , m_byVariables(addBar(tr("By Variables"), QStringLiteral("toolBarBy"),
+                           QStringLiteral("comboBoxBy"), BoxLine::Box::ByVariables))
 {
     constexpr int wide = 36;
     constexpr int narrow = 14;
     m_datasetFilter->setUsualWidth(wide);
     m_byVariables->setUsualWidth(narrow);
-    connect(m_datasetFilter, &CommandBar::signalSubmitted, this,
-            &CommandBoxes::submitDatasetFilter);
-    connect(m_libraryFilter, &CommandBar::signalSubmitted, this,
-            &CommandBoxes::submitLibraryFilter);
-    connect(m_byVariables, &CommandBar::signalSubmitted, this, &CommandBoxes::submitByVariables);
 }
 
 CommandBar* CommandBoxes::addBar(const QString& title, const QString& barName,
-                                 const QString& boxName)
+                                 const QString& boxName, BoxLine::Box box)
 {
     auto* bar = new CommandBar(title, barName, boxName, &m_window);
     m_window.addToolBar(bar);
+    connect(bar, &CommandBar::signalSubmitted, this,
+            [this, box](const QString& line, bool isEdited) { submit(box, line, isEdited); });
+    connect(bar, &CommandBar::signalCleared, this, [this, box] {
+        (void)run({box});
+        setGrid(m_grid);
+    });
     connect(bar, &CommandBar::signalLeft, this, &CommandBoxes::leaveBoxes);
     return bar;
+}
+
+CommandBar& CommandBoxes::barOf(BoxLine::Box box) const
+{
+    switch (box) {
+    case BoxLine::Box::DatasetFilter:
+        return *m_datasetFilter;
+    case BoxLine::Box::LibraryFilter:
+        return *m_libraryFilter;
+    case BoxLine::Box::ByVariables:
+        break;
+    }
+    return *m_byVariables;
 }
 
 void CommandBoxes::setGrid(MainTableView* grid)
@@ -57,72 +72,45 @@ void CommandBoxes::setGrid(MainTableView* grid)
 
 void CommandBoxes::showDatasetFilter(const QString& text)
 {
-    m_datasetFilter->setText(text);
+    m_datasetFilter->showInForce(text);
 }
 
 void CommandBoxes::showLibraryFilter(const QString& text)
 {
-    m_libraryFilter->setText(text);
+    m_libraryFilter->showInForce(text);
 }
 
 void CommandBoxes::showByVariables()
 {
-    QStringList names;
-    if (m_grid != nullptr) {
-        for (const std::string& name : m_grid->opened()->byVariables()) {
-            names << QString::fromStdString(name);
-        }
-    }
-    m_byVariables->setText(names.join(u' '));
+    m_byVariables->showInForce(m_grid == nullptr ? QString() : m_grid->opened()->byText());
 }
 
-/// An empty line takes the filter away, as it leaves the box the way it is without one. The line
-/// that the box shows anyway changes nothing.
-void CommandBoxes::submitDatasetFilter(const QString& line)
+void CommandBoxes::submit(BoxLine::Box box, const QString& line, bool isEdited)
 {
-    if (m_grid == nullptr) {
+    CommandBar& bar = barOf(box);
+    const QString text = boxline::trimmed(line);
+    const bool isNew = !text.isEmpty() && text != bar.inForce();
+    // What was edited once may hold what nobody can type.
+    const Dialect dialect =
+        isEdited || bar.remembers(text) ? Dialect::FilterText : Dialect::Command;
+    if (const CommandOutcome outcome = run({box, text, isEdited, dialect})) {
+        bar.tell(*outcome);
         return;
     }
-    const QString text = line.trimmed();
-    if (text.isEmpty()) {
-        m_grid->run(GridCommand::ClearDatasetFilter);
-    } else if (text != m_grid->opened()->datasetFilterText()) {
-        if (!run(line)) {
-            return;
-        }
-        m_datasetFilter->remember(line);
+    if (isNew) {
+        bar.remember(text);
     }
     leaveBoxes();
 }
 
-void CommandBoxes::submitLibraryFilter(const QString& line)
+CommandOutcome CommandBoxes::run(const BoxLine& line)
 {
-    const QString text = line.trimmed();
-    if (text.isEmpty()) {
-        m_services.datasets().libraryFilter.clear();
-        emit signalLibraryFilterSubmitted();
-    } else if (text != m_services.datasets().libraryFilter.text()) {
-        const bool hasSucceeded = run(line);
-        // A command fails after it has acted when text trails behind it.
-        emit signalLibraryFilterSubmitted();
-        if (!hasSucceeded) {
-            return;
-        }
-        m_libraryFilter->remember(line);
-    }
-    leaveBoxes();
-}
-
-/// Names of variables become the list, "by" in front of them or not; any other line is a command.
-void CommandBoxes::submitByVariables(const QString& line)
-{
-    if (m_grid == nullptr || (!m_grid->opened()->setByVariables(line) && !run(line))) {
-        return;
-    }
-    if (!line.trimmed().isEmpty()) {
-        m_byVariables->remember(line);
-    }
-    leaveBoxes();
+    const WaitCursor waitCursor;
+    CommandOutcome outcome = boxline::run(line, m_grid == nullptr ? nullptr : m_grid->opened(),
+                                          m_services.datasets().libraryFilter);
+    // A command fails after it has acted when text trails behind it.
+    emit signalLibraryFilterSubmitted();
+    return outcome;
 }
 
 bool CommandBoxes::applyDataFilter(const QString& condition)
@@ -131,13 +119,14 @@ bool CommandBoxes::applyDataFilter(const QString& condition)
         || condition.trimmed() == conditionOf(m_grid->opened()->datasetFilterText())) {
         return true;
     }
-    const QString plain = conditionOf(condition.trimmed());
+    const QString plain = conditionOf(boxline::trimmed(condition));
     if (plain.isEmpty()) {
         m_grid->run(GridCommand::ClearDatasetFilter);
         return true;
     }
-    const CommandOutcome outcome = m_grid->opened()->run(statementOf(plain), Dialect::FilterText,
-                                                         OpenDataset::IfCommand::Replaces);
+    const CommandOutcome outcome = m_grid->opened()->run(
+        statementOf(plain),
+        CommandReading{Dialect::FilterText, CommandReading::InForce::IsReplaced});
     if (!m_services.report(outcome)) {
         return false;
     }
@@ -151,11 +140,6 @@ QString CommandBoxes::conditionOf(const QString& datasetFilterText)
     return datasetFilterText.startsWith(keyword, Qt::CaseInsensitive)
         ? datasetFilterText.mid(keyword.size())
         : datasetFilterText;
-}
-
-bool CommandBoxes::run(const QString& command)
-{
-    return m_services.run(m_grid == nullptr ? nullptr : m_grid->opened(), command);
 }
 
 /// Goes back to the grid. The boxes show what is in force there, whatever was typed.

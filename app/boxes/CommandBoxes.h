@@ -1,5 +1,7 @@
 #pragma once
 
+#include "grid/opened/BoxLine.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -41,11 +43,10 @@ signals:
 
 private:
     [[nodiscard]] CommandBar* addBar(const QString& title, const QString& barName,
-                                     const QString& boxName);
-    void submitDatasetFilter(const QString& line);
-    void submitLibraryFilter(const QString& line);
-    void submitByVariables(const QString& line);
-    [[nodiscard]] bool run(const QString& command);
+                                     const QString& boxName, BoxLine::Box box);
+    void submit(BoxLine::Box box, const QString& line, bool isEdited);
+    [[nodiscard]] CommandOutcome run(const BoxLine& line);
+    [[nodiscard]] CommandBar& barOf(BoxLine::Box box) const;
     void leaveBoxes();
 
     QMainWindow& m_window;

@@ -5,19 +5,20 @@
 
 #include <spdlog/spdlog.h>
 
-#include <QCoreApplication>
-
 namespace programrunner {
 namespace {
 
 bool setByVariables(const ProgramStatement& statement, OpenDataset& opened, GridServices& services)
 {
-    if (opened.setByVariables(statement.names.join(u' '))) {
-        return true;
+    std::vector<WrittenName> names;
+    for (const QString& name : statement.names) {
+        names.push_back({name});
     }
-    return services.report(CommandFailure{
-        QCoreApplication::translate("ProgramRunner", "Not all of these are variables."),
-        statement.text});
+    CommandOutcome outcome = opened.setByVariables(names);
+    if (outcome) {
+        outcome->command = statement.text;
+    }
+    return services.report(outcome);
 }
 
 /// @return  whether the program may go on

@@ -11,6 +11,12 @@ namespace {
 
 constexpr int widestInLetters = 60;
 
+/// The beginning of a text, which may be a list of tens of thousands of values.
+QString beginning(const QString& text, qsizetype longest)
+{
+    return text.size() <= longest ? text : text.first(longest - 1) + QChar(0x2026);
+}
+
 }  // namespace
 
 QSize ElidedLabel::minimumSizeHint() const
@@ -18,27 +24,32 @@ QSize ElidedLabel::minimumSizeHint() const
     const QMargins margins = contentsMargins();
     const int dots = fontMetrics().horizontalAdvance(QStringLiteral("DF: ..."));
     return {std::min(dots + margins.left() + margins.right(), sizeHint().width()),
-            QLabel::minimumSizeHint().height()};
+            sizeHint().height()};
 }
 
 QSize ElidedLabel::sizeHint() const
 {
-    const QSize whole = QLabel::sizeHint();
-    return {std::min(whole.width(), widestInLetters * fontMetrics().averageCharWidth()),
-            whole.height()};
+    // QLabel would lay out the whole text.
+    const QMargins margins = contentsMargins();
+    const int whole = fontMetrics().horizontalAdvance(beginning(text(), 4 * widestInLetters));
+    return {std::min(whole + margins.left() + margins.right(),
+                     widestInLetters * fontMetrics().averageCharWidth()),
+            fontMetrics().height() + margins.top() + margins.bottom()};
 }
 
 QString ElidedLabel::shownText() const
 {
-    return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+    const int width = contentsRect().width();
+    return fontMetrics().elidedText(beginning(text(), width + 1), Qt::ElideRight, width);
 }
 
 bool ElidedLabel::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+        constexpr qsizetype longestTip = 3000;
         const bool isCut = shownText() != text();
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), isCut ? text() : QString(),
-                           this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                           isCut ? beginning(text(), longestTip) : QString(), this);
         return true;
     }
     return QLabel::event(event);

@@ -2,11 +2,21 @@
 
 #include "app/dialogs/UserPrompts.h"
 #include "grid/MainTableView.h"
-#include "grid/WaitCursor.h"
 
 #include <spdlog/spdlog.h>
 
 #include <QStatusBar>
+
+namespace {
+
+/// A text of any length in a few lines.
+QString shortened(const QString& text)
+{
+    constexpr qsizetype longest = 300;
+    return text.size() <= longest ? text : text.first(longest - 1) + QChar(0x2026);
+}
+
+}  // namespace
 
 GridServices::GridServices(UserPrompts& prompts, QStatusBar& statusBar)
     : m_prompts(prompts)
@@ -23,20 +33,10 @@ void GridServices::serve(MainTableView& grid)
             &GridServices::signalFontSizeChanged);
 }
 
-bool GridServices::run(OpenDataset* opened, const QString& command)
-{
-    const auto outcome = [&] {
-        const WaitCursor waitCursor;
-        return opened == nullptr ? m_datasets.libraryFilter.run(command)
-                                 : opened->run(command, Dialect::Command);
-    }();
-    return report(outcome);
-}
-
 bool GridServices::report(const CommandOutcome& outcome)
 {
     if (outcome) {
-        m_prompts.warn(tr("Command"), outcome->message, outcome->command);
+        m_prompts.warn(tr("Command"), shortened(outcome->message), shortened(outcome->command));
     }
     return !outcome.has_value();
 }

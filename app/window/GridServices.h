@@ -24,11 +24,7 @@ public:
     /// Listens to a grid from now on.
     void serve(MainTableView& grid);
 
-    /// Runs a typed command on a dataset and tells what goes wrong.
-    /// @param opened  null for none, where only the library filter can be set or cleared
-    /// @return        whether nothing did
-    bool run(OpenDataset* opened, const QString& command);
-    /// Tells what went wrong, if anything did.
+    /// Tells what went wrong, if anything did, in a few lines.
     /// @return  whether nothing did
     bool report(const CommandOutcome& outcome);
     /// Tells something in passing.

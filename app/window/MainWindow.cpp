@@ -367,7 +367,7 @@ void MainWindow::setLabelStatusBarVar(const QString& text)
 void MainWindow::setLabelStatusBarBy()
 {
     if (m_activeView != nullptr) {
-        m_counters->setByVariables(m_activeView->opened()->byVariables());
+        m_counters->setByVariables(m_activeView->opened()->byText());
         m_boxes->showByVariables();
     }
 }

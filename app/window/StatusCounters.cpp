@@ -3,7 +3,6 @@
 #include "app/window/ElidedLabel.h"
 
 #include <QStatusBar>
-#include <QStringList>
 
 namespace {
 
@@ -41,13 +40,9 @@ void StatusCounters::setVariables(const QString& text)
     m_variables->setText(text);
 }
 
-void StatusCounters::setByVariables(const std::vector<std::string>& names)
+void StatusCounters::setByVariables(const QString& names)
 {
-    QStringList list;
-    for (const std::string& name : names) {
-        list << QString::fromStdString(name);
-    }
-    m_by->setText(list.isEmpty() ? tr("By: NA") : tr("By: %1").arg(list.join(u' ')));
+    m_by->setText(names.isEmpty() ? tr("By: NA") : tr("By: %1").arg(names));
 }
 
 void StatusCounters::setLibraryFilter(const QString& filter, const QString& problem)

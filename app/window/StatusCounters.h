@@ -2,9 +2,6 @@
 
 #include <QCoreApplication>
 
-#include <string>
-#include <vector>
-
 class QLabel;
 class QStatusBar;
 class QString;
@@ -20,7 +17,8 @@ public:
 
     void setRows(const QString& text);
     void setVariables(const QString& text);
-    void setByVariables(const std::vector<std::string>& names);
+    /// @param names  as they can be typed; empty for none
+    void setByVariables(const QString& names);
     /// @param filter   empty when none is in force
     /// @param problem  why it does not filter the active dataset; empty if it does
     void setLibraryFilter(const QString& filter, const QString& problem);

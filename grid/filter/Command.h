@@ -2,9 +2,9 @@
 
 #include "grid/filter/ConditionParser.h"
 
-#include <QStringList>
-
+#include <optional>
 #include <variant>
+#include <vector>
 
 /// What a command asks for, as it was read. Names come as they were typed, in their order; whoever
 /// carries the command out looks them up.
@@ -16,15 +16,15 @@ struct Command
     { };
     struct KeepVariables
     {
-        QStringList names;
+        std::vector<WrittenName> names;
     };
     struct DropVariables
     {
-        QStringList names;
+        std::vector<WrittenName> names;
     };
     struct FrequencyTable
     {
-        QStringList names;
+        std::vector<WrittenName> names;
         bool frequencyN = false;  ///< count distinct subjects
     };
     struct SetLibraryFilter
@@ -39,7 +39,7 @@ struct Command
                                 DropVariables, FrequencyTable, SetLibraryFilter, AddDatasetFilter>;
 
     Action action;
-    /// Something follows the command, which acts all the same; ParseError::trailingText comes
+    /// Where something follows the command, which acts all the same; ParseError::trailingText comes
     /// afterwards.
-    bool hasTrailingText = false;
+    std::optional<qsizetype> trailingText;
 };

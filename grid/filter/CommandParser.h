@@ -10,8 +10,19 @@
 class CommandParser
 {
 public:
+    /// What a condition is that stands for itself, without a command's word in front.
+    enum class BareCondition
+    {
+        IsNone,
+        IsWhere,
+        IsIf,
+    };
+
     /// Throws ParseError for a text that begins with no whole command.
-    [[nodiscard]] static Command parse(QStringView commandText, Dialect dialect);
+    [[nodiscard]] static Command parse(QStringView commandText, Dialect dialect,
+                                       BareCondition bare = BareCondition::IsNone);
+    /// Whether a text begins with the word of a command.
+    [[nodiscard]] static bool beginsCommand(QStringView text);
 
 private:
     CommandParser(QStringView commandText, Dialect dialect)
@@ -19,9 +30,11 @@ private:
     { }
 
     Command::Action action();
+    Command::Action actionOf(QStringView word);
     Command::Action clearedFilter();
-    QStringList listedVariables();
-    QStringList crossedVariables();
+    std::vector<WrittenName> listedVariables();
+    std::vector<WrittenName> crossedVariables();
+    WrittenName variable(const char* message);
 
     TokenStream m_tokens;
 };

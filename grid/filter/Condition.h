@@ -8,17 +8,25 @@
 #include <variant>
 #include <vector>
 
-/// A value as a condition writes it.
+/// A name as a command writes it, and where.
+struct WrittenName
+{
+    QString name;  ///< without the dress of a name literal
+    qsizetype position = 0;
+};
+
+/// A value as a condition writes it, and where.
 struct Literal
 {
     TokenKind kind = TokenKind::Number;  ///< String or Number
     QString text;  ///< with quotes and suffix
+    qsizetype position = 0;
 };
 
 /// variable op value
 struct CompareTerm
 {
-    QString variable;
+    WrittenName variable;
     CompareOp op = CompareOp::Equal;
     Literal value;
 };
@@ -26,7 +34,7 @@ struct CompareTerm
 /// index(variable, needle) op value
 struct IndexTerm
 {
-    QString variable;
+    WrittenName variable;
     Literal needle;
     CompareOp op = CompareOp::Equal;
     Literal value;
@@ -35,7 +43,7 @@ struct IndexTerm
 /// variable [not] in (values)
 struct InTerm
 {
-    QString variable;
+    WrittenName variable;
     bool negated = false;
     std::vector<Literal> values;
 };
@@ -43,7 +51,7 @@ struct InTerm
 /// variable is [not] null
 struct NullTerm
 {
-    QString variable;
+    WrittenName variable;
     bool negated = false;
 };
 

@@ -13,9 +13,9 @@ namespace {
 
 using Kind = LiteralValue::Kind;
 
-[[noreturn]] void refuseTypes()
+[[noreturn]] void refuseTypes(qsizetype position)
 {
-    throw ParseError("The variable types do not match.");
+    throw ParseError("The variable types do not match.", position);
 }
 
 RowPredicatePointer negatedIf(bool negated, RowPredicatePointer predicate)
@@ -61,7 +61,7 @@ RowPredicatePointer ConditionCompiler::compile(const Condition& condition) const
 
 RowPredicatePointer ConditionCompiler::compile(const CompareTerm& term) const
 {
-    const int variable = variableNamed(term.variable);
+    const int variable = variablenames::require(m_dataset, term.variable);
     const LiteralValue value = valueOf(term.value);
     return m_dataset.isNumeric(variable) ? compareNumber(variable, term.op, value)
                                          : compareText(variable, term.op, value);
@@ -69,12 +69,12 @@ RowPredicatePointer ConditionCompiler::compile(const CompareTerm& term) const
 
 RowPredicatePointer ConditionCompiler::compile(const IndexTerm& term) const
 {
-    const int variable = variableNamed(term.variable);
+    const int variable = variablenames::require(m_dataset, term.variable);
     const LiteralValue needle = valueOf(term.needle);
     const LiteralValue place = valueOf(term.value);
     if (m_dataset.isNumeric(variable) || needle.kind != Kind::Text || place.kind == Kind::Text
         || term.op == CompareOp::Contains) {
-        refuseTypes();
+        refuseTypes(term.variable.position);
     }
     if (place.kind == Kind::Missing) {
         return compareWithMissing(term.op, rowpredicates::constant(false));
@@ -85,7 +85,7 @@ RowPredicatePointer ConditionCompiler::compile(const IndexTerm& term) const
 
 RowPredicatePointer ConditionCompiler::compile(const InTerm& term) const
 {
-    const int variable = variableNamed(term.variable);
+    const int variable = variablenames::require(m_dataset, term.variable);
     std::vector<LiteralValue> values;
     for (const Literal& literal : term.values) {
         values.push_back(valueOf(literal));
@@ -97,7 +97,7 @@ RowPredicatePointer ConditionCompiler::compile(const InTerm& term) const
 
 RowPredicatePointer ConditionCompiler::compile(const NullTerm& term) const
 {
-    const int variable = variableNamed(term.variable);
+    const int variable = variablenames::require(m_dataset, term.variable);
     return negatedIf(term.negated, isMissing(variable));
 }
 
@@ -111,20 +111,11 @@ RowPredicatePointer ConditionCompiler::compile(const Junction& junction) const
                           : rowpredicates::disjunction(std::move(predicates));
 }
 
-int ConditionCompiler::variableNamed(const QString& name) const
-{
-    const std::optional<int> variable = variablenames::find(m_dataset, name);
-    if (!variable) {
-        throw ParseError(fmt::format("There is no variable named {}", name.toStdString()));
-    }
-    return *variable;
-}
-
 RowPredicatePointer ConditionCompiler::compareNumber(int variable, CompareOp op,
                                                      const LiteralValue& value) const
 {
     if (value.kind == Kind::Text || op == CompareOp::Contains) {
-        refuseTypes();
+        refuseTypes(value.position);
     }
     if (value.kind == Kind::Missing) {
         return compareWithMissing(op, isMissing(variable));
@@ -136,10 +127,8 @@ RowPredicatePointer ConditionCompiler::compareNumber(int variable, CompareOp op,
 RowPredicatePointer ConditionCompiler::compareText(int variable, CompareOp op,
                                                    const LiteralValue& value) const
 {
-    // A text that is missing is blank, so the number "." is the blank text here.
-    const bool isMissingNumber = value.kind == Kind::Missing && op != CompareOp::Contains;
-    if (value.kind != Kind::Text && !isMissingNumber) {
-        refuseTypes();
+    if (value.kind != Kind::Text) {
+        refuseTypes(value.position);
     }
     return textpredicates::compare(textColumn(m_dataset, variable), op, value.text);
 }
@@ -151,7 +140,7 @@ RowPredicatePointer ConditionCompiler::numberIsIn(int variable,
     bool hasMissing = false;
     for (const LiteralValue& value : values) {
         if (value.kind == Kind::Text) {
-            refuseTypes();
+            refuseTypes(value.position);
         }
         if (value.kind == Kind::Missing) {
             hasMissing = true;
@@ -174,8 +163,8 @@ RowPredicatePointer ConditionCompiler::textIsIn(int variable,
 {
     std::vector<std::string> texts;
     for (const LiteralValue& value : values) {
-        if (value.kind != Kind::Text && value.kind != Kind::Missing) {
-            refuseTypes();
+        if (value.kind != Kind::Text) {
+            refuseTypes(value.position);
         }
         texts.push_back(value.text);
     }
@@ -199,9 +188,11 @@ double ConditionCompiler::storedCount(int variable, const LiteralValue& value) c
     const std::optional<double> count =
         m_dataset.dateScale(variable).storedCount(value.content(), value.number);
     if (!count) {
-        throw ParseError(fmt::format(
-            "{} does not count days or seconds and cannot be compared with a date or time",
-            m_dataset.names()[static_cast<std::size_t>(variable)]));
+        throw ParseError(
+            fmt::format(
+                "{} does not count days or seconds and cannot be compared with a date or time",
+                m_dataset.names()[static_cast<std::size_t>(variable)]),
+            value.position);
     }
     return *count;
 }

@@ -26,7 +26,6 @@ private:
     [[nodiscard]] RowPredicatePointer compile(const NullTerm& term) const;
     [[nodiscard]] RowPredicatePointer compile(const Junction& junction) const;
 
-    [[nodiscard]] int variableNamed(const QString& name) const;
     [[nodiscard]] RowPredicatePointer compareNumber(int variable, CompareOp op,
                                                     const LiteralValue& value) const;
     [[nodiscard]] RowPredicatePointer compareText(int variable, CompareOp op,

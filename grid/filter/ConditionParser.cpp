@@ -7,6 +7,11 @@ namespace {
 /// Deeper nesting is nobody's condition and would use up the stack.
 constexpr int deepestNesting = 500;
 
+WrittenName nameOf(const Token& token)
+{
+    return {token.name(), token.position};
+}
+
 Condition joined(bool isAnd, std::vector<Condition> operands)
 {
     if (operands.size() == 1) {
@@ -29,7 +34,7 @@ ParsedCondition ConditionParser::parseAll(QStringView text)
     TokenStream tokens(text, Dialect::FilterText);
     ParsedCondition condition = parse(tokens);
     if (!tokens.nextIs(TokenKind::End)) {
-        throw ParseError(ParseError::trailingText);
+        tokens.fail(ParseError::trailingText);
     }
     return condition;
 }
@@ -61,7 +66,7 @@ Condition ConditionParser::primary()
         return comparison();
     }
     if (m_depth == deepestNesting) {
-        throw ParseError("too many parentheses");
+        m_tokens.fail("too many parentheses");
     }
     copyNext();
     ++m_depth;
@@ -73,44 +78,44 @@ Condition ConditionParser::primary()
 
 Condition ConditionParser::comparison()
 {
-    const QString name = copy(TokenKind::Identifier, "expect variable name or a function").text;
-    if (compareop::sameWord(name, u"index") && m_tokens.nextIs(TokenKind::LeftParenthesis)) {
+    const Token word = copy(TokenKind::Identifier, "expect variable name or a function");
+    if (compareop::sameWord(word.text, u"index") && m_tokens.nextIs(TokenKind::LeftParenthesis)) {
         return indexComparison();
     }
     if (m_tokens.nextIsWord(u"in")) {
-        return inList(name, false);
+        return inList(nameOf(word), false);
     }
     if (m_tokens.nextIsWord(u"not")) {
         copyNext();
         if (!m_tokens.nextIsWord(u"in")) {
-            throw ParseError("expect operator");
+            m_tokens.fail("expect operator");
         }
-        return inList(name, true);
+        return inList(nameOf(word), true);
     }
     if (m_tokens.nextIsWord(u"is") || m_tokens.nextIsWord(u"isnull")
         || m_tokens.nextIsWord(u"isnotnull")) {
-        return nullTest(name);
+        return nullTest(nameOf(word));
     }
     const CompareOp op = compareOperator();
-    return {CompareTerm{name, op, value()}};
+    return {CompareTerm{nameOf(word), op, value()}};
 }
 
 Condition ConditionParser::indexComparison()
 {
     write(m_tokens.take().text, Spacing::JoinsLeft);
-    const QString name = copy(TokenKind::Identifier, "expect variable name").text;
+    const WrittenName name = nameOf(copy(TokenKind::Identifier, "expect variable name"));
     copy(TokenKind::Comma, "expect ','");
-    const Literal needle = copy(TokenKind::String, "expect string literal");
+    const Literal needle = literal(TokenKind::String, "expect string literal");
     copy(TokenKind::RightParenthesis, "expect ')'");
     const CompareOp op = compareOperator();
     return {IndexTerm{name, needle, op, value()}};
 }
 
-Condition ConditionParser::inList(const QString& variable, bool negated)
+Condition ConditionParser::inList(WrittenName variable, bool negated)
 {
     copyNext();
     copy(TokenKind::LeftParenthesis, "expect '(' after in");
-    InTerm term{variable, negated, {}};
+    InTerm term{std::move(variable), negated, {}};
     term.values.push_back(value());
     while (m_tokens.nextIs(TokenKind::Comma)) {
         copyNext();
@@ -120,7 +125,7 @@ Condition ConditionParser::inList(const QString& variable, bool negated)
     return {std::move(term)};
 }
 
-Condition ConditionParser::nullTest(const QString& variable)
+Condition ConditionParser::nullTest(WrittenName variable)
 {
     const QStringView word = copyNext().text;
     bool negated = compareop::sameWord(word, u"isnotnull");
@@ -130,11 +135,11 @@ Condition ConditionParser::nullTest(const QString& variable)
             negated = true;
         }
         if (!m_tokens.nextIsWord(u"null")) {
-            throw ParseError("expect null");
+            m_tokens.fail("expect null");
         }
         copyNext();
     }
-    return {NullTerm{variable, negated}};
+    return {NullTerm{std::move(variable), negated}};
 }
 
 CompareOp ConditionParser::compareOperator()
@@ -144,7 +149,7 @@ CompareOp ConditionParser::compareOperator()
         m_tokens.nextIs(TokenKind::Operator) || m_tokens.nextIs(TokenKind::Identifier);
     const auto op = mayBe ? compareop::fromText(m_tokens.next().text) : std::nullopt;
     if (!op) {
-        throw ParseError("expect operator");
+        m_tokens.fail("expect operator");
     }
     copyNext();
     return *op;
@@ -154,7 +159,13 @@ Literal ConditionParser::value()
 {
     const TokenKind kind =
         m_tokens.nextIs(TokenKind::String) ? TokenKind::String : TokenKind::Number;
-    return copy(kind, "expect value");
+    return literal(kind, "expect value");
+}
+
+Literal ConditionParser::literal(TokenKind kind, const char* message)
+{
+    const Token token = copy(kind, message);
+    return {kind, token.text.toString(), token.position};
 }
 
 /// Takes the next token and writes it as it stands.
@@ -168,12 +179,12 @@ Token ConditionParser::copyNext()
 }
 
 /// Copies a token of this kind; throws ParseError with the message for any other.
-Literal ConditionParser::copy(TokenKind kind, const char* message)
+Token ConditionParser::copy(TokenKind kind, const char* message)
 {
     if (!m_tokens.nextIs(kind)) {
-        throw ParseError(message);
+        m_tokens.fail(message);
     }
-    return {kind, copyNext().text.toString()};
+    return copyNext();
 }
 
 bool ConditionParser::takeJunction(TokenKind symbol, QStringView word)

@@ -43,13 +43,14 @@ private:
     Condition primary();
     Condition comparison();
     Condition indexComparison();
-    Condition inList(const QString& variable, bool negated);
-    Condition nullTest(const QString& variable);
+    Condition inList(WrittenName variable, bool negated);
+    Condition nullTest(WrittenName variable);
 
     CompareOp compareOperator();
     Literal value();
+    Literal literal(TokenKind kind, const char* message);
     Token copyNext();
-    Literal copy(TokenKind kind, const char* message);
+    Token copy(TokenKind kind, const char* message);
     bool takeJunction(TokenKind symbol, QStringView word);
 
     enum class Spacing

@@ -2,7 +2,6 @@
 
 #include "grid/filter/CompiledCondition.h"
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -38,15 +37,26 @@ void FilterState::addDatasetFilterStep(const ParsedCondition& condition)
 {
     BitVector narrowed = match(condition);
     narrowed &= m_dataset.datasetFilterMask();
-    m_steps.push_back({condition.text, condition.hasOuterOr, {}, false});
-    m_steps.back().maskBefore = std::exchange(m_dataset.datasetFilterMask(), std::move(narrowed));
+    push(condition, std::move(narrowed), false);
 }
 
 void FilterState::replaceDatasetFilter(const ParsedCondition& condition)
 {
-    BitVector replacing = match(condition);
-    m_steps.push_back({condition.text, condition.hasOuterOr, {}, true});
-    m_steps.back().maskBefore = std::exchange(m_dataset.datasetFilterMask(), std::move(replacing));
+    push(condition, match(condition), true);
+}
+
+void FilterState::clearDatasetFilter()
+{
+    if (!shownSteps().empty()) {
+        BitVector all = m_dataset.datasetFilterMask();
+        push({}, std::move(all.set()), true);
+    }
+}
+
+void FilterState::push(const ParsedCondition& condition, BitVector mask, bool replacesOthers)
+{
+    m_steps.push_back({condition.text, condition.hasOuterOr, {}, replacesOthers});
+    m_steps.back().maskBefore = std::exchange(m_dataset.datasetFilterMask(), std::move(mask));
 }
 
 bool FilterState::undoDatasetFilter()
@@ -59,27 +69,32 @@ bool FilterState::undoDatasetFilter()
     return true;
 }
 
-void FilterState::clearDatasetFilter()
-{
-    m_dataset.datasetFilterMask().set();
-    m_steps.clear();
-}
-
 QString FilterState::libraryFilterText() const
 {
     return m_libraryCondition.isEmpty() ? QString() : u"where "_s + m_libraryCondition;
 }
 
+/// The steps that are in force together.
+std::span<const FilterState::Step> FilterState::shownSteps() const
+{
+    std::size_t first = m_steps.size();
+    while (first > 0 && !m_steps[first - 1].replacesOthers) {
+        --first;
+    }
+    if (first > 0 && !m_steps[first - 1].condition.isEmpty()) {
+        --first;
+    }
+    return std::span(m_steps).subspan(first);
+}
+
 QString FilterState::datasetFilterText() const
 {
-    const auto replacing = std::find_if(m_steps.rbegin(), m_steps.rend(),
-                                        [](const Step& step) { return step.replacesOthers; });
-    const auto first = replacing == m_steps.rend() ? m_steps.begin() : replacing.base() - 1;
+    const std::span<const Step> steps = shownSteps();
     QString text;
-    for (auto step = first; step != m_steps.end(); ++step) {
+    for (const Step& step : steps) {
         text += text.isEmpty() ? u"if "_s : u" and "_s;
-        const bool needsParentheses = step->hasOuterOr && m_steps.end() - first > 1;
-        text += needsParentheses ? u'(' + step->condition + u')' : step->condition;
+        const bool needsParentheses = step.hasOuterOr && steps.size() > 1;
+        text += needsParentheses ? u'(' + step.condition + u')' : step.condition;
     }
     return text;
 }

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <span>
 #include <vector>
 
 /// The filters in force on one dataset: keeps its two filter masks and the texts that say what they
@@ -28,6 +29,7 @@ public:
     void replaceDatasetFilter(const ParsedCondition& condition);
     /// Returns to the mask and the text before the last step; false when there is none.
     bool undoDatasetFilter();
+    /// Takes the filter away as one more step: undone, it is back. Without one there is no step.
     void clearDatasetFilter();
 
     /// "where a = 1"; empty without a library filter.
@@ -42,13 +44,15 @@ public:
 private:
     struct Step
     {
-        QString condition;
+        QString condition;  ///< empty for the step that clears the filter
         bool hasOuterOr;
         BitVector maskBefore;
         bool replacesOthers;  ///< those before it do not show in the text
     };
 
     const BitVector& match(const ParsedCondition& condition);
+    void push(const ParsedCondition& condition, BitVector mask, bool replacesOthers);
+    [[nodiscard]] std::span<const Step> shownSteps() const;
 
     StatDataset& m_dataset;
     QString m_libraryCondition;

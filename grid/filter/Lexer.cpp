@@ -19,7 +19,7 @@ bool continuesIdentifier(char32_t character)
     return character == U'_' || QChar::isLetterOrNumber(character) || QChar::isMark(character);
 }
 
-TokenKind kindOfSymbol(QChar symbol)
+TokenKind kindOfSymbol(QChar symbol, qsizetype position)
 {
     switch (symbol.unicode()) {
     case u'(':
@@ -35,8 +35,13 @@ TokenKind kindOfSymbol(QChar symbol)
     case u'&':
         return TokenKind::Ampersand;
     default:
-        throw ParseError("unknown character in input");
+        throw ParseError("unknown character in input", position);
     }
+}
+
+bool isQuote(QChar character)
+{
+    return character == u'\'' || character == u'"';
 }
 
 bool startsWithWord(QStringView text, QStringView word)
@@ -46,13 +51,22 @@ bool startsWithWord(QStringView text, QStringView word)
 
 }  // namespace
 
+QString Token::name() const
+{
+    if (text.isEmpty() || !isQuote(text.front())) {
+        return text.toString();
+    }
+    const QChar quote = text.front();
+    return text.sliced(1, text.size() - 3).toString().replace(QString(2, quote), quote);
+}
+
 Token Lexer::next()
 {
     while (m_position < m_text.size() && m_text[m_position].isSpace()) {
         ++m_position;
     }
     if (m_position == m_text.size()) {
-        return {TokenKind::End, m_text.sliced(m_position)};
+        return {TokenKind::End, m_text.sliced(m_position), m_position};
     }
     if (startsIdentifier()) {
         return takeIdentifier();
@@ -60,8 +74,7 @@ Token Lexer::next()
     if (startsNumber()) {
         return takeNumber();
     }
-    const QChar first = m_text[m_position];
-    return first == u'\'' || first == u'"' ? takeString() : takeSymbol();
+    return isQuote(m_text[m_position]) ? takeQuoted() : takeSymbol();
 }
 
 /// The character that begins at the position; 0 at the end of the text.
@@ -103,7 +116,7 @@ bool Lexer::startsNumber() const
 
 Token Lexer::take(TokenKind kind, qsizetype end)
 {
-    const Token token{kind, m_text.sliced(m_position, end - m_position)};
+    const Token token{kind, m_text.sliced(m_position, end - m_position), m_position};
     m_position = end;
     return token;
 }
@@ -139,11 +152,14 @@ Token Lexer::takeNumber()
     return take(TokenKind::Number, end);
 }
 
-Token Lexer::takeString()
+Token Lexer::takeQuoted()
 {
+    if (const qsizetype end = endOfNameLiteral(); end > 0) {
+        return take(TokenKind::Identifier, end);
+    }
     const qsizetype quote = m_text.indexOf(m_text[m_position], m_position + 1);
     if (quote < 0) {
-        throw ParseError("unterminated string literal");
+        throw ParseError("unterminated string literal", m_position);
     }
     const QStringView rest = m_text.sliced(quote + 1);
     qsizetype suffix = 0;
@@ -155,6 +171,17 @@ Token Lexer::takeString()
     return take(TokenKind::String, quote + 1 + suffix);
 }
 
+/// Where the name literal ends that begins here; 0 for a text or none at all.
+qsizetype Lexer::endOfNameLiteral() const
+{
+    const QChar quote = m_text[m_position];
+    qsizetype end = m_text.indexOf(quote, m_position + 1);
+    while (end >= 0 && characterAt(end + 1) == quote.unicode()) {
+        end = m_text.indexOf(quote, end + 2);
+    }
+    return end >= 0 && QChar::toLower(characterAt(end + 1)) == U'n' ? end + 2 : 0;
+}
+
 Token Lexer::takeSymbol()
 {
     const QStringView rest = m_text.sliced(m_position);
@@ -164,5 +191,5 @@ Token Lexer::takeSymbol()
     if (found != compareop::spellings.end()) {
         return take(TokenKind::Operator, m_position + found->text.size());
     }
-    return take(kindOfSymbol(rest.front()), m_position + 1);
+    return take(kindOfSymbol(rest.front(), m_position), m_position + 1);
 }

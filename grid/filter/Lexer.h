@@ -1,11 +1,12 @@
 #pragma once
 
+#include <QString>
 #include <QStringView>
 
 /// What a token is; the numbers are the codes of the kinds.
 enum class TokenKind : int
 {
-    Identifier = 0,
+    Identifier = 0,  ///< a word, or a name literal: 'my var'n
     String = 1,  ///< with its quotes and its date or time suffix
     Number = 2,
     Operator = 3,
@@ -23,6 +24,10 @@ struct Token
 {
     TokenKind kind = TokenKind::End;
     QStringView text;
+    qsizetype position = 0;  ///< where it begins in the command text
+
+    /// The name that an identifier stands for.
+    [[nodiscard]] QString name() const;
 };
 
 /// Which numbers a text may hold.
@@ -33,6 +38,9 @@ enum class Dialect
 };
 
 /// Cuts a command text into tokens, which are views into it.
+///
+/// A quoted text with an "n" behind it is a name literal and reads as an identifier, but is never a
+/// word of the language. Within it the quote itself is written twice.
 class Lexer
 {
 public:
@@ -53,7 +61,8 @@ private:
     [[nodiscard]] Token take(TokenKind kind, qsizetype end);
     [[nodiscard]] Token takeIdentifier();
     [[nodiscard]] Token takeNumber();
-    [[nodiscard]] Token takeString();
+    [[nodiscard]] Token takeQuoted();
+    [[nodiscard]] qsizetype endOfNameLiteral() const;
     [[nodiscard]] Token takeSymbol();
 
     QStringView m_text;

@@ -13,21 +13,21 @@ namespace {
 
 using Kind = LiteralValue::Kind;
 
-LiteralValue numberOf(const std::string& text)
+LiteralValue numberOf(const std::string& text, qsizetype position)
 {
     if (text == ".") {
-        return {Kind::Missing, 0, {}};
+        return {Kind::Missing, 0, {}, position};
     }
-    LiteralValue value{Kind::Number, 0, {}};
+    LiteralValue value{Kind::Number, 0, {}, position};
     const char* first = text.data() + (text.starts_with('+') ? 1 : 0);
     const auto [end, error] = std::from_chars(first, text.data() + text.size(), value.number);
     if (error != std::errc() || end != text.data() + text.size()) {
-        throw ParseError(fmt::format("The number {} is out of range", text));
+        throw ParseError(fmt::format("The number {} is out of range", text), position);
     }
     return value;
 }
 
-LiteralValue dateOrTime(Kind kind, const std::string& literal, std::string_view content)
+LiteralValue dateOrTime(Kind kind, const Literal& literal, std::string_view content)
 {
     std::optional<double> number;
     const char* meaning = "";
@@ -46,9 +46,10 @@ LiteralValue dateOrTime(Kind kind, const std::string& literal, std::string_view 
         break;
     }
     if (!number) {
-        throw ParseError(fmt::format("{} is not a valid {}", literal, meaning));
+        throw ParseError(fmt::format("{} is not a valid {}", literal.text.toStdString(), meaning),
+                         literal.position);
     }
-    return {kind, *number, {}};
+    return {kind, *number, {}, literal.position};
 }
 
 Kind kindOfSuffix(QStringView suffix)
@@ -66,15 +67,14 @@ Kind kindOfSuffix(QStringView suffix)
 
 LiteralValue valueOf(const Literal& literal)
 {
-    std::string text = literal.text.toStdString();
     if (literal.kind == TokenKind::Number) {
-        return numberOf(text);
+        return numberOf(literal.text.toStdString(), literal.position);
     }
     const qsizetype quote = literal.text.lastIndexOf(literal.text.front());
     const Kind kind = kindOfSuffix(QStringView(literal.text).sliced(quote + 1));
     std::string content = literal.text.mid(1, quote - 1).toStdString();
     if (kind == Kind::Text) {
-        return {kind, 0, std::move(content)};
+        return {kind, 0, std::move(content), literal.position};
     }
-    return dateOrTime(kind, text, content);
+    return dateOrTime(kind, literal, content);
 }

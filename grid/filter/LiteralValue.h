@@ -21,6 +21,7 @@ struct LiteralValue
     Kind kind = Kind::Missing;
     double number = 0;
     std::string text;  ///< UTF-8, without quotes
+    qsizetype position = 0;  ///< of the literal in the command text
 
     /// What `number` counts.
     [[nodiscard]] DateScale::Content content() const

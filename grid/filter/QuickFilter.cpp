@@ -3,10 +3,8 @@
 #include "data/values/NumberText.h"
 #include "data/values/Texts.h"
 #include "grid/filter/DateLiteral.h"
-#include "grid/filter/Lexer.h"
-#include "grid/filter/LiteralValue.h"
-#include "grid/filter/ParseError.h"
 #include "grid/filter/TextPredicates.h"
+#include "grid/filter/VariableNames.h"
 
 #include <fmt/format.h>
 
@@ -20,16 +18,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Content = DateScale::Content;
-
-bool isIdentifier(QStringView name)
-{
-    try {
-        const Token token = Lexer(name).next();
-        return token.kind == TokenKind::Identifier && token.text.size() == name.size();
-    } catch (const ParseError&) {
-        return false;
-    }
-}
 
 bool isBlank(const QuickFilter::Value& value)
 {
@@ -109,29 +97,21 @@ Result<QString> QuickFilter::compare(CompareOp op, const Value& value) const
     if (op == CompareOp::Contains) {
         return contains(value);
     }
-    Result<QString> variable = name();
-    if (!variable) {
-        return variable;
-    }
     if (isBlank(value) && op == CompareOp::Equal) {
-        return variable.value() + u" is null"_s;
+        return name() + u" is null"_s;
     }
     if (isBlank(value) && op == CompareOp::NotEqual) {
-        return variable.value() + u" is not null"_s;
+        return name() + u" is not null"_s;
     }
     Result<QString> written = literal(value);
     if (!written) {
         return written;
     }
-    return variable.value() + u' ' + compareop::textOf(op).toString() + u' ' + written.value();
+    return name() + u' ' + compareop::textOf(op).toString() + u' ' + written.value();
 }
 
 Result<QString> QuickFilter::isIn(std::span<const Value> values) const
 {
-    Result<QString> variable = name();
-    if (!variable) {
-        return variable;
-    }
     QStringList list;
     for (const Value& value : values) {
         Result<QString> written = literal(value);
@@ -144,40 +124,30 @@ Result<QString> QuickFilter::isIn(std::span<const Value> values) const
         return Failure{"There is no value to filter by"};
     }
     list.removeDuplicates();
-    return variable.value() + u" in ("_s + list.join(u", ") + u')';
+    return name() + u" in ("_s + list.join(u", ") + u')';
 }
 
 Result<QString> QuickFilter::contains(const Value& value) const
 {
-    Result<QString> variable = name();
-    if (!variable) {
-        return variable;
-    }
     if (isBlank(value)) {
         return compare(CompareOp::Equal, value);
     }
     const auto* text = std::get_if<std::string>(&value);
     if (text == nullptr) {
         return Failure{
-            fmt::format("{} holds numbers, which contain no text", variable.value().toStdString())};
+            fmt::format("{} holds numbers, which contain no text", name().toStdString())};
     }
     Result<QString> written = quoted(*text);
     if (!written) {
         return written;
     }
-    return u"index("_s + variable.value() + u", "_s + written.value() + u") > 0"_s;
+    return u"index("_s + name() + u", "_s + written.value() + u") > 0"_s;
 }
 
-Result<QString> QuickFilter::name() const
+QString QuickFilter::name() const
 {
     const std::string& name = m_dataset.names()[static_cast<std::size_t>(m_variable)];
-    const QString text = QString::fromStdString(name);
-    if (!isIdentifier(text)) {
-        return Failure{fmt::format(
-            "The variable {} cannot be filtered: its name is more than letters, digits and _",
-            name)};
-    }
-    return text;
+    return variablenames::written(QString::fromStdString(name));
 }
 
 Result<QString> QuickFilter::literal(const Value& value) const

@@ -17,8 +17,7 @@
 /// same number; a text, without its trailing blanks, in the quotes that it does not hold. A missing
 /// number is "."; a blank text makes `is null` or `is not null`.
 ///
-/// A failure says what cannot be written: a text with both kinds of quotes, an infinite number, a
-/// variable whose name is no identifier.
+/// A failure says what cannot be written: a text with both kinds of quotes, an infinite number.
 class QuickFilter
 {
 public:
@@ -45,7 +44,7 @@ public:
     [[nodiscard]] Result<QString> contains(const Value& value) const;
 
 private:
-    [[nodiscard]] Result<QString> name() const;
+    [[nodiscard]] QString name() const;
     [[nodiscard]] Result<QString> literal(const Value& value) const;
     [[nodiscard]] Result<QString> number(double value) const;
 

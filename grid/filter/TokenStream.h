@@ -29,9 +29,14 @@ public:
     Token take(TokenKind kind, const char* message)
     {
         if (!nextIs(kind)) {
-            throw ParseError(message);
+            fail(message);
         }
         return take();
+    }
+    /// Throws ParseError about the next token.
+    [[noreturn]] void fail(const char* message) const
+    {
+        throw ParseError(message, m_next.position);
     }
 
 private:

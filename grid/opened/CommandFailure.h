@@ -13,6 +13,8 @@ struct CommandFailure
 {
     QString message;
     QString command;  ///< as it can be typed; empty where it has no such form
+    qsizetype position = ParseError::nowhere;  ///< of what is wrong in the command
+    QString suggestion{};  ///< what was meant there; empty if unknown
 };
 
 /// Nothing when all went well.
@@ -28,7 +30,8 @@ template <typename Act>
         act();
         return std::nullopt;
     } catch (const ParseError& error) {
-        return CommandFailure{QString::fromUtf8(error.what()), command};
+        return CommandFailure{QString::fromUtf8(error.what()), command, error.position(),
+                              QString::fromStdString(error.suggestion())};
     } catch (const std::bad_alloc&) {
         return CommandFailure{
             QCoreApplication::translate("CommandFailure", "There is not enough memory."), command};

@@ -1,6 +1,5 @@
 #include "grid/opened/LibraryFilter.h"
 
-#include "grid/filter/CommandParser.h"
 #include "grid/opened/OpenDataset.h"
 
 #include <algorithm>
@@ -26,6 +25,11 @@ void LibraryFilter::set(const ParsedCondition& condition, OpenDataset* origin)
         throw ParseError("Library Filter supports one level only. "
                          "Please clear library filter first.");
     }
+    replace(condition, origin);
+}
+
+void LibraryFilter::replace(const ParsedCondition& condition, OpenDataset* origin)
+{
     if (origin != nullptr) {
         origin->checkLibraryFilter(condition);
     }
@@ -48,24 +52,27 @@ QString LibraryFilter::text() const
     return m_condition ? u"where "_s + m_condition->text : QString();
 }
 
-CommandOutcome LibraryFilter::run(const QString& commandText)
+CommandOutcome LibraryFilter::run(const QString& commandText, const CommandReading& reading)
 {
     return failureOf(commandText, [&] {
-        const Command command = CommandParser::parse(commandText, Dialect::Command);
-        carryOut(command.action);
-        if (command.hasTrailingText) {
-            throw ParseError(ParseError::trailingText);
+        const Command command = CommandParser::parse(commandText, reading.dialect, reading.bare);
+        carryOut(command.action, reading.inForce);
+        if (command.trailingText) {
+            throw ParseError(ParseError::trailingText, *command.trailingText);
         }
     });
 }
 
-void LibraryFilter::carryOut(const Command::Action& action)
+void LibraryFilter::carryOut(const Command::Action& action, CommandReading::InForce inForce)
 {
-    if (const auto* filter = std::get_if<Command::SetLibraryFilter>(&action)) {
+    const auto* filter = std::get_if<Command::SetLibraryFilter>(&action);
+    if (filter != nullptr && inForce == CommandReading::InForce::IsReplaced) {
+        replace(filter->condition, nullptr);
+    } else if (filter != nullptr) {
         set(filter->condition, nullptr);
     } else if (std::holds_alternative<Command::ClearLibraryFilter>(action)) {
         clear();
     } else {
-        throw ParseError("No dataset is open that this could act on.");
+        throw ParseError(ParseError::nothingOpen);
     }
 }

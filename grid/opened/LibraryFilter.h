@@ -2,6 +2,7 @@
 
 #include "grid/filter/Command.h"
 #include "grid/opened/CommandFailure.h"
+#include "grid/opened/CommandReading.h"
 
 #include <QString>
 
@@ -28,17 +29,20 @@ public:
     /// force or when the dataset in which it was asked for cannot be filtered by it.
     /// @param origin  null where it was asked for without a dataset
     void set(const ParsedCondition& condition, OpenDataset* origin);
+    /// The same, in the place of a filter that is in force.
+    void replace(const ParsedCondition& condition, OpenDataset* origin);
     void clear();
 
-    /// Runs a typed command while no dataset is open, which only this filter's commands can be.
-    [[nodiscard]] CommandOutcome run(const QString& commandText);
+    /// Runs a command while no dataset is open, which only this filter's commands can be.
+    [[nodiscard]] CommandOutcome run(const QString& commandText,
+                                     const CommandReading& reading = {});
 
     /// The filter in force, "where a = 1"; empty without one.
     [[nodiscard]] QString text() const;
     [[nodiscard]] bool isInForce() const { return m_condition.has_value(); }
 
 private:
-    void carryOut(const Command::Action& action);
+    void carryOut(const Command::Action& action, CommandReading::InForce inForce);
 
     std::vector<OpenDataset*> m_datasets;
     std::optional<ParsedCondition> m_condition;

@@ -1,6 +1,5 @@
 #include "grid/opened/OpenDataset.h"
 
-#include "grid/filter/CommandParser.h"
 #include "grid/filter/CompiledCondition.h"
 #include "grid/filter/VariableNames.h"
 #include "grid/opened/OpenDatasets.h"
@@ -28,8 +27,8 @@ std::optional<ParsedCondition> conditionOf(const QString& filterText)
     if (filter == nullptr) {
         throw ParseError("This is no such filter: " + filterText.toStdString());
     }
-    if (command.hasTrailingText) {
-        throw ParseError(ParseError::trailingText);
+    if (command.trailingText) {
+        throw ParseError(ParseError::trailingText, *command.trailingText);
     }
     return filter->condition;
 }
@@ -68,50 +67,72 @@ const QString& OpenDataset::uniqueVarName() const
 
 // Its act() changes this object, which clang-tidy 14 does not see in a generic lambda.
 // NOLINTNEXTLINE(readability-convert-member-functions-to-static)
-CommandOutcome OpenDataset::run(const QString& commandText, Dialect dialect, IfCommand ifCommand)
+CommandOutcome OpenDataset::run(const QString& commandText, const CommandReading& reading)
 {
     return failureOf(commandText, [&] {
-        const Command command = CommandParser::parse(commandText, dialect);
-        std::visit([&](const auto& action) { act(action, ifCommand); }, command.action);
-        if (command.hasTrailingText) {
-            throw ParseError(ParseError::trailingText);
+        const Command command = CommandParser::parse(commandText, reading.dialect, reading.bare);
+        std::visit([&](const auto& action) { act(action, reading.inForce); }, command.action);
+        if (command.trailingText) {
+            throw ParseError(ParseError::trailingText, *command.trailingText);
         }
     });
 }
 
-void OpenDataset::act(Command::ClearLibraryFilter /*action*/, IfCommand /*ifCommand*/)
+CommandOutcome OpenDataset::check(const Command& command, const QString& commandText) const
+{
+    return failureOf(commandText, [&] {
+        std::visit(
+            [this](const auto& action) {
+                if constexpr (requires { action.condition; }) {
+                    static_cast<void>(CompiledCondition(action.condition, m_dataset));
+                } else if constexpr (requires { action.names; }) {
+                    static_cast<void>(variablesNamed(action.names));
+                }
+            },
+            command.action);
+        if (command.trailingText) {
+            throw ParseError(ParseError::trailingText, *command.trailingText);
+        }
+    });
+}
+
+void OpenDataset::act(Command::ClearLibraryFilter /*action*/, InForce /*inForce*/)
 {
     clearLibraryFilter();
 }
 
-void OpenDataset::act(Command::ClearDatasetFilter /*action*/, IfCommand /*ifCommand*/)
+void OpenDataset::act(Command::ClearDatasetFilter /*action*/, InForce /*inForce*/)
 {
     clearDatasetFilter();
 }
 
-void OpenDataset::act(const Command::KeepVariables& action, IfCommand /*ifCommand*/)
+void OpenDataset::act(const Command::KeepVariables& action, InForce /*inForce*/)
 {
     showOnlyVariables(variablesNamed(action.names));
 }
 
-void OpenDataset::act(const Command::DropVariables& action, IfCommand /*ifCommand*/)
+void OpenDataset::act(const Command::DropVariables& action, InForce /*inForce*/)
 {
     setShown(variablesNamed(action.names), false);
 }
 
-void OpenDataset::act(const Command::FrequencyTable& action, IfCommand /*ifCommand*/)
+void OpenDataset::act(const Command::FrequencyTable& action, InForce /*inForce*/)
 {
     emit signalFrequencyAsked(variablesNamed(action.names), action.frequencyN);
 }
 
-void OpenDataset::act(const Command::SetLibraryFilter& action, IfCommand /*ifCommand*/)
+void OpenDataset::act(const Command::SetLibraryFilter& action, InForce inForce)
 {
-    m_shared.libraryFilter.set(action.condition, this);
+    if (inForce == InForce::IsReplaced) {
+        m_shared.libraryFilter.replace(action.condition, this);
+    } else {
+        m_shared.libraryFilter.set(action.condition, this);
+    }
 }
 
-void OpenDataset::act(const Command::AddDatasetFilter& action, IfCommand ifCommand)
+void OpenDataset::act(const Command::AddDatasetFilter& action, InForce inForce)
 {
-    if (ifCommand == IfCommand::Replaces) {
+    if (inForce == InForce::IsReplaced) {
         m_filters.replaceDatasetFilter(action.condition);
     } else {
         m_filters.addDatasetFilterStep(action.condition);
@@ -119,15 +140,11 @@ void OpenDataset::act(const Command::AddDatasetFilter& action, IfCommand ifComma
     emit signalFiltersChanged();
 }
 
-std::vector<int> OpenDataset::variablesNamed(const QStringList& names) const
+std::vector<int> OpenDataset::variablesNamed(std::span<const WrittenName> names) const
 {
     std::vector<int> variables;
-    for (const QString& name : names) {
-        const std::optional<int> variable = variablenames::find(m_dataset, name);
-        if (!variable) {
-            throw ParseError("There is no variable named " + name.toStdString());
-        }
-        variables.push_back(*variable);
+    for (const WrittenName& name : names) {
+        variables.push_back(variablenames::require(m_dataset, name));
     }
     return variables;
 }
@@ -272,22 +289,42 @@ bool OpenDataset::addByVariable(const QString& name)
     return true;
 }
 
-bool OpenDataset::setByVariables(const QString& names)
+CommandOutcome OpenDataset::setByVariables(std::span<const WrittenName> names)
 {
-    QStringList words =
-        QString(names).replace(u';', u' ').simplified().split(u' ', Qt::SkipEmptyParts);
-    if (words.size() > 1 && words.front().compare(u"by", Qt::CaseInsensitive) == 0) {
-        words.removeFirst();
-    }
-    const bool areVariables = std::all_of(words.begin(), words.end(), [this](const QString& word) {
-        return variablenames::find(m_dataset, word).has_value();
-    });
-    if (areVariables) {
+    return failureOf(QString(), [&] {
+        const std::vector<int> variables = variablesNamed(names);
         clearByVariables();
-        std::for_each(words.begin(), words.end(),
-                      [this](const auto& word) { addByVariable(word); });
+        for (const int variable : variables) {
+            addByVariable(nameOf(variable));
+        }
+    });
+}
+
+CommandOutcome OpenDataset::setByVariables(const QString& list)
+{
+    std::vector<WrittenName> names = variablenames::split(list);
+    const auto isBy = [&] { return compareop::sameWord(names.front().name, u"by"); };
+    // In quotes it is a name.
+    if (names.size() > 1 && list.trimmed().front().isLetter() && isBy()) {
+        names.erase(names.begin());
     }
-    return areVariables;
+    CommandOutcome outcome = setByVariables(names);
+    if (outcome) {
+        outcome->command = list;
+    }
+    return outcome;
+}
+
+QString OpenDataset::byText() const
+{
+    QStringList names;
+    for (const std::string& each : m_byVariables) {
+        const auto name = QString::fromStdString(each);
+        // In front of a list it would be taken for the statement's word.
+        names << (compareop::sameWord(name, u"by") ? u'\'' + name + u"'n"_s
+                                                   : variablenames::written(name));
+    }
+    return names.join(u' ');
 }
 
 void OpenDataset::clearByVariables()
@@ -402,9 +439,10 @@ void OpenDataset::restoreFilters(const ViewState& state)
     if (step) {
         static_cast<void>(CompiledCondition(*step, m_dataset));
     }
-    m_filters.clearDatasetFilter();
     if (step) {
-        m_filters.addDatasetFilterStep(*step);
+        m_filters.replaceDatasetFilter(*step);
+    } else {
+        m_filters.clearDatasetFilter();
     }
     if (library && !m_shared.libraryFilter.isInForce()) {
         m_shared.libraryFilter.set(*library, nullptr);

@@ -9,6 +9,7 @@
 #include "grid/filter/Lexer.h"
 #include "grid/filter/QuickFilter.h"
 #include "grid/opened/CommandFailure.h"
+#include "grid/opened/CommandReading.h"
 #include "grid/opened/ShownVariables.h"
 #include "grid/opened/ViewState.h"
 
@@ -43,13 +44,6 @@ public:
         Dataset = 0,
         Library = 1,
     };
-    /// What the `if` of a command does to the dataset filter in force.
-    enum class IfCommand
-    {
-        Narrows,
-        Replaces,  ///< as one step, which undo takes back
-    };
-
     /// @param dataset  outlives this object
     /// @param shared   outlives this object; without it this dataset has it all for itself
     explicit OpenDataset(StatDataset& dataset, OpenDatasets* shared = nullptr,
@@ -65,8 +59,13 @@ public:
     // Filters
 
     /// Runs a command.
-    [[nodiscard]] CommandOutcome run(const QString& commandText, Dialect dialect,
-                                     IfCommand ifCommand = IfCommand::Narrows);
+    [[nodiscard]] CommandOutcome run(const QString& commandText, const CommandReading& reading);
+    [[nodiscard]] CommandOutcome run(const QString& commandText, Dialect dialect)
+    {
+        return run(commandText, CommandReading{dialect});
+    }
+    /// What stands against a command, which is not carried out.
+    [[nodiscard]] CommandOutcome check(const Command& command, const QString& commandText) const;
     /// Compares a variable with the value that an observation has.
     [[nodiscard]] CommandOutcome filterByCell(int variable, CompareOp op, int observation,
                                               FilterKind kind = FilterKind::Dataset);
@@ -107,14 +106,16 @@ public:
 
     /// The names as the dataset has them.
     [[nodiscard]] const std::vector<std::string>& byVariables() const { return m_byVariables; }
+    /// "SEX 'ARM D'n", as it can be typed; empty without any.
+    [[nodiscard]] QString byText() const;
     /// Appends a variable that is not in the list yet.
     /// @param name  in any letter case
     /// @return      whether there is such a variable
     bool addByVariable(const QString& name);
-    /// Makes the named variables the list; an empty text clears it.
-    /// @param names  separated by blanks, "by" in front and a semicolon behind being allowed
-    /// @return       whether all are variables of the dataset; the list stays as it is otherwise
-    bool setByVariables(const QString& names);
+    /// Makes the named variables the list. Nothing changes when one of them is none.
+    [[nodiscard]] CommandOutcome setByVariables(std::span<const WrittenName> names);
+    /// The same for names as they are typed, with "by" in front or not.
+    [[nodiscard]] CommandOutcome setByVariables(const QString& list);
     void clearByVariables();
 
     // Order of the rows
@@ -166,16 +167,17 @@ signals:
     void signalFrequencyAsked(std::vector<int> variables, bool frequencyN);
 
 private:
-    [[nodiscard]] std::vector<int> variablesNamed(const QStringList& names) const;
+    using InForce = CommandReading::InForce;
+
+    [[nodiscard]] std::vector<int> variablesNamed(std::span<const WrittenName> names) const;
     [[nodiscard]] CommandOutcome filterBy(const Result<QString>& condition, FilterKind kind);
-    void carryOut(const Command& command, IfCommand ifCommand);
-    void act(Command::ClearLibraryFilter action, IfCommand ifCommand);
-    void act(Command::ClearDatasetFilter action, IfCommand ifCommand);
-    void act(const Command::KeepVariables& action, IfCommand ifCommand);
-    void act(const Command::DropVariables& action, IfCommand ifCommand);
-    void act(const Command::FrequencyTable& action, IfCommand ifCommand);
-    void act(const Command::SetLibraryFilter& action, IfCommand ifCommand);
-    void act(const Command::AddDatasetFilter& action, IfCommand ifCommand);
+    void act(Command::ClearLibraryFilter action, InForce inForce);
+    void act(Command::ClearDatasetFilter action, InForce inForce);
+    void act(const Command::KeepVariables& action, InForce inForce);
+    void act(const Command::DropVariables& action, InForce inForce);
+    void act(const Command::FrequencyTable& action, InForce inForce);
+    void act(const Command::SetLibraryFilter& action, InForce inForce);
+    void act(const Command::AddDatasetFilter& action, InForce inForce);
     void restoreFilters(const ViewState& state);
     [[nodiscard]] std::vector<int> numbersOf(std::span<const std::string> names) const;
 

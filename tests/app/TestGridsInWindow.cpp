@@ -1,7 +1,12 @@
 #include "tests/support/WindowFixture.h"
 
+#include <QFocusEvent>
 #include <QHelpEvent>
 #include <QToolTip>
+#include <QWheelEvent>
+
+#include <array>
+#include <functional>
 
 /// How grids, boxes, programs and status bar of a main window work together.
 class TestGridsInWindow : public QObject, private WindowFixture
@@ -12,6 +17,8 @@ private slots:
     void init() { startUp(); }
     void cleanup() { shutDown(); }
     void boxRunsCommandsAndRemembersThem();
+    void boxesShowWhatIsInForceOrMarkIt();
+    void editedFilterTakesThePlaceOfTheOneInForce();
     void libraryFilterIsReadTheSameWithoutADataset();
     void dataFilterReplacesTheDatasetFilter();
     void programRunsOnTheActiveGrid();
@@ -20,6 +27,10 @@ private slots:
 private:
     void submitDf(const QString& line) const { submit("comboBoxDf", line); }
     void submitLf(const QString& line) const { submit("comboBoxLf", line); }
+    [[nodiscard]] QLineEdit* line(const QString& box) const
+    {
+        return child<QComboBox>(box)->lineEdit();
+    }
     void runProgram(const QString& program) const
     {
         child<QPlainTextEdit>("programEditor")->setPlainText(program);
@@ -48,7 +59,7 @@ void TestGridsInWindow::boxRunsCommandsAndRemembersThem()
     QCOMPARE(rows(), "Rows: 3/3");
     submitDf("keep AGE");
     submitDf("if AGE >");
-    QCOMPARE(notes(), QStringList("warn|Command|expect value|if AGE >"));
+    QCOMPARE(told(), "expect value|if AGE >\n        ^");
     QStringList history;
     for (int i = 0; i < box->count(); ++i) {
         history << box->itemText(i);
@@ -60,18 +71,111 @@ void TestGridsInWindow::boxRunsCommandsAndRemembersThem()
     QCOMPARE(box->currentText(), "dh");
 }
 
+void TestGridsInWindow::boxesShowWhatIsInForceOrMarkIt()
+{
+    open("dm");
+    for (const auto& [box, inForce] : {std::pair<QString, QString>("comboBoxDf", "if AGE > 30"),
+                                       {"comboBoxLf", "where AGE > 30"},
+                                       {"comboBoxBy", "AGE"}}) {
+        submit(box, inForce);
+        auto* combo = child<QComboBox>(box);
+        QWheelEvent wheel({5, 5}, combo->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(combo, &wheel);
+        const auto look = [this, box = box] {
+            const QString text = line(box)->text() + (line(box)->font().italic() ? " marked" : "");
+            return text + (told().isEmpty() ? "" : " told");
+        };
+        QCOMPARE(look(), inForce);
+        // Typed over it or at its end, wrong or not yet run, it is marked and goes again.
+        const std::array<std::function<void()>, 3> leaving{
+            [&] { QTest::keyClick(combo, Qt::Key_Escape); },
+            [this] { view().setFocus(Qt::MouseFocusReason); },
+            [&] { QTest::keyClick(combo, Qt::Key_Tab); }};
+        for (const auto& leave : leaving) {
+            combo->setFocus();
+            line(box)->end(false);
+            QTest::keyClicks(combo, " #");
+            QCOMPARE(look(), inForce + " # marked");
+            QTest::keyClick(combo, Qt::Key_Return);
+            QCOMPARE(look(), inForce + " # marked told");
+            leave();
+            QCOMPARE(look(), inForce);
+        }
+        combo->setFocus();
+        line(box)->clear();
+        QCOMPARE(look(), " marked");
+        QFocusEvent other(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+        QCoreApplication::sendEvent(combo, &other);
+        QCOMPARE(look(), " marked");
+        QTest::keyClick(combo, Qt::Key_Down);  // the last line of the list
+        QCOMPARE(look(), inForce);
+        line(box)->findChild<QAction*>("_q_qlineeditclearaction")->trigger();
+        QCOMPARE(look(), "");
+    }
+    QCOMPARE(status(), QStringList({"Rows: 3/3", "Vars: 2/2", "By: NA", "LF: NA", "DF: NA"}));
+}
+
+void TestGridsInWindow::editedFilterTakesThePlaceOfTheOneInForce()
+{
+    open("dm");
+    auto* box = child<QComboBox>("comboBoxDf");
+    const auto append = [this](const QString& name, const QString& text) {
+        child<QComboBox>(name)->setFocus();
+        line(name)->end(false);
+        QTest::keyClicks(child<QComboBox>(name), text);
+        QTest::keyClick(child<QComboBox>(name), Qt::Key_Return);
+    };
+    const auto type = [this](const QString& text) {
+        QTest::keyClick(&view(), Qt::Key_L, Qt::ControlModifier);  // selects all
+        QTest::keyClicks(child<QComboBox>("comboBoxDf"), text);
+        QTest::keyClick(child<QComboBox>("comboBoxDf"), Qt::Key_Return);
+    };
+    submitDf("AGE > 35 ;");
+    QCOMPARE(box->currentText() + rows(), "if AGE > 35Rows: 2/3");
+    append("comboBoxDf", " or SEX = 'F'");
+    QCOMPARE(box->currentText() + rows(), "if AGE > 35 or SEX = 'F'Rows: 3/3");
+    append("comboBoxDf", " and AGE > -1e0");  // as what is shown may read
+    QCOMPARE(rows(), "Rows: 3/3");
+    QTest::keyClick(&view(), Qt::Key_Z);
+    QTest::keyClick(&view(), Qt::Key_Z);
+    QCOMPARE(box->currentText(), "if AGE > 35");
+    type("SEX = 'F'");
+    QCOMPARE(box->currentText() + rows(), "if AGE > 35 and SEX = 'F'Rows: 1/3");
+    // What is emptied first is typed anew, too, and what was run once may be run again.
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(box, Qt::Key_Delete);
+    QTest::keyClicks(box, "agee > 45");
+    QTest::keyClick(box, Qt::Key_Return);
+    QCOMPARE(told(), "There is no variable named agee|agee > 45\n^|Did you mean AGE?");
+    QCOMPARE(line("comboBoxDf")->cursorPosition(), 0);
+    submitDf("if AGE > 35 or SEX = 'F' and AGE > -1e0");
+    QCOMPARE(told(), "");
+    QVERIFY(box->currentText().endsWith("(AGE > 35 or SEX = 'F' and AGE > -1e0)"));
+    QTest::keyClick(&view(), Qt::Key_C);
+    QTest::keyClick(&view(), Qt::Key_Z);
+    QVERIFY(box->currentText().startsWith("if AGE > 35 and SEX = 'F' and"));
+
+    submitLf("AGE > 35;");
+    append("comboBoxLf", " and AGE < 45");
+    QCOMPARE(status().at(3), "LF: where AGE > 35 and AGE < 45");
+    append("comboBoxLf", " and NOSUCH = 1");
+    QCOMPARE(status().at(3), "LF: where AGE > 35 and AGE < 45");
+}
+
 void TestGridsInWindow::libraryFilterIsReadTheSameWithoutADataset()
 {
     for (const char* filter : {"where SEX = 'F'", "where TSPARM = 'x'"}) {
         submitLf("where AGE > -1");
-        QCOMPARE(notes(), QStringList("warn|Command|unknown character in input|where AGE > -1"));
+        QCOMPARE(told(), "unknown character in input|where AGE > -1\n            ^");
         QCOMPARE(status().at(3), "LF: NA");
         submitLf(filter);
         QCOMPARE(status().at(3), QString("LF: ") + filter);
         submitLf("where TSPARM = 1");
-        QVERIFY(notes().join('\n').contains("supports one level only"));
+        QVERIFY(told().contains("supports one level only"));
         submitLf("clf x");
-        QCOMPARE(notes(), QStringList("warn|Command|unexpected trailing text|clf x"));
+        QCOMPARE(told(), "unexpected trailing text|clf x\n    ^");
         QCOMPARE(status().at(3), "LF: NA");
         if (titles().isEmpty()) {
             open("ts");
@@ -79,8 +183,11 @@ void TestGridsInWindow::libraryFilterIsReadTheSameWithoutADataset()
     }
     trigger("actionClose");
     submitLf("if AGE > 1");
-    QCOMPARE(notes(),
-             QStringList("warn|Command|No dataset is open that this could act on.|if AGE > 1"));
+    QCOMPARE(told(), "No dataset is open that this could act on.");
+    QTest::keyClick(child<QComboBox>("comboBoxLf"), Qt::Key_Escape);
+    QCOMPARE(told(), "");
+    submit("comboBoxBy", "AGE");
+    QCOMPARE(told(), "No dataset is open that this could act on.");
 }
 
 void TestGridsInWindow::dataFilterReplacesTheDatasetFilter()

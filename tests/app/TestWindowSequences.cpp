@@ -199,7 +199,7 @@ void TestWindowSequences::boxStep()
     const int choice = m_open.empty() ? 0 : random(4);
     if (choice < 2) {
         submit(box, line);
-        if (!notes().isEmpty()) {
+        if (!told().isEmpty()) {
             QCOMPARE(boxText(box), line);
         } else if (!m_open.empty() && line == "by age SEX") {
             QCOMPARE(view().opened()->byVariables(), (std::vector<std::string>{"AGE", "SEX"}));
@@ -223,7 +223,7 @@ void TestWindowSequences::libraryFilterStep()
 {
     const QString line = oneOf({"where SEX = 'F'", "where AGE > 30", "where AGE > -1", "clf", " "});
     submit("comboBoxLf", line);
-    const bool isRefused = !notes().isEmpty();
+    const bool isRefused = !told().isEmpty();
     if (line == "clf" || line == " ") {
         QVERIFY(!isRefused);
         m_libraryFilter.clear();

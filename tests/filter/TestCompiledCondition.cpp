@@ -12,9 +12,10 @@ TEST(CompiledCondition, refusesTypesThatDoNotMatch)
     dataset.variable("AGE", TypeCode::Double).variable("SEX", TypeCode::Character);
     for (const char* condition :
          {"AGE = ''", "SEX = 1", "SEX = '01JAN2020'd", "AGE in (1, 'a')", "SEX in ('a', 1)",
-          "AGE contains 'a'", "AGE contains 6", "SEX contains 1", "SEX contains .",
-          "index(AGE, 'a') > 0", "index(SEX, 'a') = 'b'", "index(SEX, '01JAN2020'd) > 0",
-          "index(SEX, 'a') contains 1", "AGE > 60 and (SEX = 'F' or SEX = 5)"}) {
+          "AGE contains 'a'", "AGE contains 6", "SEX contains 1", "SEX contains .", "SEX = .",
+          "SEX in ('a', .)", "index(AGE, 'a') > 0", "index(SEX, 'a') = 'b'",
+          "index(SEX, '01JAN2020'd) > 0", "index(SEX, 'a') contains 1",
+          "AGE > 60 and (SEX = 'F' or SEX = 5)"}) {
         EXPECT_EQ(refusal(dataset, condition), "The variable types do not match.") << condition;
     }
 }
@@ -36,6 +37,39 @@ TEST(CompiledCondition, namesWhatIsWrong)
     };
     for (const auto& [condition, error] : table) {
         EXPECT_EQ(refusal(dataset, condition), error);
+    }
+}
+
+TEST(CompiledCondition, tellsWhereItIsWrongAndWhatWasMeant)
+{
+    ScriptedDataset dataset;
+    dataset.variable("AGE", TypeCode::Double).variable("Sepal.Length", TypeCode::Double);
+    dataset.variable("SEX", TypeCode::Character).variable("X", TypeCode::Double);
+    struct Row
+    {
+        const char16_t* text;
+        qsizetype position;
+        const char* suggestion;
+    };
+    for (const Row& row : std::vector<Row>{{u"X = 1 and  AEG > 5", 11, "AGE"},
+                                           {u"sepallength = 1", 0, "'Sepal.Length'n"},
+                                           {u"SITE = 1", 0, ""},
+                                           {u"Y = 1", 0, ""},
+                                           {u"AGE in (1, 'x')", 11, ""},
+                                           {u"index(AGE, 'x') > 1", 6, ""},
+                                           {u"AGE > '31FEB2020'd", 6, ""},
+                                           {u"AGE > 1e999", 6, ""},
+                                           {u"AGE >", 5, ""},
+                                           {u"AGE > 1 2", 8, ""},
+                                           {u"AGE > #", 6, ""},
+                                           {u"AGE in (1, 'x", 11, ""}}) {
+        try {
+            static_cast<void>(CompiledCondition(row.text, dataset));
+            ADD_FAILURE() << QStringView(row.text).toString().toStdString();
+        } catch (const ParseError& error) {
+            EXPECT_EQ(error.position(), row.position) << error.what();
+            EXPECT_EQ(error.suggestion(), row.suggestion) << error.what();
+        }
     }
 }
 

@@ -40,6 +40,8 @@ TEST(ConditionParser, writesWhatItReads)
         {u"a='x'dand b=\"it's\"dtor c=''", "a = 'x'd and b = \"it's\"dt or c = ''"},
         {u"gr\u00F6\u00DFe~=1e5\u00A0&\t\u0416_1^=-.5E-07",
          "gr\u00F6\u00DFe ~= 1e5 and \u0416_1 ^= -.5E-07"},
+        {u"'Sepal.Length'n>=5&\"it's\"N In(1)&index('a''b'n,'c')=1",
+         "'Sepal.Length'n >= 5 and \"it's\"N In (1) and index('a''b'n, 'c') = 1"},
         {u"\U0001D4B3x<=2e+10&e\u0301t=+5.", "\U0001D4B3x <= 2e+10 and e\u0301t = +5."},
     });
 }
@@ -63,6 +65,7 @@ TEST(ConditionParser, explainsWhatIsWrong)
         {u"a 5", "expect operator"},
         {u"a foo 5", "expect operator"},
         {u"a 'eq' 5", "expect operator"},
+        {u"a 'eq'n 5", "expect operator"},
         {u"a not 5", "expect operator"},
         {u"a = ", "expect value"},
         {u"a <> 1", "expect value"},

@@ -92,14 +92,27 @@ TEST(QuickFilter, writesDatesAndTimesAsLiteralsWhereTheseReadBack)
 TEST(QuickFilter, writesEachValueOfAListOnce)
 {
     FormattedDataset dataset;
-    dataset.variable("D", TypeCode::Double, "DATE").variable("my var", TypeCode::Double);
+    dataset.variable("D", TypeCode::Double, "DATE");
     const QuickFilter date(dataset, 0);
     EXPECT_EQ(textOf(date.isIn(std::vector<Value>{21915.0, ScriptedDataset::missing, 0.5, 0.5})),
               "D in (\"01JAN2020\"d, ., 0.5)");
     EXPECT_EQ(textOf(date.isIn({})), "failure: There is no value to filter by");
-    EXPECT_EQ(textOf(QuickFilter(dataset, 1).compare(CompareOp::Equal, 1.0)),
-              "failure: The variable my var cannot be filtered: its name is more than letters, "
-              "digits and _");
+}
+
+TEST(QuickFilter, writesNamesThatAreNoIdentifiersAsLiterals)
+{
+    for (const auto& [name, written] : {std::pair("Sepal.Length", "'Sepal.Length'n = 1"),
+                                        {"gr\u00F6\u00DFe 2", "'gr\u00F6\u00DFe 2'n = 1"},
+                                        {"1st", "'1st'n = 1"},
+                                        {"it's", "\"it's\"n = 1"},
+                                        {"'x'n", "\"'x'n\"n = 1"},
+                                        {"6' 2\"", "'6'' 2\"'n = 1"},
+                                        {"", "''n = 1"},
+                                        {"in", "in = 1"}}) {
+        FormattedDataset dataset;
+        dataset.variable(name, TypeCode::Double);
+        EXPECT_EQ(textOf(QuickFilter(dataset, 0).compare(CompareOp::Equal, 1.0)), written);
+    }
 }
 
 TEST(QuickFilter, takesTheMissingMarkOfTheDataset)
@@ -157,7 +170,7 @@ TEST(QuickFilter, selectsExactlyTheRowsWithThatValue)
         std::mt19937_64 random(99);
         int refused = 0;
         FormattedDataset dataset(kind);
-        dataset.variable("n", TypeCode::Double, format).variable("s", TypeCode::Character);
+        dataset.variable("n'\" 1", TypeCode::Double, format).variable("'s'n", TypeCode::Character);
         dataset.rows(rows, [&](int, int column) { return randomValue(random, column); });
         for (int i = 0; i < 2 * rows; ++i) {
             const QuickFilter quick(dataset, i % 2);

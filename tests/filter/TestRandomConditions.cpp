@@ -297,7 +297,7 @@ private:
 
     Literal literal(std::size_t column)
     {
-        if (chance(8)) {
+        if (column < firstText && chance(8)) {
             return {".", {}};
         }
         if (column >= firstText) {

@@ -20,7 +20,8 @@ using Variables = std::set<int>;
 struct GridExpectation
 {
     std::array<std::array<double, variableCount>, rowCount> values{};  ///< -1e300 where missing
-    std::vector<Observations> steps;  ///< of the dataset filter: what each has left
+    /// Of the dataset filter: what each has left, nothing for one that has cleared it.
+    std::vector<std::optional<Observations>> steps;
     std::optional<Observations> library;
     std::vector<int> columns{0, 1, 2, 3, 4, 5};  ///< from left to right
     Variables hidden;
@@ -35,9 +36,10 @@ struct GridExpectation
     {
         return values[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
     }
+    [[nodiscard]] bool isFiltered() const { return !steps.empty() && steps.back(); }
     [[nodiscard]] bool isSelected(int row) const
     {
-        return (steps.empty() || steps.back().contains(row))
+        return (!isFiltered() || steps.back()->contains(row))
             && (!library || library->contains(row));
     }
     [[nodiscard]] int shownCount() const
@@ -60,8 +62,8 @@ struct GridExpectation
     void narrow(Observations matched)
     {
         std::erase_if(matched,
-                      [this](int row) { return !steps.empty() && !steps.back().contains(row); });
-        steps.push_back(std::move(matched));
+                      [this](int row) { return isFiltered() && !steps.back()->contains(row); });
+        steps.emplace_back(std::move(matched));
     }
     /// Whether the sort in force allows one observation right above another.
     [[nodiscard]] bool mayPrecede(int above, int below) const

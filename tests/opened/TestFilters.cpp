@@ -82,7 +82,8 @@ TEST_F(Filters, areWrittenAsStatements)
     EXPECT_EQ(m_dataset.matchedObservations().count(), 60U) << "what was evaluated last";
 
     ASSERT_FALSE(
-        m_opened->run("if b = 3 or b = 4", Dialect::Command, OpenDataset::IfCommand::Replaces));
+        m_opened->run("if b = 3 or b = 4",
+                      CommandReading{Dialect::Command, CommandReading::InForce::IsReplaced}));
     EXPECT_EQ(m_opened->datasetFilterText(), u"if b = 3 or b = 4"_s);
     EXPECT_EQ(run("if a = 1"), "");
     EXPECT_EQ(m_opened->datasetFilterText(), u"if (b = 3 or b = 4) and a = 1"_s);
@@ -209,8 +210,9 @@ TEST_F(Filters, selectWhatAllConditionsInForceSelect)
             library = nullptr;
             break;
         case 2:
-            ASSERT_FALSE(m_opened->run(u"if "_s + condition.text, Dialect::Command,
-                                       OpenDataset::IfCommand::Replaces));
+            ASSERT_FALSE(m_opened->run(
+                u"if "_s + condition.text,
+                CommandReading{Dialect::Command, CommandReading::InForce::IsReplaced}));
             steps.push_back({&condition});
             break;
         case 3:
@@ -223,7 +225,9 @@ TEST_F(Filters, selectWhatAllConditionsInForceSelect)
         case 5:
             if (random() % 4 == 0) {
                 EXPECT_EQ(run("cdf"), "");
-                steps = {{}};
+                if (!steps.back().empty()) {
+                    steps.emplace_back();
+                }
             }
             break;
         default:
@@ -250,9 +254,8 @@ TEST_F(Filters, selectWhatAllConditionsInForceSelect)
             const std::string before = snapshot();
             ASSERT_FALSE(m_opened->restore(state));
             ASSERT_EQ(snapshot(), before) << i;
-            steps = {{}, steps.back()};
-            if (steps.back().empty()) {
-                steps.pop_back();
+            if (!steps.back().empty()) {
+                steps.push_back(steps.back());
             }
         }
     }

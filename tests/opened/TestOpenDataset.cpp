@@ -108,17 +108,33 @@ TEST_F(Opened, sortsItsRows)
 
 TEST_F(Opened, keepsAByListOfKnownVariables)
 {
-    EXPECT_TRUE(m_opened->setByVariables("by sex  SITE sex;"));
+    EXPECT_FALSE(m_opened->setByVariables("by sex  SITE sex"));
     EXPECT_EQ(m_opened->byVariables(), std::vector<std::string>({"SEX", "SITE"}));
     EXPECT_EQ(told(), "by by ");
-    EXPECT_FALSE(m_opened->setByVariables("AGE RACE"));
+    const CommandOutcome refused = m_opened->setByVariables("AGE  'SITES'n");
+    ASSERT_TRUE(refused);
+    EXPECT_EQ(refused->position, 5);
+    EXPECT_EQ(refused->suggestion, "SITE");
     EXPECT_FALSE(m_opened->addByVariable("RACE"));
     EXPECT_EQ(m_opened->byVariables().size(), 2U);
-    EXPECT_TRUE(m_opened->setByVariables(""));
+    EXPECT_FALSE(m_opened->setByVariables(""));
     EXPECT_TRUE(m_opened->byVariables().empty());
     static_cast<void>(told());
     m_opened->clearByVariables();
     EXPECT_EQ(told(), "");
+}
+
+TEST(OpenDataset, writesItsByListAsItCanBeTyped)
+{
+    ScriptedDataset dataset;
+    for (const char* name : {"By", "A.B", "it's", "SEX"}) {
+        dataset.variable(name, TypeCode::Double);
+    }
+    OpenDataset opened(dataset);
+    ASSERT_FALSE(opened.setByVariables("by 'by'n'A.B'n \"it's\"n"));
+    EXPECT_EQ(opened.byText(), "'By'n 'A.B'n \"it's\"n");
+    EXPECT_FALSE(opened.setByVariables(opened.byText()));
+    EXPECT_EQ(opened.byVariables(), std::vector<std::string>({"By", "A.B", "it's"}));
 }
 
 TEST_F(Opened, analysesTheRowsInForceWithoutAView)
@@ -133,7 +149,7 @@ TEST_F(Opened, analysesTheRowsInForceWithoutAView)
     m_shared.uniqueVarName = "site";
     EXPECT_EQ(m_opened->frequenciesOf(sex, true).front().count, 2);
 
-    m_opened->setByVariables("SITE");
+    (void)m_opened->setByVariables("SITE");
     const auto table = std::get<statistics::Table>(m_opened->statisticsOf(std::vector{int{Age}}));
     ASSERT_EQ(table.rows.size(), 2U);
     EXPECT_EQ(table.rows[0][0], "X");
@@ -155,7 +171,7 @@ TEST_F(Opened, stateIsBroughtBackToADatasetReadAnew)
     ASSERT_FALSE(m_opened->run("if AGE > 30", Dialect::Command));
     m_opened->setShown(std::vector{int{Sex}}, false);
     m_opened->shiftVariable(Site, -1);
-    m_opened->setByVariables("SEX");
+    (void)m_opened->setByVariables("SEX");
     m_opened->sortBy({{Sex, Qt::AscendingOrder}, {Age, Qt::DescendingOrder}});
     const ViewState state = m_opened->state();
     EXPECT_EQ(state.hiddenVariables, std::vector<std::string>({"SEX"}));

@@ -87,6 +87,19 @@ protected:
     {
         return window->findChild<Widget*>(name);
     }
+    /// What is said below a box: "message|line with its caret|suggestion", as far as shown.
+    [[nodiscard]] QString told() const
+    {
+        QStringList texts;
+        for (const auto* note : window->findChildren<QFrame*>("failureNote")) {
+            for (const auto* label : note->findChildren<QLabel*>()) {
+                if (label->isVisibleTo(window.get())) {
+                    texts << label->text();
+                }
+            }
+        }
+        return texts.join('|');
+    }
     [[nodiscard]] QDockWidget* dock(const QString& name) const
     {
         return child<QDockWidget>("dockWidget" + name);
