@@ -1,6 +1,7 @@
 #include "data/values/SasFormat.h"
 
 #include "data/values/CivilTime.h"
+#include "data/values/NumberText.h"
 #include "data/values/Texts.h"
 
 #include <algorithm>
@@ -54,6 +55,16 @@ std::string best(double number, int width, int decimals)
 {
     const int wanted = width == 0 ? bestFormat.defaultWidth : width;
     return fixedPoint(number, std::clamp<int>(wanted, 1, bestFormat.maximumWidth), decimals);
+}
+
+/// A number under a format for dates or times that it is none of: as BEST would show it, but whole,
+/// since the part of a number that a date has room for is another number.
+std::string besidesCalendar(double number, int decimals)
+{
+    constexpr double wholeDigits = 1e15;
+    return std::abs(number) < wholeDigits
+        ? texts::trimmed(best(number, bestFormat.maximumWidth, decimals))
+        : numbertext::shortest(number);
 }
 
 /// Text of fixed size that is filled from the left; the formats need 18 characters at most.
@@ -196,9 +207,9 @@ std::string formatNumber(double number, Descriptor descriptor, int width, int de
         line.time(moment.second);
         return line.text(static_cast<std::size_t>(width > 0 ? width : descriptor.defaultWidth));
     default:
-        break;
+        return best(number, std::max(width, 0), decimals);
     }
-    return best(number, std::max(width, 0), decimals);
+    return besidesCalendar(number, decimals);
 }
 
 std::string formatText(std::string_view text, Descriptor descriptor, int width)
