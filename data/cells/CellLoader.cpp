@@ -38,8 +38,16 @@ void CellLoader::prepareColumns()
 {
     m_columns = static_cast<std::size_t>(m_dataset.m_variableCount);
     if (m_dataset.m_valuesWanted) {
-        m_recentTexts.assign(m_columns * recentTextsPerColumn, nullptr);
+        m_recentPlaces.assign(m_columns, noPlace);
     }
+}
+
+/// Finds room for the texts of a column that had none yet.
+std::uint32_t CellLoader::addRecentPlace()
+{
+    const std::size_t place = m_recentColumns++ % mostRecentColumns * recentTextsPerColumn;
+    m_recentTexts.resize(std::max(m_recentTexts.size(), place + recentTextsPerColumn), nullptr);
+    return static_cast<std::uint32_t>(place);
 }
 
 /// Sees to it that there is a cell; false where none is wanted.

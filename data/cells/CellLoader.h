@@ -4,6 +4,7 @@
 #include "data/StatDataset.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -64,6 +65,7 @@ private:
     }
     CellValue* cellFor(int row, int column);
     bool makeRoom(int row, int column);
+    [[nodiscard]] std::uint32_t addRecentPlace();
     [[nodiscard]] PooledText*& recentText(std::size_t column, std::string_view text);
     void poolText(CellValue& cell, int column, std::string_view text, PooledText*& recent);
     void poolWaitingTexts();
@@ -71,6 +73,9 @@ private:
     void settleRest();
 
     static constexpr std::size_t recentTextsPerColumn = 128;
+    /// Further columns share their places, so that a wide file needs no more than 2 MiB for them.
+    static constexpr std::size_t mostRecentColumns = 2048;
+    static constexpr std::uint32_t noPlace = 0xFFFFFFFF;
 
     StatDataset& m_dataset;
     TextDecoder m_decoder;
@@ -79,9 +84,12 @@ private:
     bool m_rowsAreCounted = false;
     int m_rowsSeen = 0;
     std::size_t m_cellsInOrder = 0;  ///< cells filled before the first gap
-    /// Of each column the texts seen lately, by a few of their letters: most columns hold few
-    /// texts.
+    /// Of each column with texts those seen lately, by a few of their letters: most columns hold
+    /// few.
     std::vector<PooledText*> m_recentTexts;
+    std::vector<std::uint32_t>
+        m_recentPlaces;  ///< where each column's start, from its first text on
+    std::size_t m_recentColumns = 0;
     std::vector<WaitingText> m_waitingTexts;
     std::string m_waitingBytes;
     std::unordered_map<std::string, PooledText*> m_converted;  ///< by the bytes of the file
@@ -118,7 +126,11 @@ inline PooledText*& CellLoader::recentText(std::size_t column, std::string_view 
         };
         letters += at(0) * 3 + at(text.size() / 2) * 5 + at(text.size() - 1) * 7;
     }
-    return m_recentTexts[column * recentTextsPerColumn + letters % recentTextsPerColumn];
+    std::uint32_t& place = m_recentPlaces[column];
+    if (place == noPlace) {
+        place = addRecentPlace();
+    }
+    return m_recentTexts[place + letters % recentTextsPerColumn];
 }
 
 inline void CellLoader::putText(int row, int column, std::string_view text)

@@ -75,6 +75,29 @@ TEST(CellLoader, leavesCellsThatGotNothingMissing)
     EXPECT_EQ(dataset.numericValue(2, 1), 5);
 }
 
+class Wide : public StatDataset
+{
+public:
+    Wide() { resizeVariables(5000); }
+};
+
+TEST(CellLoader, takesTextsOfMoreColumnsThanItRemembersApart)
+{
+    Wide dataset;
+    CellLoader loader(dataset);
+    loader.begin(3);
+    for (int row = 0; row < 3; ++row) {
+        for (int column = 0; column < 5000; ++column) {
+            loader.putText(row, column, "v" + std::to_string(column % 3000 + row % 2));
+        }
+    }
+    loader.finish();
+    for (int column = 0; column < 5000; ++column) {
+        ASSERT_EQ(dataset.stringValue(2, column), "v" + std::to_string(column % 3000));
+    }
+    EXPECT_EQ(dataset.textPool().size(), 3001U);
+}
+
 TEST(CellLoader, refusesWhatBelongsToNoCell)
 {
     Described dataset;
