@@ -49,6 +49,8 @@ std::vector<Field> fieldsOf(const OpenedDataset& opened, const std::string& file
         {"created", "Created", timeText(header.creationTime)},
         {"modified", "Modified", timeText(header.modificationTime)},
         {"formatVersion", "Format version", header.formatVersion},
+        {"compression", "Compression", std::string(nameOf(header.compression))},
+        {"byteOrder", "Byte order", std::string(nameOf(header.byteOrder))},
         {"is64Bit", "64-bit layout", std::int64_t{header.is64Bit}},
         {"release", "Release", header.release},
         {"host", "Host", header.host},

@@ -8,6 +8,32 @@
 #include <cmath>
 #include <cwctype>
 
+std::string_view nameOf(FileCompression compression)
+{
+    switch (compression) {
+    case FileCompression::Rows:
+        return "rows";
+    case FileCompression::Binary:
+        return "binary";
+    case FileCompression::None:
+        break;
+    }
+    return "none";
+}
+
+std::string_view nameOf(ByteOrder order)
+{
+    switch (order) {
+    case ByteOrder::Little:
+        return "little";
+    case ByteOrder::Big:
+        return "big";
+    case ByteOrder::None:
+        break;
+    }
+    return {};
+}
+
 StatDataset::~StatDataset() = default;
 
 std::string StatDataset::cellText(int row, int column) const
@@ -119,7 +145,9 @@ const CellValue& StatDataset::cell(int row, int column) const
 
 bool StatDataset::inRange(int row, int column) const
 {
-    return row >= 0 && row < m_observationCount && isColumn(column);
+    // A dataset that was read without its values has observations, but no cells.
+    return row >= 0 && row < m_observationCount && isColumn(column)
+        && cellIndex(row, column) < m_cells.size();
 }
 
 std::size_t StatDataset::cellIndex(int row, int column) const
@@ -132,6 +160,20 @@ std::string_view StatDataset::heldText(int row, int column) const
 {
     const PooledText* record = std::get<0>(cell(row, column));
     return record == nullptr ? std::string_view() : record->text();
+}
+
+void StatDataset::reset()
+{
+    m_header = {};
+    m_observationCount = 0;
+    resizeVariables(0);
+    m_cells = CellVector();
+    m_visibleVariables.clear();
+    for (BitVector* bits : {&m_libraryFilterMask, &m_matchedObservations, &m_datasetFilterMask}) {
+        bits->clear();
+    }
+    m_textPool.clear();
+    m_damageNotes.clear();
 }
 
 void StatDataset::resizeVariables(int count)

@@ -49,6 +49,27 @@ enum class VariableAttribute : int
     Label = 6,
 };
 
+/// How the values of a file are packed; the numbers are the format library's.
+enum class FileCompression : std::int32_t
+{
+    None = 0,
+    Rows = 1,  ///< repeated bytes of a row
+    Binary = 2,  ///< SAS's other way, or zlib in SPSS files
+};
+
+/// The order of the bytes of its numbers; the numbers here are the format library's.
+enum class ByteOrder : std::int32_t
+{
+    None = 0,
+    Little = 1,
+    Big = 2,
+};
+
+/// "none", "rows", "binary".
+[[nodiscard]] std::string_view nameOf(FileCompression compression);
+/// "little", "big"; empty where there is none.
+[[nodiscard]] std::string_view nameOf(ByteOrder order);
+
 /// What a file says about the dataset as a whole. A format that lacks a field leaves it empty or 0.
 struct DatasetHeader
 {
@@ -60,6 +81,8 @@ struct DatasetHeader
     std::string memberType;  ///< "DATA", and the TYPE= attribute where one is set
     std::string encoding;  ///< name of the character set that the file declares
     bool is64Bit = false;
+    FileCompression compression = FileCompression::None;
+    ByteOrder byteOrder = ByteOrder::None;
     std::string release;  ///< of the program that wrote the file: "9.0401M3"
     std::string host;  ///< with the name and version of its operating system
     std::uint64_t pageSize = 0;  ///< bytes
@@ -182,6 +205,8 @@ protected:
     /// The text of a character cell where it is held; empty for a null text.
     [[nodiscard]] std::string_view heldText(int row, int column) const;
 
+    /// Empties the dataset for a load, whatever it held before.
+    void reset();
     /// Sets the variable count and gives every attribute vector one entry per variable.
     void resizeVariables(int count);
     /// Sizes the visibility, all shown, and the observation bits: the masks all set, the rest

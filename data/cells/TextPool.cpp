@@ -59,6 +59,17 @@ const PooledText* TextPool::find(std::string_view text) const
     return m_slots.empty() ? nullptr : m_slots[slotOf(text, hashOf(text))].record;
 }
 
+void TextPool::clear()
+{
+    m_slots = Slots();
+    m_size = 0;
+    m_hasTrailingBlanks = false;
+    m_blocks.clear();
+    m_free = nullptr;
+    m_freeBytes = 0;
+    m_blockBytes = 0;
+}
+
 std::size_t TextPool::bytesInUse() const
 {
     return m_slots.capacity() * sizeof(Slot) + m_blockBytes;

@@ -35,6 +35,9 @@ public:
     /// The record of the text, or nullptr when no cell of the dataset ever held it.
     [[nodiscard]] const PooledText* find(std::string_view text) const;
 
+    /// Drops all records; whoever points to one is left with nothing.
+    void clear();
+
     /// How many distinct texts there are.
     [[nodiscard]] std::size_t size() const { return m_size; }
 

@@ -5,6 +5,8 @@
 #include "data/readers/ReadStatLoad.h"
 #include "data/values/StataFormat.h"
 
+#include <fmt/format.h>
+
 class DtaDoc::Load : public ReadStatLoad
 {
 public:
@@ -17,6 +19,7 @@ private:
     std::string prepare(const FileReader& file, ParserInput& input) override;
     readstat_error_t parse(readstat_parser_t* parser, const char* path) override;
     int acceptMetadata(const readstat_metadata_t& metadata) override;
+    void completeVariable(int index) override;
     std::string complete(const FileReader& file) override;
 
     void resolveLongStrings(const FileReader& file, const LongStrings& strings);
@@ -96,6 +99,12 @@ int DtaDoc::Load::acceptMetadata(const readstat_metadata_t& metadata)
     return beginRows(metadata.row_count, metadata.var_count, mostRows);
 }
 
+void DtaDoc::Load::completeVariable(int index)
+{
+    const auto at = static_cast<std::size_t>(index);
+    m_dataset.m_formatDecimals[at] = stata::decimalsOf(m_dataset.m_formats[at]);
+}
+
 std::string DtaDoc::Load::complete(const FileReader& file)
 {
     if (!m_dataset.m_valuesWanted || m_layout.longStringVariables.empty()) {
@@ -114,6 +123,7 @@ void DtaDoc::Load::resolveLongStrings(const FileReader& file, const LongStrings&
     const std::int64_t length = m_layout.rowLength;
     const std::int64_t rowsAtOnce = std::max<std::int64_t>((256 << 10) / length, 1);
     std::vector<char> bytes;
+    int missing = 0;
     for (int row = 0; row < m_dataset.m_observationCount; ++row) {
         const std::int64_t at = row % rowsAtOnce;
         if (at == 0) {
@@ -122,12 +132,18 @@ void DtaDoc::Load::resolveLongStrings(const FileReader& file, const LongStrings&
         const ByteView rows({bytes.data(), bytes.size()}, m_layout.littleEndian);
         for (const auto& [variable, offset] : m_layout.longStringVariables) {
             const auto place = static_cast<std::size_t>(at * length + offset);
-            const auto found = strings.find(longStringKey(rows.u64(place)));
-            if (found != strings.end() && m_dataset.isColumn(variable)
-                && m_dataset.isCharacter(variable)) {
+            const std::uint64_t reference = rows.u64(place);
+            const auto found = strings.find(longStringKey(reference));
+            if (found == strings.end()) {
+                missing += reference == 0 ? 0 : 1;
+            } else if (m_dataset.isColumn(variable) && m_dataset.isCharacter(variable)) {
                 putText(row, variable, found->second);
             }
         }
+    }
+    if (missing > 0) {
+        m_dataset.addDamageNote(
+            fmt::format("{} of its long texts are missing; their cells are empty", missing));
     }
 }
 

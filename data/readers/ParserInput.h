@@ -35,6 +35,8 @@ public:
     void setReadAhead(std::size_t bytes);
 
     [[nodiscard]] std::int64_t size() const { return m_size; }
+    /// Where the parser reads next.
+    [[nodiscard]] std::int64_t position() const { return m_position; }
 
     /// Makes the parser read from here.
     void attachTo(readstat_parser_t* parser);

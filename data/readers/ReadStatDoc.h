@@ -4,14 +4,14 @@
 
 #include <QString>
 
-#include <cstdint>
 #include <string>
 
 /// What datasets from SAS, SPSS and Stata files share; see ReadStatLoad for how they are read.
 class ReadStatDoc : public StatDataset
 {
 public:
-    /// Reads the file. Without wanted values only the header and the variables.
+    /// Reads the file, in the place of what the dataset held. Without wanted values only the header
+    /// and the variables.
     /// @return the format library's error code, 0 for success; loadError() then says what is wrong.
     ///         After a failure the dataset keeps whatever had been filled.
     [[nodiscard]] virtual int load(const QString& path) = 0;
@@ -19,14 +19,8 @@ public:
     /// Why the last load failed, as a sentence that names the file; empty after a success.
     [[nodiscard]] const std::string& loadError() const { return m_loadError; }
 
-    /// As the library reports them (readstat_compress_t, readstat_endian_t).
-    [[nodiscard]] std::int32_t compression() const { return m_compression; }
-    [[nodiscard]] std::int32_t byteOrder() const { return m_byteOrder; }
-
 private:
     friend class ReadStatLoad;
 
-    std::int32_t m_compression = 0;
-    std::int32_t m_byteOrder = 0;
     std::string m_loadError;
 };

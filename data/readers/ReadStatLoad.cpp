@@ -1,9 +1,11 @@
 #include "data/readers/ReadStatLoad.h"
 
 #include "data/FilePath.h"
+#include "data/readers/DistinctNames.h"
 #include "data/values/Texts.h"
 
 #include <fmt/format.h>
+#include <spdlog/spdlog.h>
 
 #include <cstdio>
 #include <exception>
@@ -51,6 +53,20 @@ double numberOf(const readstat_value_t& value)
     }
 }
 
+/// The library names what it was doing; what that tells of the file is said here.
+std::string reasonOf(readstat_error_t code)
+{
+    switch (code) {
+    case READSTAT_ERROR_READ:
+    case READSTAT_ERROR_SEEK:
+        return "It is cut short, or the sizes in its header are damaged";
+    case READSTAT_ERROR_MALLOC:
+        return "There is not enough memory for what its header promises";
+    default:
+        return readstat_error_message(code);
+    }
+}
+
 }  // namespace
 
 ReadStatLoad::ReadStatLoad(ReadStatDoc& dataset)
@@ -60,8 +76,7 @@ ReadStatLoad::ReadStatLoad(ReadStatDoc& dataset)
 
 int ReadStatLoad::run(const QString& path)
 {
-    m_dataset.m_observationCount = 0;
-    m_dataset.m_variableCount = 0;
+    m_dataset.reset();
     m_dataset.m_loadError.clear();
     readstat_error_t code = READSTAT_OK;
     try {
@@ -85,6 +100,10 @@ readstat_error_t ReadStatLoad::read(const QString& path)
         return READSTAT_ERROR_OPEN;
     }
     m_fileSize = file.size();
+    if (m_fileSize == 0) {
+        m_refusal = "It is empty";
+        return READSTAT_ERROR_READ;
+    }
     ParserInput input(file);
     m_refusal = prepare(file, input);
     if (!m_refusal.empty()) {
@@ -122,14 +141,23 @@ readstat_error_t ReadStatLoad::runParser(const std::string& path, ParserInput& i
 int ReadStatLoad::finish(const QString& path, readstat_error_t code)
 {
     if (code != READSTAT_OK) {
-        const std::string why = m_refusal.empty() ? readstat_error_message(code) : m_refusal;
+        const std::string why = m_refusal.empty() ? reasonOf(code) : m_refusal;
         m_dataset.m_loadError = fmt::format("{}: {}", filepath::displayName(path), why);
         std::printf("Error processing %s: %d\n", filepath::toBytes(path).c_str(),
                     static_cast<int>(code));
         return code;
     }
+    makeNamesDistinct(path);
     m_dataset.resizeBits();
     return 0;
+}
+
+void ReadStatLoad::makeNamesDistinct(const QString& path)
+{
+    for (const std::size_t variable : makeDistinct(m_dataset.m_names)) {
+        spdlog::warn("{}: variable {} has the name of an earlier one and is called {}",
+                     filepath::displayName(path), variable + 1, m_dataset.m_names[variable]);
+    }
 }
 
 int ReadStatLoad::refuse(std::string reason)
@@ -178,8 +206,8 @@ void ReadStatLoad::copyCommonMetadata(const readstat_metadata_t& metadata)
     m_dataset.m_header.creationTime = metadata.creation_time;
     m_dataset.m_header.modificationTime = metadata.modified_time;
     m_dataset.m_header.formatVersion = metadata.file_format_version;
-    m_dataset.m_compression = metadata.compression;
-    m_dataset.m_byteOrder = metadata.endianness;
+    m_dataset.m_header.compression = static_cast<FileCompression>(metadata.compression);
+    m_dataset.m_header.byteOrder = static_cast<ByteOrder>(metadata.endianness);
 }
 
 std::string ReadStatLoad::decoded(const char* text) const

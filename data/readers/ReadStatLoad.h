@@ -75,6 +75,7 @@ private:
     readstat_error_t read(const QString& path);
     readstat_error_t runParser(const std::string& path, ParserInput& input);
     int finish(const QString& path, readstat_error_t code);
+    void makeNamesDistinct(const QString& path);
     bool resizeVariables(std::int64_t count);
     void acceptVariable(int index, const readstat_variable_t& variable);
     void acceptValue(int row, const readstat_variable_t& variable, const readstat_value_t& value);

@@ -2,6 +2,8 @@
 
 #include "data/values/Texts.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -9,6 +11,8 @@
 #include <string_view>
 
 namespace {
+
+constexpr std::string_view magic = "\xC2\xEA\x81\x60\xB3\x14\x11\xCF";
 
 /// Offsets and signatures of the file, n = 4 in 32-bit and 8 in 64-bit layout.
 constexpr std::int64_t smallestHeader = 1024;
@@ -19,6 +23,9 @@ constexpr std::uint32_t columnCountSignature = 0xF6F6F6F6;
 constexpr std::uint32_t textSignature = 0xFFFFFFFD;
 constexpr std::uint32_t attributesSignature = 0xFFFFFFFC;
 constexpr std::uint32_t formatSignature = 0xFFFFFBFE;
+constexpr std::uint32_t namesSignature = 0xFFFFFFFF;
+constexpr std::uint32_t countsSignature = 0xFFFFFC00;
+constexpr std::uint32_t listSignature = 0xFFFFFFFE;
 
 constexpr unsigned dataPage = 0x100;
 constexpr unsigned mixPage = 0x200;
@@ -30,6 +37,18 @@ constexpr unsigned deletedRowsOnPage = 0x80;
 /// The COMP byte of a subheader pointer is a bit field.
 constexpr unsigned compressedRow = 4;
 constexpr unsigned deletedCompressedRow = 5;
+
+/// The byte behind it, of rows and, in SAS's own files, of all metadata; other programs write 0 for
+/// some of it.
+constexpr unsigned typeOfRows = 1;
+
+bool isMetadata(std::uint32_t signature)
+{
+    constexpr std::array known{rowSizeSignature, columnCountSignature, textSignature,
+                               namesSignature,   attributesSignature,  formatSignature,
+                               countsSignature,  listSignature};
+    return std::find(known.begin(), known.end(), signature) != known.end();
+}
 
 /// Encoding codes that the packaged library takes; others end its parse at the header.
 bool libraryKnows(int encodingCode)
@@ -61,6 +80,7 @@ private:
         std::int64_t offset;  ///< in the file
         ByteView bytes;
         unsigned compression;
+        unsigned type;
         std::int64_t pointerOffset;  ///< in the file
     };
 
@@ -86,7 +106,9 @@ private:
 
     void findDeletedRows();
     void findDeletedRowsOn(const Page& page);
+    [[nodiscard]] bool isPlainRow(const Subheader& subheader) const;
     void noteRow(bool deleted);
+    void findDamage();
     void repairForLibrary(const ByteView& header, std::size_t a1, std::size_t a2);
     void replace(std::int64_t offset, std::string_view bytes);
 
@@ -97,6 +119,8 @@ private:
     std::int64_t m_headerLength = 0;
     std::int64_t m_pageSize = 0;
     std::int64_t m_pageCount = 0;
+    std::int64_t m_promisedPages = 0;
+    bool m_hasRowSize = false;
     std::int64_t m_columnCount = -1;
     std::int64_t m_attributeCount = 0;
     std::vector<char> m_pageBytes;
@@ -112,14 +136,35 @@ Sas7bdatLayout LayoutReader::read()
         if (m_layout.header.deletedObservations > 0) {
             findDeletedRows();
         }
+        findDamage();
     }
     return std::move(m_layout);
+}
+
+void LayoutReader::findDamage()
+{
+    const auto described = static_cast<std::int64_t>(m_layout.columns.size());
+    if (m_promisedPages > m_pageCount) {
+        m_layout.damage = fmt::format(
+            "Its header promises {} pages, but it is too short to hold them", m_promisedPages);
+    } else if (m_columnCount < 0 || !m_hasRowSize) {
+        m_layout.damage = "The description of its variables is missing";
+    } else if (described > m_columnCount) {
+        m_layout.damage =
+            fmt::format("It counts {} variables, but describes {}", m_columnCount, described);
+    } else if (m_layout.header.deletedObservations
+               != static_cast<std::int64_t>(m_layout.deletedRows.size())) {
+        m_layout.notes.push_back(fmt::format("It counts {} deleted observations, but marks {}",
+                                             m_layout.header.deletedObservations,
+                                             m_layout.deletedRows.size()));
+    }
 }
 
 bool LayoutReader::readHeader()
 {
     const std::vector<char> bytes = m_file.bytesAt(0, smallestHeader);
-    if (static_cast<std::int64_t>(bytes.size()) < 288) {
+    const std::string_view start(bytes.data(), bytes.size());
+    if (start.size() < 288 || start.substr(12, magic.size()) != magic) {
         return false;
     }
     const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
@@ -141,8 +186,9 @@ bool LayoutReader::readHeader()
         return false;
     }
     // A page count beyond the file's size is damage; what is there can still be described.
+    m_promisedPages = m_pageCount;
     m_pageCount =
-        std::clamp<std::int64_t>(m_pageCount, 0, (m_file.size() - m_headerLength) / m_pageSize + 1);
+        std::clamp<std::int64_t>(m_pageCount, 0, (m_file.size() - m_headerLength) / m_pageSize);
     return m_file.size() > m_headerLength;
 }
 
@@ -228,13 +274,14 @@ std::vector<LayoutReader::Subheader> LayoutReader::subheadersOf(const Page& page
         const std::int64_t offset = word(pointer, 0);
         const std::int64_t length = word(pointer, 1);
         const unsigned compression = pointer.u8(2 * wordSize());
+        const unsigned type = pointer.u8(2 * wordSize() + 1);
         if (offset < 0 || offset > m_pageSize || length < 0 || length > m_pageSize - offset) {
             continue;
         }
         found.push_back(
             {page.offset + offset,
              page.bytes.view(static_cast<std::size_t>(offset), static_cast<std::size_t>(length)),
-             compression, page.offset + static_cast<std::int64_t>(at)});
+             compression, type, page.offset + static_cast<std::int64_t>(at)});
     }
     return found;
 }
@@ -321,6 +368,7 @@ void LayoutReader::readMetadataPage(const Page& page)
 
 void LayoutReader::readRowSize(const ByteView& subheader)
 {
+    m_hasRowSize = true;
     m_layout.rowLength = word(subheader, 5);
     m_layout.rowCount = word(subheader, 6);
     m_layout.header.observationLength = m_layout.rowLength;
@@ -414,9 +462,7 @@ void LayoutReader::findDeletedRowsOn(const Page& page)
             replace(subheader.pointerOffset + place, std::string(1, char{compressedRow}));
         }
         const bool isRow = compression == compressedRow || compression == deletedCompressedRow;
-        const bool isPlainRow = m_layout.compressed && compression == 0
-            && static_cast<std::int64_t>(subheader.bytes.size()) == m_layout.rowLength;
-        if (isRow || isPlainRow) {
+        if (isRow || isPlainRow(subheader)) {
             noteRow(compression == deletedCompressedRow);
         }
     }
@@ -432,6 +478,15 @@ void LayoutReader::findDeletedRowsOn(const Page& page)
     for (std::size_t row = 0; row < rows && m_rowsSeen < m_layout.rowCount; ++row) {
         noteRow(marked && (page.bytes.u8(bitmap + row / 8) & (0x80U >> row % 8)) != 0);
     }
+}
+
+/// A row of a compressed file that stands as it is, since it would not have become shorter.
+/// Metadata may be as long as a row.
+bool LayoutReader::isPlainRow(const Subheader& subheader) const
+{
+    return m_layout.compressed && subheader.compression == 0 && subheader.type == typeOfRows
+        && static_cast<std::int64_t>(subheader.bytes.size()) == m_layout.rowLength
+        && !isMetadata(signatureOf(subheader.bytes));
 }
 
 void LayoutReader::noteRow(bool deleted)

@@ -46,10 +46,12 @@ struct Sas7bdatLayout
     /// Columns of width zero, which the library refuses; it reads them as one byte instead.
     std::vector<int> emptyColumns;
     std::vector<Byte> replacements;
+    std::string damage;  ///< what is certainly wrong with it, if anything
+    std::vector<std::string> notes;  ///< what may be wrong with it
 };
 
-/// Reads the layout. What a damaged file does not tell stays empty: it is the library's parse that
-/// decides whether the file can be read.
+/// Reads the layout. What a damaged file does not tell stays empty, and not all damage is found:
+/// the rest is left to the library's parse.
 [[nodiscard]] Sas7bdatLayout readSas7bdatLayout(const FileReader& file);
 
 /// The iconv name of a SAS encoding code, or an empty text for "any" and for unknown codes; those

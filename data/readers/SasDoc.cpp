@@ -32,12 +32,15 @@ int SasDoc::load(const QString& path)
 std::string SasDoc::Load::prepare(const FileReader& file, ParserInput& input)
 {
     m_layout = readSas7bdatLayout(file);
+    for (const std::string& note : m_layout.notes) {
+        m_dataset.addDamageNote(note);
+    }
     for (const Sas7bdatLayout::Byte& byte : m_layout.replacements) {
         input.replaceByte(byte.offset, byte.value);
     }
     cells().setDecoder(TextDecoder(sasEncodingName(m_layout.encodingCode)));
     skippedRows() = SkippedRows(m_layout.deletedRows);
-    return {};
+    return m_layout.damage;
 }
 
 readstat_error_t SasDoc::Load::parse(readstat_parser_t* parser, const char* path)

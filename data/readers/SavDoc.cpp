@@ -2,6 +2,7 @@
 
 #include "data/readers/ByteView.h"
 #include "data/readers/ReadStatLoad.h"
+#include "data/readers/SavCases.h"
 #include "data/values/SpssFormat.h"
 
 #include <fmt/format.h>
@@ -77,13 +78,15 @@ private:
     std::string prepare(const FileReader& file, ParserInput& input) override;
     readstat_error_t parse(readstat_parser_t* parser, const char* path) override;
     int acceptMetadata(const readstat_metadata_t& metadata) override;
+    void completeVariable(int index) override;
+    std::string complete(const FileReader& file) override;
     [[nodiscard]] bool isSuccess(readstat_error_t code) const override;
 
     SavDoc& m_dataset;
     ParserInput* m_input = nullptr;  ///< for the parse, which comes within its life
     bool m_isRenamedUtf8 = false;
+    SavCases m_cases;
     bool m_isZlib = false;
-    bool m_isRowCompressed = false;
 };
 
 int SavDoc::load(const QString& path)
@@ -110,7 +113,8 @@ std::string SavDoc::Load::prepare(const FileReader& file, ParserInput& input)
     const ByteView header(start, layoutCode == 2 || layoutCode == 3);
     m_isZlib = start.starts_with("$FL3");
     const std::uint32_t compression = header.u32(compressionAt);
-    m_isRowCompressed = compression == rowCompression || compression == zlibCompression;
+    m_cases.littleEndian = header.littleEndian();
+    m_cases.isRowCompressed = compression == rowCompression || compression == zlibCompression;
     if (compression > zlibCompression) {
         m_dataset.addDamageNote(
             fmt::format("Its header names an unknown compression ({}); it was read as uncompressed",
@@ -154,10 +158,23 @@ int SavDoc::Load::acceptMetadata(const readstat_metadata_t& metadata)
         return beginUncountedRows(metadata.var_count);
     }
     // A compressed case takes a byte for each of its values at least, a plain one eight.
-    const std::int64_t bytesPerValue = m_isZlib || m_isRowCompressed ? 1 : 8;
+    const std::int64_t bytesPerValue = m_isZlib || m_cases.isRowCompressed ? 1 : 8;
     const std::int64_t unpacked = m_isZlib ? fileSize() * largestZlibRatio : fileSize();
     const std::int64_t values = std::max<std::int64_t>(metadata.var_count, 1);
     return beginRows(metadata.row_count, metadata.var_count, unpacked / bytesPerValue / values);
+}
+
+void SavDoc::Load::completeVariable(int index)
+{
+    const auto at = static_cast<std::size_t>(index);
+    m_dataset.m_formatDecimals[at] = spss::decimalsOf(m_dataset.m_formats[at]);
+    m_cases.start = m_input->position();  // the values follow on the dictionary, which is read now
+}
+
+std::string SavDoc::Load::complete(const FileReader& file)
+{
+    const bool isCut = rowCountIsUnknown() && !m_isZlib && endsWithinCase(file, m_cases);
+    return isCut ? "It is cut short within an observation" : "";
 }
 
 bool SavDoc::Load::isSuccess(readstat_error_t code) const

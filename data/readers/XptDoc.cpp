@@ -60,6 +60,7 @@ private:
 
 int XptDoc::load(const QString& path)
 {
+    m_memberNames.clear();
     return Load(*this).run(path);
 }
 
@@ -125,10 +126,10 @@ std::string XptDoc::Load::chooseMember(const XptLayout& layout)
     }
     m_name = *found;
     m_member = layout.members[static_cast<std::size_t>(found - names.begin())];
-    if (m_member.rowLength <= 0 && !m_member.variables.empty()) {
-        return "Its variables have no length";
+    for (const std::string& note : m_member.notes) {
+        m_dataset.addDamageNote(note);
     }
-    return {};
+    return decoded(m_member.damage.c_str());  // it may quote the file
 }
 
 readstat_error_t XptDoc::Load::parse(readstat_parser_t* parser, const char* path)

@@ -50,6 +50,12 @@ void setLongName(FormatRecord& format, std::string_view text)
     }
 }
 
+bool isPossible(const XptMember::Variable& variable)
+{
+    constexpr int longestNumber = 8;
+    return variable.length > 0 && (variable.isCharacter || variable.length <= longestNumber);
+}
+
 class XptReader
 {
 public:
@@ -67,11 +73,10 @@ private:
                                          std::int64_t size, std::int64_t count);
     std::optional<Failure> readLongLabels(XptMember& member, std::int64_t& position,
                                           std::string_view kind);
-    static void applyLongLabel(XptMember& member, const ByteView& records, bool withFormats,
-                               std::size_t& at);
+    void readLongLabel(XptMember& member, std::int64_t& position, bool withFormats) const;
     [[nodiscard]] std::int64_t findMemberAfter(std::int64_t position) const;
-    [[nodiscard]] std::int64_t countRows(const XptMember& member,
-                                         std::optional<std::int64_t> declared) const;
+    [[nodiscard]] std::int64_t usedBytes(std::int64_t start, std::int64_t size) const;
+    void countRows(XptMember& member, std::optional<std::int64_t> declared) const;
 
     const FileReader& m_file;
     std::vector<char> m_card;
@@ -167,7 +172,9 @@ std::optional<Failure> XptReader::readMember(std::int64_t& position)
     }
     member.observations = position + card;
     member.end = findMemberAfter(member.observations);
-    member.rowCount = countRows(member, isLong ? digitsAt(next, 48, 15) : std::nullopt);
+    if (member.damage.empty()) {
+        countRows(member, isLong ? digitsAt(next, 48, 15) : std::nullopt);
+    }
     position = member.end;
     m_layout.members.push_back(std::move(member));
     return std::nullopt;
@@ -192,11 +199,15 @@ std::optional<Failure> XptReader::readVariables(XptMember& member, std::int64_t&
         variable.length = static_cast<std::int16_t>(record.u16(4));
         variable.format = {field(56, 8), record.u16(64), record.u16(66)};
         variable.informat = {field(72, 8), record.u16(80), record.u16(82)};
-        if (variable.length < 0) {
-            return Failure{fmt::format("Variable {} has a negative length", variable.name)};
+        if (!isPossible(variable) && member.damage.empty()) {
+            member.damage = fmt::format("Variable {} has an impossible length, {}", variable.name,
+                                        variable.length);
         }
         member.rowLength += variable.length;
         member.variables.push_back(std::move(variable));
+    }
+    if (count == 0) {
+        member.damage = "It has no variables";
     }
     position += (size * count + card - 1) / card * card;
     return std::nullopt;
@@ -209,37 +220,38 @@ std::optional<Failure> XptReader::readLongLabels(XptMember& member, std::int64_t
 {
     const bool withFormats = kind == "LABELV9";
     const auto count = digitsAt(cardAt(position), 48, 8);
-    if (!count) {
+    if (!count || *count > 0xFFFF) {
         return Failure{"The record that counts the long labels is damaged"};
     }
     position += card;
-    const std::int64_t longest = *count > 0xFFFF ? 0 : *count * (10 + 4 * 0xFFFF);
-    const std::vector<char> bytes = m_file.bytesAt(position, longest);
-    const ByteView records({bytes.data(), bytes.size()}, false);
-    std::size_t at = 0;
-    for (std::int64_t i = 0; i < *count && at < records.size(); ++i) {
-        applyLongLabel(member, records, withFormats, at);
+    const std::int64_t start = position;
+    for (std::int64_t i = 0; i < *count && position < m_file.size(); ++i) {
+        readLongLabel(member, position, withFormats);
     }
-    position += (static_cast<std::int64_t>(at) + card - 1) / card * card;
+    position = start + (position - start + card - 1) / card * card;
     return std::nullopt;
 }
 
-void XptReader::applyLongLabel(XptMember& member, const ByteView& records, bool withFormats,
-                               std::size_t& at)
+/// Takes over the formats of one entry; its name and label are left to the library, and most
+/// entries are small parts of what their sizes could be: nothing is read ahead.
+void XptReader::readLongLabel(XptMember& member, std::int64_t& position, bool withFormats) const
 {
-    const std::size_t index = records.u16(at);
-    const std::size_t nameSize = records.u16(at + 2);
-    const std::size_t labelSize = records.u16(at + 4);
-    const std::size_t formatSize = withFormats ? records.u16(at + 6) : 0;
-    const std::size_t informatSize = withFormats ? records.u16(at + 8) : 0;
-    const std::size_t nameAt = at + (withFormats ? 10 : 6);
+    const std::int64_t headSize = withFormats ? 10 : 6;
+    const std::vector<char> head = m_file.bytesAt(position, headSize);
+    const ByteView record({head.data(), head.size()}, false);
+    const std::size_t index = record.u16(0);
+    const std::size_t formatSize = record.u16(6);
+    const std::size_t informatSize = record.u16(8);
+    position += headSize + record.u16(2) + record.u16(4);
     if (index >= 1 && index <= member.variables.size() && formatSize < longestFormat) {
         XptMember::Variable& variable = member.variables[index - 1];
-        const std::size_t formatAt = nameAt + nameSize + labelSize;
-        setLongName(variable.format, records.text(formatAt, formatSize));
-        setLongName(variable.informat, records.text(formatAt + formatSize, informatSize));
+        const std::vector<char> bytes =
+            m_file.bytesAt(position, static_cast<std::int64_t>(formatSize + informatSize));
+        const std::string_view names(bytes.data(), bytes.size());
+        setLongName(variable.format, names.substr(0, formatSize));
+        setLongName(variable.informat, names.substr(std::min(formatSize, names.size())));
     }
-    at = nameAt + nameSize + labelSize + formatSize + informatSize;
+    position += static_cast<std::int64_t>(formatSize + informatSize);
 }
 
 /// Offset of the next member's header, on an 80-byte boundary, or the end of the file.
@@ -259,29 +271,50 @@ std::int64_t XptReader::findMemberAfter(std::int64_t position) const
     return m_file.size();
 }
 
-/// The last card is filled up with blanks, and rows of blanks look the same. So as many rows count
-/// as fit before the last card's padding could start, and behind them those that are not blank.
-/// Version 8 may declare the count; it is believed where the rows and one padding fill the space.
-std::int64_t XptReader::countRows(const XptMember& member,
-                                  std::optional<std::int64_t> declared) const
+/// How many of these bytes there are up to the last one that is not blank.
+std::int64_t XptReader::usedBytes(std::int64_t start, std::int64_t size) const
 {
-    const std::int64_t space = member.end - member.observations;
+    constexpr std::int64_t bytesAtOnce = 4096;
+    while (size > 0) {
+        const std::int64_t part = std::min(size, bytesAtOnce);
+        const std::vector<char> bytes = m_file.bytesAt(start + size - part, part);
+        const auto last =
+            std::find_if(bytes.rbegin(), bytes.rend(), [](char byte) { return byte != ' '; });
+        if (last != bytes.rend()) {
+            return size - part + (bytes.rend() - last);
+        }
+        size -= part;
+    }
+    return 0;
+}
+
+/// Blanks fill up the last card, and with some writers more cards. A row that holds a number is
+/// never blank, but one of texts alone may be: of those as many count as fit before the last card's
+/// padding could start. Version 8 may declare the count.
+void XptReader::countRows(XptMember& member, std::optional<std::int64_t> declared) const
+{
+    const std::int64_t space = std::max<std::int64_t>(member.end - member.observations, 0);
     const std::int64_t length = member.rowLength;
-    if (length <= 0 || space <= 0) {
-        return 0;
+    const std::int64_t whole = length > 0 ? space / length : 0;
+    const std::int64_t used = usedBytes(member.observations, space);
+    const std::int64_t usedRows = length > 0 ? (used + length - 1) / length : 0;
+    if (declared && *declared > whole) {
+        member.damage = fmt::format(
+            "Its header promises {} observations, but it is too short to hold them", *declared);
+    } else if (usedRows > whole) {
+        member.damage = fmt::format("It is cut short within observation {}", whole + 1);
+    } else if (declared && *declared < usedRows) {
+        member.notes.push_back(
+            fmt::format("Its header counts {} observations, but it holds {}", *declared, usedRows));
+    } else if (!declared && member.end % card != 0) {
+        member.notes.emplace_back(
+            "It does not end with a whole record: observations at its end may be missing");
     }
-    const std::int64_t most = space / length;
+    const bool isText = std::ranges::all_of(member.variables, &XptMember::Variable::isCharacter);
     const std::int64_t certain = std::max<std::int64_t>(space - card + 1, 0);
-    const std::int64_t least = std::min(most, (certain + length - 1) / length);
-    if (declared && *declared >= least && *declared <= most) {
-        return *declared;
-    }
-    const std::vector<char> tail =
-        m_file.bytesAt(member.observations + least * length, (most - least) * length);
-    const auto lastLetter =
-        std::find_if(tail.rbegin(), tail.rend(), [](char byte) { return byte != ' '; });
-    const std::int64_t used = tail.rend() - lastLetter;
-    return least + (used + length - 1) / length;
+    const std::int64_t least =
+        isText && length > 0 ? std::min(whole, (certain + length - 1) / length) : 0;
+    member.rowCount = std::max(usedRows, declared.value_or(least));
 }
 
 }  // namespace

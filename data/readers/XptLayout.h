@@ -30,6 +30,8 @@ struct XptMember
     std::int64_t rowLength = 0;  ///< bytes
     std::int64_t rowCount = 0;
     std::vector<std::int64_t> damagedTimes;  ///< offsets of times that are none
+    std::string damage;  ///< why it cannot be read; the other members can
+    std::vector<std::string> notes;  ///< what may be wrong with it
 };
 
 /// A SAS transport file of version 5 or 8: its members in the order of the file. The format library
@@ -42,5 +44,5 @@ struct XptLayout
 };
 
 /// Reads all descriptions and counts the rows; fails on a file that is no transport file, or whose
-/// records contradict each other.
+/// records do not follow each other as they must.
 [[nodiscard]] Result<XptLayout> readXptLayout(const FileReader& file);

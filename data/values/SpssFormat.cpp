@@ -582,4 +582,10 @@ std::string formatNumeric(double value, std::string_view format)
     }
 }
 
+int decimalsOf(std::string_view format)
+{
+    const auto parsed = parseFormat(format);
+    return parsed ? parsed->decimals : 0;
+}
+
 }  // namespace spss

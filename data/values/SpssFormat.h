@@ -26,4 +26,7 @@ namespace spss {
 /// - The custom currencies CCA to CCE look as SPSS sets them up at first, like COMMA.
 [[nodiscard]] std::string formatNumeric(double value, std::string_view format);
 
+/// The decimals of a print format: 2 of "F9.2"; 0 of an unknown one.
+[[nodiscard]] int decimalsOf(std::string_view format);
+
 }  // namespace spss

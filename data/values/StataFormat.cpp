@@ -48,6 +48,15 @@ std::optional<int> takeNumber(std::string_view& text)
     return number;
 }
 
+/// What follows the percent sign of a format, and the alignment.
+std::string_view withoutAlignment(std::string_view format)
+{
+    for (const std::string_view mark : {"%", "-", "~"}) {
+        format.remove_prefix(format.starts_with(mark) ? 1 : 0);
+    }
+    return format;
+}
+
 /// @param text  what follows the percent sign and the alignment
 std::optional<NumberFormat> parseNumberFormat(std::string_view text)
 {
@@ -527,10 +536,7 @@ std::string formatNumeric(double value, std::string_view format)
     if (std::isinf(value) || !format.starts_with('%') || format.size() > longestFormat) {
         return numbertext::shortest(value);
     }
-    format.remove_prefix(1);
-    if (format.starts_with('-') || format.starts_with('~')) {
-        format.remove_prefix(1);
-    }
+    format = withoutAlignment(format);
     if (format.starts_with('t') || format.starts_with('d')) {
         if (format.front() == 't') {
             format.remove_prefix(1);
@@ -542,6 +548,12 @@ std::string formatNumeric(double value, std::string_view format)
     }
     const auto number = parseNumberFormat(format);
     return number ? formatNumber(value, *number) : numbertext::shortest(value);
+}
+
+int decimalsOf(std::string_view format)
+{
+    const auto number = parseNumberFormat(withoutAlignment(format));
+    return number ? number->decimals : 0;
 }
 
 }  // namespace stata

@@ -29,4 +29,7 @@ namespace stata {
 ///   other.
 [[nodiscard]] std::string formatNumeric(double value, std::string_view format);
 
+/// The decimals of a display format: 2 of "%9.2f"; 0 of those for dates and texts.
+[[nodiscard]] int decimalsOf(std::string_view format);
+
 }  // namespace stata

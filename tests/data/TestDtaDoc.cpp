@@ -123,9 +123,12 @@ TEST_F(DtaDoc, readsTheLongStringsOfRelease119)
         const auto cell = [&](std::uint64_t text) { return file.reference(text); };
         const auto dataset =
             read("long.dta",
-                 file.bytes({{longString, "%9s", 8, {cell(2), cell(0), cell(1), cell(2)}}},
+                 file.bytes({{longString, "%9s", 8, {cell(2), cell(0), cell(1), cell(2), cell(3)}}},
                             {longText, "größer"}));
-        ASSERT_EQ(dataset->observationCount(), 4);
+        ASSERT_EQ(dataset->observationCount(), 5);
+        EXPECT_EQ(
+            dataset->damageNotes(),
+            std::vector<std::string>{"1 of its long texts are missing; their cells are empty"});
         EXPECT_TRUE(dataset->isCharacter(0));
         EXPECT_EQ(dataset->labels()[0], "A label");
         EXPECT_EQ(dataset->cellText(0, 0), "größer");

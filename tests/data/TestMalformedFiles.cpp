@@ -84,6 +84,16 @@ auto textBehind(std::string_view mark, std::size_t offset, std::string_view text
         [=](std::string& bytes) { bytes.replace(behind(bytes, mark) + offset, text.size(), text); };
 }
 
+/// A transport file whose only data set has neither variables nor rows.
+void withoutVariables(std::string& bytes)
+{
+    const std::size_t count = behind(bytes, "NAMESTR") + 27;
+    bytes.replace(count, 4, "0000");
+    const std::size_t records = count - 54 + 80;
+    bytes.erase(records, bytes.find("HEADER RECORD*******OBS") - records);
+    bytes.resize(records + 80);
+}
+
 struct Malformed
 {
     const char* name;
@@ -106,7 +116,7 @@ constexpr std::string_view attributes = "\xFC\xFF\xFF\xFF";
 constexpr std::size_t savVariable = 176;  // the first record of the dictionary
 
 const Malformed cases[] = {
-    {"sasWithoutBytes", sas, cutTo(0), refused},
+    {"sasWithoutBytes", sas, cutTo(0), refused, "is empty"},
     {"xptWithoutBytes", xpt, cutTo(0), refused},
     {"savWithoutBytes", sav, cutTo(0), refused},
     {"dtaWithoutBytes", dta, cutTo(0), refused},
@@ -117,12 +127,15 @@ const Malformed cases[] = {
     {"dtaOfUnknownRelease", dta114, putAt(0, 0x7F, 1), refused},
     {"sasCutInHeader", sas, cutTo(200), refused},
     {"sasCutBehindHeader", sas, cutTo(1024), refused},
-    {"sasCutInPage", sas, cutOff(100), refused},
+    {"sasCutInPage", sas, cutOff(100), refused, "pages, but it is too short"},
     {"xptCutInHeader", xpt, cutTo(300), refused},
     {"xptCutInVariables", xpt, cutBehind("NAMESTR", 160), refused, "promises 2 variables"},
-    {"xptCutInFourthRow", xpt, cutBehind("*OBS     ", 51 + 3 * rowLength + 5), 3},
+    {"xptCutInFourthRow", xpt, cutBehind("*OBS     ", 52 + 3 * rowLength + 5), refused,
+     "cut short within observation 4"},
+    {"xptCutBehindItsThirdRow", xpt, cutBehind("*OBS     ", 52 + 3 * rowLength), 3,
+     "does not end with a whole record"},
     {"savCutInHeader", sav, cutTo(100), refused},
-    {"savCutInDictionary", sav, cutTo(200), refused},
+    {"savCutInDictionary", sav, cutTo(200), refused, "cut short"},
     {"savCutInRows", sav, cutOff(5), rowsRefused},
     {"compressedSavCutInRows", savRows, cutOff(30), rowsRefused},
     {"zlibSavWithoutItsEnd", zsav, cutOff(10), rowsRefused},
@@ -137,6 +150,12 @@ const Malformed cases[] = {
      "promises 1000000000 observations"},
     {"sasWithRowsOfNoBytes", sas, putIn(rowSize, 5 * 8, 0, 8), refused},
     {"sasWithMoreColumnsThanDescribed", sas, putIn(columnCount, 8, 70000, 8), refused},
+    {"sasWithFewerColumnsThanDescribed", sas, putIn(columnCount, 8, 1, 8), refused,
+     "counts 1 variables, but describes 2"},
+    {"sasWithoutItsColumnCount", sas, putIn(columnCount, 0, 0, 4), refused, "is missing"},
+    {"sasWithoutItsRowSize", sas, putIn(rowSize, 0, 0, 4), refused, "is missing"},
+    {"sasThatCountsDeletedRows", sas, putIn(rowSize, 7 * 8, 3, 8), healthyRows,
+     "counts 3 deleted observations, but marks 0"},
     {"sasColumnBeyondTheRow", sas, putIn(attributes, 16, 5000, 8), rowsRefused},
     {"sasColumnWiderThanTheRow", sas, putIn(attributes, 24, 5000, 4), rowsRefused},
     {"xptWithTooManyVariables", xpt, textBehind("NAMESTR", 27, "9999"), refused,
@@ -146,8 +165,16 @@ const Malformed cases[] = {
     {"xptWithVariablesOfNoBytes", xpt, textBehind("*MEMBER ", 46, "0000"), refused,
      "starts a data set"},
     {"xptWithNegativeLength", xpt, textBehind("NAMESTR", 53 + 4, "\xFF\xF0"), refused,
-     "NAME has a negative length"},
-    {"xptThatCountsTooManyRows", xpt8, textBehind("OBSV8", 31, "9999"), healthyRows},
+     "NAME has an impossible length, -16"},
+    {"xptWithVariableOfNoBytes", xpt, textBehind("NAMESTR", 53 + 4, std::string_view("\0\0", 2)),
+     refused, "NAME has an impossible length, 0"},
+    {"xptWithTooLongNumber", xpt, textBehind("NAMESTR", 53 + 140 + 4, std::string_view("\0\x9", 2)),
+     refused, "AGE has an impossible length, 9"},
+    {"xptWithoutVariables", xpt, withoutVariables, refused, "has no variables"},
+    {"xptThatCountsTooManyRows", xpt8, textBehind("OBSV8", 34, "9999"), refused,
+     "promises 9999 observations"},
+    {"xptThatCountsTooFewRows", xpt8, textBehind("OBSV8", 36, " 7"), healthyRows,
+     "counts 7 observations, but it holds 10"},
     {"savWithTooManyRows", sav, putAt(80, 0x7FFFFFFF, 4), refused,
      "promises 2147483647 observations"},
     {"savWithLessThanNoRows", sav, putAt(80, 0xFFFFFFFE, 4), refused},

@@ -1,4 +1,6 @@
+#include "data/readers/SavDoc.h"
 #include "tests/data/ReaderTest.h"
+#include "tests/support/LogCapture.h"
 
 #include <cmath>
 #include <ostream>
@@ -39,6 +41,16 @@ samples::Table visits()
     return table;
 }
 
+samples::Table texts(const std::vector<std::string>& values)
+{
+    samples::Table table;
+    table.columns = {samples::textColumn("TEXT", "Text", 12)};
+    for (const std::string& value : values) {
+        table.rows.push_back({value});
+    }
+    return table;
+}
+
 class Readers : public ReaderTest, public testing::WithParamInterface<FileCase>
 {
 protected:
@@ -70,6 +82,7 @@ TEST_P(Readers, readEveryCell)
     EXPECT_EQ(dataset.numericValue(2, 1), -1.0);
     EXPECT_TRUE(std::isnan(dataset.numericValue(1, 1)));
 
+    EXPECT_EQ(dataset.formatDecimals()[1], 2);
     EXPECT_EQ(dataset.cellText(0, 1), "2.50");
     EXPECT_EQ(dataset.cellText(0, 2), GetParam().date);
     EXPECT_EQ(dataset.cellText(1, 1), GetParam().missing);
@@ -90,6 +103,7 @@ TEST_P(Readers, describeWithoutReadingCells)
     EXPECT_EQ(dataset.labels().back(), "Date");
     EXPECT_FALSE(dataset.formats().back().empty());
     EXPECT_EQ(dataset.cellCount(), 0U);
+    EXPECT_EQ(dataset.cellText(0, 0), "");
     EXPECT_EQ(dataset.libraryFilterMask().size(), 0U);
     EXPECT_EQ(dataset.visibleVariables().count(), 3U);
 }
@@ -133,6 +147,63 @@ TEST_F(ReaderFiles, openUnderANameThatIsNoText)
     EXPECT_TRUE(openDataset(path("m") + QChar(0xDCFC) + QStringLiteral("nch.xpt")).ok());
 }
 
+TEST_F(ReaderFiles, tellHowTheyArePackedAndInWhichOrder)
+{
+    for (const auto& [file, compression, expected] :
+         {std::tuple("a.sas7bdat", Compression::None, FileCompression::None),
+          std::tuple("a.sas7bdat", Compression::Rows, FileCompression::Rows),
+          std::tuple("a.sav", Compression::Zlib, FileCompression::Binary)}) {
+        const auto dataset = read(file, written(file, visits(), {.compression = compression}));
+        EXPECT_EQ(dataset->header().compression, expected);
+        EXPECT_EQ(dataset->header().byteOrder, ByteOrder::Little);
+    }
+}
+
+TEST_F(ReaderFiles, haveNoTwoVariablesOfOneName)
+{
+    samples::Table table;
+    for (const char* const name : {"AGEN", "AGE1", "AGE2", "agen", "AGE3", "AGEN_2"}) {
+        table.columns.push_back(samples::numberColumn(name, "x"));
+    }
+    for (const char* const file : {"a.sas7bdat", "a.xpt", "a.dta"}) {
+        SCOPED_TRACE(file);
+        std::string bytes = written(file, table, {.release = file[2] == 'd' ? 114 : 0});
+        for (const char* const name : {"AGE1", "AGE3"}) {
+            bytes.replace(bytes.find(name), 4, "AGEN");
+        }
+        LogCapture log;
+        const auto dataset = read(file, bytes);
+        EXPECT_EQ(dataset->names(),
+                  (std::vector<std::string>{"AGEN", "AGEN_3", "AGE2", "agen", "AGEN_4", "AGEN_2"}));
+        const std::string lines = log.take();
+        EXPECT_NE(lines.find("variable 5 has the name of an earlier one and is called AGEN_4"),
+                  std::string::npos)
+            << lines;
+    }
+}
+
+TEST_F(ReaderFiles, replaceWhatADatasetHeld)
+{
+    samples::Table other = texts({"Bern"});
+    std::string odd = written("odd.sav", visits());
+    put(odd, 72, 7, 4);
+    SavDoc dataset;
+    ASSERT_EQ(dataset.load(write("odd.sav", odd)), 0);
+    ASSERT_EQ(dataset.damageNotes().size(), 1U);
+    const std::string whole = written("other.sav", other);
+    ASSERT_EQ(dataset.load(write("other.sav", whole)), 0);
+    EXPECT_EQ(dataset.damageNotes().size(), 0U);
+    EXPECT_EQ(dataset.cellCount(), 1U);
+    EXPECT_EQ(dataset.cellText(0, 0), "Bern");
+    EXPECT_EQ(dataset.textPool().size(), 1U);
+    EXPECT_EQ(dataset.names(), std::vector<std::string>{"TEXT"});
+    EXPECT_EQ(dataset.libraryFilterMask().size(), 1U);
+    EXPECT_NE(dataset.load(write("cut.sav", odd.substr(0, 300))), 0);
+    EXPECT_EQ(dataset.cellCount(), 0U);
+    EXPECT_EQ(dataset.libraryFilterMask().size(), 0U);
+    EXPECT_EQ(dataset.cellText(0, 0), "");
+}
+
 TEST_F(ReaderFiles, areCountedWhereAnSpssFileDoesNotTell)
 {
     for (const Compression compression : {Compression::None, Compression::Rows}) {
@@ -145,6 +216,11 @@ TEST_F(ReaderFiles, areCountedWhereAnSpssFileDoesNotTell)
         const auto described = read("unknown.sav", bytes, {.metadataOnly = true});
         EXPECT_EQ(described->observationCount(), 3);
         EXPECT_EQ(described->cellCount(), 0U);
+        for (const std::size_t cut : {1, 8, 16}) {
+            const auto opened = openDataset(write("cut.sav", bytes.substr(0, bytes.size() - cut)));
+            EXPECT_TRUE(!opened.ok() && opened.error().ends_with("cut short within an observation"))
+                << cut;
+        }
     }
 }
 

@@ -3,8 +3,7 @@
 namespace {
 
 constexpr int rowLength = 16;
-constexpr std::size_t pageHeader = 40;  // in files of 64-bit layout, as these are
-constexpr std::size_t pointerSize = 24;
+constexpr std::size_t pageHeader = 40;  // in files of 64-bit layout
 
 samples::Table numbers(int rows)
 {
@@ -39,14 +38,22 @@ std::size_t subheader(const std::string& bytes, std::string_view signature)
     return behind(bytes, signature) - signature.size();
 }
 
+/// Of its long numbers: the layout.
+std::size_t wordSize(const std::string& bytes)
+{
+    return bytes[32] == '3' ? 8 : 4;
+}
+
 /// Writes a count of deleted observations into the row-size subheader, and returns where the pages
-/// start, each with its type at 32 and its numbers of blocks and subheaders behind.
+/// start, each with its type at 32 (16) and its numbers of blocks and subheaders behind.
 std::vector<std::size_t> pagesWithDeleted(std::string& bytes, std::size_t count)
 {
-    put(bytes, subheader(bytes, "\xF7\xF7\xF7\xF7") + 7 * 8, count, 8);
+    const std::size_t word = wordSize(bytes);
+    put(bytes, subheader(bytes, "\xF7\xF7\xF7\xF7") + 7 * word, count, word);
+    const std::size_t shift = bytes[35] == '3' ? 4 : 0;
     std::vector<std::size_t> pages;
-    for (std::size_t page = numberAt(bytes, 196, 4); page < bytes.size();
-         page += numberAt(bytes, 200, 4)) {
+    for (std::size_t page = numberAt(bytes, 196 + shift, 4); page < bytes.size();
+         page += numberAt(bytes, 200 + shift, 4)) {
         pages.push_back(page);
     }
     return pages;
@@ -72,20 +79,26 @@ void markDeleted(std::string& bytes, const std::vector<int>& rows)
     }
 }
 
-/// The same in compressed files: by the mark of each row's own pointer.
-void markDeletedCompressed(std::string& bytes, const std::vector<int>& rows)
+/// The same in compressed files: by the mark of each row's own pointer. All pointers get the type
+/// that SAS gives them, which of metadata the library does not write.
+/// @param plain  a text in the one row that is not compressed
+void markDeletedCompressed(std::string& bytes, const std::vector<int>& rows, std::string_view plain)
 {
+    const std::size_t word = wordSize(bytes);
+    const std::size_t header = word == 8 ? 40 : 24;
     int row = 0;
     for (const std::size_t page : pagesWithDeleted(bytes, rows.size())) {
-        for (std::size_t i = 0; i < numberAt(bytes, page + 36, 2); ++i) {
-            const std::size_t pointer = page + pageHeader + i * pointerSize;
-            const bool isPlainRow = numberAt(bytes, pointer + 16, 1) == 0
-                && numberAt(bytes, pointer + 8, 8) == rowLength;
-            if (numberAt(bytes, pointer + 16, 1) != 4 && !isPlainRow) {
+        for (std::size_t i = 0; i < numberAt(bytes, page + header - 4, 2); ++i) {
+            const std::size_t pointer = page + header + i * 3 * word;
+            const std::string_view pointed = std::string_view(bytes).substr(
+                page + numberAt(bytes, pointer, word), numberAt(bytes, pointer + word, word));
+            put(bytes, pointer + 2 * word + 1, 1, 1);
+            const bool isPacked = numberAt(bytes, pointer + 2 * word, 1) == 4;
+            if (!isPacked && pointed.find(plain) == std::string_view::npos) {
                 continue;
             }
             if (std::find(rows.begin(), rows.end(), row) != rows.end()) {
-                put(bytes, pointer + 16, 5, 1);
+                put(bytes, pointer + 2 * word, 5, 1);
             }
             ++row;
         }
@@ -114,13 +127,33 @@ TEST_F(SasDoc, leavesDeletedObservationsOut)
 
 TEST_F(SasDoc, leavesDeletedObservationsOfCompressedFilesOut)
 {
-    samples::Table table = numbers(8);
-    table.rows[3] = {1.2345678901234567, "abcdefgh"};  // too varied: it stays as it is
-    std::string bytes = written(table, samples::Compression::Rows);
-    markDeletedCompressed(bytes, {0, 4, 7});
-    const auto dataset = read(bytes);
-    EXPECT_EQ(column(*dataset, 1), (std::vector<std::string>{"T1", "T2", "abcdefgh", "T5", "T6"}));
-    EXPECT_EQ(dataset->numericValue(4, 0), 6);
+    const std::string varied = "abcdefghijklmnopqrstuvwxyz";  // it would not become shorter
+    // As long as metadata is: column counts, formats and row sizes of either layout; and another.
+    for (const int length : {24, 52, 64, 480, 808, 40}) {
+        for (const bool layout64 : {false, true}) {
+            SCOPED_TRACE(testing::Message() << length << (layout64 ? " 64" : " 32"));
+            samples::Table table = numbers(9);
+            table.columns.push_back(samples::textColumn("REST", "Rest", length - rowLength));
+            std::string rest;
+            while (static_cast<int>(rest.size()) < length - rowLength) {
+                rest += varied;
+            }
+            rest.resize(static_cast<std::size_t>(length - rowLength));
+            for (samples::Row& row : table.rows) {
+                row.emplace_back("x");
+            }
+            table.rows[3] = {1.2345678901234567, "abcdefgh", rest};
+            std::string bytes = ReaderTest::written(
+                "lb.sas7bdat", table,
+                {.compression = samples::Compression::Rows, .layout64 = layout64});
+            markDeletedCompressed(bytes, {0, 4, 8}, "abcdefgh");
+            const auto dataset = read(bytes);
+            EXPECT_EQ(column(*dataset, 1),
+                      (std::vector<std::string>{"T1", "T2", "abcdefgh", "T5", "T6", "T7"}));
+            EXPECT_EQ(dataset->numericValue(5, 0), 7);
+            EXPECT_EQ(dataset->damageNotes(), std::vector<std::string>());
+        }
+    }
 }
 
 TEST_F(SasDoc, fillsTheHeaderFields)

@@ -98,17 +98,34 @@ TEST_F(XptDoc, tellsBlankRowsFromPadding)
     }
 }
 
+TEST_F(XptDoc, takesNoBlanksForARowThatHoldsANumber)
+{
+    for (const int length : {3, 72, 152}) {  // of the text beside the number
+        SCOPED_TRACE(length);
+        samples::Table table = texts("T", length, {"x", "", ""});
+        table.columns.push_back(samples::numberColumn("N", "Number"));
+        for (samples::Row& row : table.rows) {
+            row.emplace_back(samples::missing);
+        }
+        const std::string bytes = written("blank.xpt", table);
+        for (const std::size_t cards : {0, 1, 7}) {
+            EXPECT_EQ(read("blank.xpt", bytes + std::string(80 * cards, ' '))->observationCount(),
+                      3)
+                << cards;
+        }
+    }
+}
+
 TEST_F(XptDoc, believesTheCountOfVersion8WhereItCanBeTrue)
 {
     // Three rows of 8 bytes in a card of 80: one to ten rows could be meant.
     std::string bytes = written("count.xpt", texts("T", 8, {"x", "y", ""}), {.release = 8});
     const std::size_t count = behind(bytes, "OBSV8   HEADER RECORD!!!!!!!");
-    for (const int rows : {1, 3, 10}) {
+    for (const int rows : {2, 3, 10}) {
         bytes.replace(count, 15, fmt::format("{:15}", rows));
         EXPECT_EQ(read("count.xpt", bytes)->observationCount(), rows);
+        EXPECT_EQ(read("count.xpt", bytes + std::string(240, ' '))->observationCount(), rows);
     }
-    bytes.replace(count, 15, fmt::format("{:15}", 11));
-    EXPECT_EQ(read("count.xpt", bytes)->observationCount(), 2) << "the rows that are not blank";
 }
 
 /// A big-endian number of two bytes.
