@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 
 #include "cli/Commands.h"
+#include "cli/Help.h"
 #include "cli/Selection.h"
 #include "data/FilePath.h"
 #include "data/Version.h"
@@ -31,18 +32,26 @@ int fail(const std::string& text)
     return Failed;
 }
 
-void addCommon(CLI::App& command, Common& common)
+OutputFormat formatNamed(const std::string& name)
 {
     static const std::map<std::string, OutputFormat> formats{
         {"text", OutputFormat::Text},
         {"json", OutputFormat::Json},
         {"tsv", OutputFormat::Tsv},
     };
-    command.add_option("FILE", common.file, "The data file")->required();
-    command.add_option("--member", common.member, "The data set in a file that holds several");
-    command.add_option("--format", common.format, "text, json or tsv")
-        ->transform(CLI::CheckedTransformer(formats, CLI::ignore_case))
-        ->default_str("text");
+    const auto found = formats.find(name);
+    if (found == formats.end()) {
+        throw CLI::ValidationError("--format", name + " is none of text, json and tsv");
+    }
+    return found->second;
+}
+
+void addCommon(CLI::App& command, Common& common)
+{
+    command.add_option("FILE", common.file)->required();
+    command.add_option("--member", common.member);
+    command.add_option_function<std::string>(
+        "--format", [&common](const std::string& name) { common.format = formatNamed(name); });
 }
 
 Result<OpenedDataset> open(const Common& common, bool metadataOnly)
@@ -59,7 +68,7 @@ Result<OpenedDataset> open(const Common& common, bool metadataOnly)
 
 void addWhere(CLI::App& command, std::optional<std::string>& where)
 {
-    command.add_option("--where", where, "Only observations that meet this condition");
+    command.add_option("--where", where);
 }
 
 int runContents(const Common& common)
@@ -105,54 +114,51 @@ struct Requests
 
 CLI::App* addContents(CLI::App& app, Requests& requests)
 {
-    CLI::App* command = app.add_subcommand("contents", "Describes a dataset and its variables");
+    CLI::App* command = app.add_subcommand("contents");
     addCommon(*command, requests.common);
     return command;
 }
 
 CLI::App* addRows(CLI::App& app, Requests& requests)
 {
-    CLI::App* command = app.add_subcommand("rows", "Prints observations");
+    CLI::App* command = app.add_subcommand("rows");
     addCommon(*command, requests.common);
     addWhere(*command, requests.where);
     RowsRequest& request = requests.rows;
-    command->add_option("--keep", request.keep, "Only these variables, in this order");
-    command->add_option("--drop", request.drop, "All variables but these");
-    command->add_option("--sort", request.sort, "Sort by V, or by V:desc in descending order");
-    command->add_option("--first", request.first, "At most so many observations")
-        ->check(CLI::NonNegativeNumber);
-    command->add_flag("--raw", request.raw, "The values as they are stored");
+    command->add_option("--keep", request.keep);
+    command->add_option("--drop", request.drop);
+    command->add_option("--sort", request.sort);
+    command->add_option("--first", request.first)->check(CLI::NonNegativeNumber);
+    command->add_flag("--raw", request.raw);
     return command;
 }
 
 CLI::App* addFreq(CLI::App& app, Requests& requests)
 {
-    CLI::App* command = app.add_subcommand("freq", "Counts the values of variables");
+    CLI::App* command = app.add_subcommand("freq");
     addCommon(*command, requests.common);
-    command->add_option("VARIABLES", requests.freq.variables, "V, or V*W for combinations")
-        ->required();
+    command->add_option("VARIABLES", requests.freq.variables)->required();
     addWhere(*command, requests.where);
-    command->add_flag("--distinct", requests.freq.distinct, "Count subjects, not observations");
-    command->add_option("--id", requests.freq.idName, "The variable that identifies a subject")
-        ->capture_default_str();
+    command->add_flag("--distinct", requests.freq.distinct);
+    command->add_option("--id", requests.freq.idName);
     return command;
 }
 
 CLI::App* addStats(CLI::App& app, Requests& requests)
 {
-    CLI::App* command = app.add_subcommand("stats", "Summarises a numeric variable");
+    CLI::App* command = app.add_subcommand("stats");
     addCommon(*command, requests.common);
-    command->add_option("VARIABLE", requests.stats.variable, "A numeric variable")->required();
+    command->add_option("VARIABLE", requests.stats.variable)->required();
     addWhere(*command, requests.where);
-    command->add_option("--by", requests.stats.by, "One line for each group of these");
+    command->add_option("--by", requests.stats.by);
     return command;
 }
 
 CLI::App* addFind(CLI::App& app, Requests& requests)
 {
-    CLI::App* command = app.add_subcommand("find", "Lists the cells that show a text");
+    CLI::App* command = app.add_subcommand("find");
     addCommon(*command, requests.common);
-    command->add_option("TEXT", requests.text, "The text, in any letter case")->required();
+    command->add_option("TEXT", requests.text)->required();
     addWhere(*command, requests.where);
     return command;
 }
@@ -161,7 +167,10 @@ CLI::App* addFind(CLI::App& app, Requests& requests)
 
 int run(int argc, char** argv)
 {
-    CLI::App app("Shows statistical datasets without a window.", "quorlane-cli");
+    CLI::App app({}, "quorlane-cli");
+    app.formatter_fn([](const CLI::App* command, const std::string&, CLI::AppFormatMode) {
+        return helpOf(command->get_name());
+    });
     app.set_version_flag("--version", quorlane::version);
     app.require_subcommand(1);
     Requests requests;

@@ -35,11 +35,26 @@ std::vector<std::string> texts(const StatDataset& dataset, const Variables& vari
     return texts;
 }
 
+/// As it is stored; null where missing.
+std::string jsonValue(const FreqValue& value)
+{
+    if (const auto* text = std::get_if<std::string_view>(&value)) {
+        return jsonText(*text);
+    }
+    const auto* number = std::get_if<double>(&value);
+    return number == nullptr ? "null" : jsonNumber(*number);
+}
+
 void printJson(const StatDataset& dataset, const Variables& variables,
                const Frequencies& frequencies)
 {
     for (const WordsAndCounts& one : frequencies) {
-        print(fmt::format("{{\"values\":[{}],\"count\":{}}}\n",
+        std::string values;
+        for (const FreqValue& value : one.values) {
+            values += values.empty() ? "" : ",";
+            values += jsonValue(value);
+        }
+        print(fmt::format("{{\"values\":[{}],\"texts\":[{}],\"count\":{}}}\n", values,
                           jsonTexts(texts(dataset, variables, one)), one.count));
     }
 }

@@ -148,6 +148,28 @@ TEST_F(CommandLine, rowsKeepsTheObservationsThatMeetACondition)
     EXPECT_EQ(observations("AVAL > 1000"), std::vector<int>());
 }
 
+TEST_F(CommandLine, freqGivesValuesAsStoredAndAsShown)
+{
+    const auto lines = jsonLines(run("freq", "\"AVAL*ASTDT\" --format json").out);
+    ASSERT_EQ(lines.size(), 3U);
+    EXPECT_EQ(lines[0],
+              (json{{"values", {-1e10, 1.0}}, {"texts", {"-1000000", "02Jan1960"}}, {"count", 1}}));
+    EXPECT_EQ(lines[2]["values"], (json{2.25, nullptr}));
+    EXPECT_EQ(jsonLines(run("freq", "AETERM --format json").out)[2]["values"],
+              json::array({"RASH\tred"}));
+}
+
+TEST_F(CommandLine, helpIsWrittenForPeople)
+{
+    const Outcome outcome = run("rows --help");
+    EXPECT_EQ(outcome.code, 0);
+    for (const char* const part :
+         {"Usage: quorlane-cli rows FILE", "--where CONDITION", "--member"}) {
+        EXPECT_NE(outcome.out.find(part), std::string::npos) << outcome.out;
+    }
+    EXPECT_NE(run("--help").out.find("COMMAND FILE"), std::string::npos);
+}
+
 TEST_F(CommandLine, problemsNameTheFileOrVariable)
 {
     const Outcome variable = run("rows", "--keep AETREM");

@@ -1,0 +1,94 @@
+#include "cli/Help.h"
+
+namespace cli {
+
+namespace {
+
+constexpr std::string_view program = R"(Usage: quorlane-cli COMMAND FILE [OPTION...]
+
+Shows SAS data sets, SAS transport files, SPSS and Stata data files without a window.
+
+Commands:
+  contents   describe the dataset and its variables
+  rows       print the observations
+  freq       count the values of variables
+  stats      summarise a numeric variable
+  find       list the cells that show a text
+
+Options:
+  --help     print this text, or that of a command: quorlane-cli rows --help
+  --version  print the version
+
+Exit codes: 0 done, 2 not done, with the reason on standard error.
+)";
+
+constexpr std::string_view contents = R"(Usage: quorlane-cli contents FILE [OPTION...]
+
+Describes the dataset and its variables.
+
+)";
+
+constexpr std::string_view rows = R"(Usage: quorlane-cli rows FILE [OPTION...]
+
+Prints the observations with their numbers, as the grid shows them.
+
+Options:
+  --where CONDITION    only those that meet it: --where 'AGE > 65 and SEX = "F"'
+  --keep VARIABLE...   only these variables, in this order
+  --drop VARIABLE...   all variables but these
+  --sort VARIABLE...   sort by these; a name followed by :desc in descending order
+  --first NUMBER       at most so many observations
+  --raw                values as they are stored, not as their formats show them
+)";
+
+constexpr std::string_view freq =
+    R"(Usage: quorlane-cli freq FILE VARIABLE[*VARIABLE...] [OPTION...]
+
+Counts the observations with each value, or with each combination of values (SEX*RACE).
+
+Options:
+  --where CONDITION    only observations that meet it
+  --distinct           count subjects instead of observations
+  --id VARIABLE        which variable tells subjects apart; USUBJID without it
+)";
+
+constexpr std::string_view stats = R"(Usage: quorlane-cli stats FILE VARIABLE [OPTION...]
+
+Summarises a numeric variable: count, mean, median, minimum, maximum, range, standard deviation.
+
+Options:
+  --where CONDITION    only observations that meet it
+  --by VARIABLE...     a line for each group of these
+)";
+
+constexpr std::string_view find = R"(Usage: quorlane-cli find FILE TEXT [OPTION...]
+
+Lists the cells that show the text, in any letter case.
+
+Options:
+  --where CONDITION    only observations that meet it
+)";
+
+constexpr std::string_view ofAll = R"(  --format FORMAT      text (the default), json or tsv
+  --member NAME        which dataset of a file that holds several; the first without it
+  --help               print this text
+)";
+
+}  // namespace
+
+std::string helpOf(std::string_view command)
+{
+    const std::string_view own = command == "contents" ? contents
+        : command == "rows"                            ? rows
+        : command == "freq"                            ? freq
+        : command == "stats"                           ? stats
+        : command == "find"                            ? find
+                                                       : std::string_view();
+    if (own.empty()) {
+        return std::string(program);
+    }
+    const std::string_view title = own == contents ? "Options:\n" : "";
+    return std::string(own).append(title).append(ofAll);
+}
+
+}  // namespace cli
