@@ -1,6 +1,7 @@
 #include "analysis/RowSorter.h"
 #include "cli/Commands.h"
 #include "cli/Selection.h"
+#include "data/StoredValue.h"
 
 #include <fmt/format.h>
 
@@ -86,11 +87,10 @@ std::string RowPrinter::plainCell(int observation, int variable) const
     if (!m_raw) {
         return m_dataset.cellText(observation, variable);
     }
-    if (m_dataset.isCharacter(variable)) {
-        return m_dataset.stringValue(observation, variable);
-    }
-    const std::string number = jsonNumber(m_dataset.numericValue(observation, variable));
-    return number == "null" ? "." : number;
+    const std::string number = m_dataset.isNumeric(variable)
+        ? jsonNumber(m_dataset.numericValue(observation, variable))
+        : "null";
+    return number == "null" ? storedvalue::text(m_dataset, observation, variable) : number;
 }
 
 std::string RowPrinter::jsonCell(int observation, int variable) const

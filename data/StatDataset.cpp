@@ -133,6 +133,11 @@ std::string_view StatDataset::missingText(int) const
     return {};
 }
 
+std::string StatDataset::writtenFormat(int column) const
+{
+    return m_formats[static_cast<std::size_t>(column)];
+}
+
 DateScale StatDataset::dateScale(int column) const
 {
     return DateScale::ofSas(m_formats[static_cast<std::size_t>(column)]);

@@ -134,6 +134,8 @@ public:
     [[nodiscard]] virtual MissingMark missingMark(int column) const;
     /// The text that stands for a missing one besides the empty text; empty where none does.
     [[nodiscard]] virtual std::string_view missingText(int column) const;
+    /// Its format as the users of its files write it: "DATE9.", "F8.2", "%9.2f".
+    [[nodiscard]] virtual std::string writtenFormat(int column) const;
     /// How it counts dates and times; as SAS does unless the reader knows better.
     [[nodiscard]] virtual DateScale dateScale(int column) const;
 

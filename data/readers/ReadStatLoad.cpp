@@ -2,6 +2,7 @@
 
 #include "data/FilePath.h"
 #include "data/readers/DistinctNames.h"
+#include "data/values/MissingTag.h"
 #include "data/values/Texts.h"
 
 #include <fmt/format.h>
@@ -34,7 +35,10 @@ TypeCode typeCodeOf(readstat_type_t type)
 /// structure is read here directly.
 double numberOf(const readstat_value_t& value)
 {
-    if (value.is_system_missing || value.is_tagged_missing) {
+    if (value.is_tagged_missing) {
+        return missingtag::number(value.tag);
+    }
+    if (value.is_system_missing) {
         return missingNumber;
     }
     switch (value.type) {

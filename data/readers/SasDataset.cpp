@@ -47,6 +47,12 @@ std::string SasDataset::variableAttribute(int column, VariableAttribute attribut
     return StatDataset::variableAttribute(column, attribute);
 }
 
+std::string SasDataset::writtenFormat(int column) const
+{
+    const auto variable = static_cast<std::size_t>(column);
+    return sasFormatText(m_formats[variable], m_formatWidths[variable], m_formatDecimals[variable]);
+}
+
 std::string SasDataset::formatCharacter(std::string_view text, std::string_view format, int width,
                                         int) const
 {

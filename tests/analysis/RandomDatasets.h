@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/values/MissingTag.h"
 #include "tests/support/ScriptedDataset.h"
 
 #include <memory>
@@ -36,8 +37,11 @@ inline std::unique_ptr<ScriptedDataset> ofFewValues(SourceKind kind, std::mt1993
     using Values = std::vector<ScriptedDataset::Value>;
     constexpr double missing = ScriptedDataset::missing;
     const Values texts{"N/A", "", "a", "ab", "a ", "B", "N/AB", "\xC3\xA9"};
-    const Values numbers{missing, -missing,  -0.0, 0.0,  1.0,      1.0000001, 1.5,
-                         9.0,     naInteger, 10.0, -2.0, HUGE_VAL, -HUGE_VAL, 2147483647.0};
+    const Values numbers{missing,   -missing,  missingtag::number('A'),
+                         -0.0,      0.0,       1.0,
+                         1.0000001, 1.5,       9.0,
+                         naInteger, 10.0,      -2.0,
+                         HUGE_VAL,  -HUGE_VAL, 2147483647.0};
     auto dataset = withVariables(kind);
     dataset->rows(rows, [&](int row, int column) {
         const Values& values = column % 6 == 0 ? texts : numbers;

@@ -100,6 +100,8 @@ TEST_F(CommandLine, rowsShowsStoredValuesOnRequest)
     const auto rows = jsonLines(run("rows", "--raw --format json").out);
     EXPECT_EQ(rows[0]["cells"][2].get<double>(), 0.1) << "17 digits read back";
     EXPECT_TRUE(rows[1]["cells"][1].is_null());
+    EXPECT_EQ(run("rows", "--raw --format tsv --keep ASTDT AVAL").out,
+              "Obs\tASTDT\tAVAL\n1\t0\t0.10000000000000001\n2\t.\t2.25\n3\t1\t-10000000000\n");
     EXPECT_EQ(run("rows", "--raw --format tsv --keep AETERM").out,
               "Obs\tAETERM\n1\tHEADACHE\n2\tRASH\\tred\n3\tNAUSEA\n");
 }

@@ -1,3 +1,4 @@
+#include "data/StoredValue.h"
 #include "tests/data/ReaderTest.h"
 
 #include <bit>
@@ -166,6 +167,8 @@ TEST_F(DtaDoc, showsNarrowNumbersByTheirFormats)
                 const double number = dataset->numericValue(row, column);
                 EXPECT_TRUE(row < 2 ? number == numbers[column][row] : std::isnan(number));
             }
+            EXPECT_EQ(storedvalue::text(*dataset, 2, column), ".");
+            EXPECT_EQ(storedvalue::text(*dataset, 3, column), ".c");
         }
     }
 }

@@ -1,4 +1,5 @@
 #include "data/readers/SavDoc.h"
+#include "data/StoredValue.h"
 #include "tests/data/ReaderTest.h"
 #include "tests/support/LogCapture.h"
 
@@ -222,6 +223,33 @@ TEST_F(ReaderFiles, areCountedWhereAnSpssFileDoesNotTell)
                 << cut;
         }
     }
+}
+
+class SpecialMissing : public ReaderTest
+{ };
+
+TEST_F(SpecialMissing, keepsItsLetter)
+{
+    samples::Table table;
+    table.name = "LB";
+    table.columns = {samples::numberColumn("N", "N", "F", 8, 1)};
+    table.rows = {{1.0 / 3}, {samples::missing}, {samples::missing}, {samples::missing}};
+    // Where a cell holds the letter, and how it stands there.
+    const auto check = [&](const char* name, std::size_t cell, std::size_t place, unsigned flip) {
+        std::string bytes = written(name, table);
+        bytes.at(cell + 8 + place) = static_cast<char>('A' ^ flip);
+        bytes.at(cell + 16 + place) = static_cast<char>('_' ^ flip);
+        const auto dataset = read(name, bytes);
+        std::string texts;
+        for (int row = 0; row < 4; ++row) {
+            texts += storedvalue::text(*dataset, row, 0) + ' ';
+        }
+        EXPECT_EQ(texts, "0.3333333333333333 .A ._ . ") << name;
+        EXPECT_EQ(dataset->cellText(1, 0), dataset->cellText(3, 0));
+        EXPECT_EQ(dataset->writtenFormat(0), "F8.1");
+    };
+    check("lb.xpt", written("lb.xpt", table).find("@UUUUUU"), 0, 0);
+    check("lb.sas7bdat", written("lb.sas7bdat", table).find("UUUUUU\xD5?"), 5, 0xFF);
 }
 
 }  // namespace
