@@ -12,24 +12,28 @@ GridColumns::GridColumns(QTableView& view, OpenDataset& opened)
     , m_opened(opened)
 { }
 
-void GridColumns::followBits()
+bool GridColumns::followBits()
 {
     // The view lays itself out again for each column otherwise, and there may be thousands.
     const bool updated = m_view.updatesEnabled();
     m_view.setUpdatesEnabled(false);
     const auto restore = qScopeGuard([&] { m_view.setUpdatesEnabled(updated); });
+    bool hasChanged = false;
     for (int variable = 0; variable < m_view.horizontalHeader()->count(); ++variable) {
-        followBit(variable);
+        hasChanged = followBit(variable) || hasChanged;
     }
+    return hasChanged;
 }
 
-void GridColumns::followBit(int variable)
+bool GridColumns::followBit(int variable)
 {
     const bool isShown = m_opened.variables().isShown(variable);
-    if (variable >= 0 && variable < m_view.horizontalHeader()->count()
-        && m_view.isColumnHidden(variable) == isShown) {
+    const bool hasChanged = variable >= 0 && variable < m_view.horizontalHeader()->count()
+        && m_view.isColumnHidden(variable) == isShown;
+    if (hasChanged) {
         m_view.setColumnHidden(variable, !isShown);
     }
+    return hasChanged;
 }
 
 void GridColumns::followOrder()

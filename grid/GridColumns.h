@@ -11,9 +11,9 @@ public:
     /// Both outlive this object. The view has its model already.
     GridColumns(QTableView& view, OpenDataset& opened);
 
-    /// Hides and shows columns as the dataset's bits say.
-    void followBits();
-    void followBit(int variable);
+    /// Hides and shows columns as the dataset's bits say, and tells whether any has changed.
+    bool followBits();
+    bool followBit(int variable);
     /// Brings the columns into the dataset's order.
     void followOrder();
     /// Takes an order over that the user has given the columns.

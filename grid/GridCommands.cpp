@@ -205,6 +205,17 @@ constexpr std::array<Entry, commandCount> entries{
                       standardKey(QKeySequence::Copy, Qt::Key_C)))),
     inMenu(QT_TRANSLATE_NOOP("GridContextMenu", "Copy (include Var Name)"),
            entry(CopyWithNames, [](MainTableView& view) { view.cmdCopy(true); })),
+    entry(CopyStoredValues, [](MainTableView& view) { view.cmdCopyStoredValues(); }),
+    listed(QT_TRANSLATE_NOOP("ShortcutList", "Show Cell"),
+           QT_TRANSLATE_NOOP("ShortcutList", "Show the whole text of the current cell."),
+           entry(
+               ShowCell, [](MainTableView& view) { emit view.signalShowDockCell(); },
+               key(Qt::Key_Space), key(Qt::Key_F2))),
+    listed(QT_TRANSLATE_NOOP("ShortcutList", "Show Row"),
+           QT_TRANSLATE_NOOP("ShortcutList", "Show all variables of the current row."),
+           entry(
+               ShowRow, [](MainTableView& view) { emit view.signalShowDockRow(); },
+               key(Qt::Key_F2, Qt::ShiftModifier))),
     listed(
         QT_TRANSLATE_NOOP("ShortcutList", "Increase the Font Size"),
         QT_TRANSLATE_NOOP("ShortcutList", "Make the font bigger."),

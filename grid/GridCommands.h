@@ -37,6 +37,9 @@ enum class GridCommand
     GoToVariable,
     Copy,
     CopyWithNames,
+    CopyStoredValues,
+    ShowCell,
+    ShowRow,
     LargerFont,
     SmallerFont,
 };

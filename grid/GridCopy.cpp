@@ -1,6 +1,8 @@
 #include "grid/GridCopy.h"
 
+#include "data/StoredValue.h"
 #include "grid/GridTable.h"
+#include "grid/MainTableModel.h"
 #include "grid/opened/OpenDataset.h"
 
 #include <QStringList>
@@ -20,6 +22,18 @@ void append(QString& result, const QString& cell)
     const auto start = result.size();
     result += cell;
     std::replace_if(result.begin() + start, result.end(), breaksTheTable, u' ');
+}
+
+/// @param textOf  of a cell, by row and variable
+template <typename TextOf>
+QString ofSelectedCells(const GridTable& grid, TextOf textOf)
+{
+    const GridSelection selection = grid.selected();
+    const std::vector<int> rows = selection.rows();
+    const std::vector<int> variables = selection.variables();
+    return text({rows, variables, [&](int row, int variable) {
+                     return selection.contains(row, variable) ? textOf(row, variable) : QString();
+                 }});
 }
 
 }  // namespace
@@ -53,18 +67,24 @@ QString line(const QStringList& texts)
     return result;
 }
 
-QString ofSelection(const GridTable& grid, bool includeNames)
+QString ofSelection(const GridTable& grid)
 {
-    const GridSelection selection = grid.selected();
-    const std::vector<int> rows = selection.rows();
-    const std::vector<int> variables = selection.variables();
-    const auto cellText = [&](int row, int variable) {
-        return selection.contains(row, variable)
-            ? grid.model()->index(row, variable).data().toString()
-            : QString();
-    };
-    const QString cells = text({rows, variables, cellText});
-    return includeNames ? namesOf(grid, variables) + u'\n' + cells : cells;
+    return ofSelectedCells(grid, [&](int row, int variable) {
+        return grid.model()->index(row, variable).data().toString();
+    });
+}
+
+QString ofSelectionWithNames(const GridTable& grid)
+{
+    return namesOf(grid, grid.selected().variables()) + u'\n' + ofSelection(grid);
+}
+
+QString ofStoredValues(const GridTable& grid)
+{
+    return ofSelectedCells(grid, [&](int row, int variable) {
+        const int observation = grid.tableModel()->observationAt(row);
+        return QString::fromStdString(storedvalue::text(*grid.dataset(), observation, variable));
+    });
 }
 
 QString namesOf(const GridTable& grid, std::span<const int> variables)

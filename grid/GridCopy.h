@@ -26,8 +26,12 @@ struct Cells
 /// The same texts in one line.
 [[nodiscard]] QString line(const QStringList& texts);
 
-/// The selected cells of a grid, below a line of their variables' names where they are wanted.
-[[nodiscard]] QString ofSelection(const GridTable& grid, bool includeNames);
+/// The selected cells of a grid as it shows them.
+[[nodiscard]] QString ofSelection(const GridTable& grid);
+/// The same below a line of their variables' names.
+[[nodiscard]] QString ofSelectionWithNames(const GridTable& grid);
+/// The values of the selected cells as they are stored.
+[[nodiscard]] QString ofStoredValues(const GridTable& grid);
 /// The names of these variables in one line.
 [[nodiscard]] QString namesOf(const GridTable& grid, std::span<const int> variables);
 

@@ -68,8 +68,10 @@ namespace gridselection {
 
 std::vector<int> wholeColumns(const QItemSelection& selection, const RowVisibility& rows)
 {
-    const int first = rows.nearestShown(0);
-    const int last = rows.nearestShown(static_cast<int>(rows.shown().size()) - 1);
+    const int bottom = static_cast<int>(rows.shown().size()) - 1;
+    const bool areAllHidden = rows.shownCount() == 0;
+    const int first = areAllHidden ? 0 : rows.nearestShown(0);
+    const int last = areAllHidden ? bottom : rows.nearestShown(bottom);
     if (first == last) {
         return {};
     }

@@ -34,8 +34,8 @@ private:
 
 namespace gridselection {
 
-/// The columns that are selected from the first shown row to the last; none when only one row is
-/// shown, where a single cell is as much.
+/// The columns that are selected from the first shown row to the last, or through all rows while
+/// none is shown; none when only one row is shown, where a single cell is as much.
 [[nodiscard]] std::vector<int> wholeColumns(const QItemSelection& selection,
                                             const RowVisibility& rows);
 

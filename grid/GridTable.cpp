@@ -1,14 +1,16 @@
 #include "grid/GridTable.h"
 
 #include "data/StatDataset.h"
+#include "grid/GridHeader.h"
 #include "grid/MainTableModel.h"
 #include "grid/opened/OpenDataset.h"
 
 #include <QAbstractItemDelegate>
 #include <QEvent>
 #include <QFontInfo>
-#include <QHeaderView>
+#include <QGuiApplication>
 #include <QItemSelectionModel>
+#include <QScopedValueRollback>
 #include <QScopeGuard>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -25,6 +27,7 @@ constexpr int widestFitted = 400;
 GridTable::GridTable(OpenDataset* opened, QWidget* parent)
     : QTableView(parent)
     , m_opened(opened)
+    , m_columnHeader(new GridHeader(Qt::Horizontal, this))
 {
     setWordWrap(false);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -33,34 +36,45 @@ GridTable::GridTable(OpenDataset* opened, QWidget* parent)
     // some of which are commands.
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setUpColumnHeader();
-    setUpRowHeader(*verticalHeader());
+    startRowHeaderOver();
 }
 
 void GridTable::setUpColumnHeader()
 {
-    QHeaderView* columnHeader = horizontalHeader();
-    columnHeader->setHighlightSections(false);
-    columnHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    columnHeader->setSectionsClickable(true);
-    columnHeader->setMinimumSectionSize(24);
-    // Not by setSortingEnabled(), after which a click on a header would no longer select.
-    columnHeader->setSortIndicatorShown(true);
-    columnHeader->setSortIndicator(-1, Qt::AscendingOrder);
-    columnHeader->viewport()->installEventFilter(this);
+    setHorizontalHeader(m_columnHeader);
+    m_columnHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_columnHeader->setRightAligned(
+        [this](int variable) { return isReady() && !dataset()->isCharacter(variable); });
+    m_columnHeader->setMinimumSectionSize(24);
+    m_columnHeader->setSectionsMovable(true);
+    setSortingEnabled(true);
+    sortByColumn(-1, Qt::AscendingOrder);
+    // Sorting takes it from the headers to select their columns.
+    connect(m_columnHeader, &QHeaderView::sectionPressed, this, &GridTable::pressColumn);
+    m_columnHeader->viewport()->installEventFilter(this);
 }
 
+/// Puts a row header in the place of the old one, which shows all rows: showing a million of them
+/// one by one takes the old one ten times as long.
 /// One height for all rows: measuring a million of them, or only asking for it, is out of question.
-void GridTable::setUpRowHeader(QHeaderView& header) const
+void GridTable::startRowHeaderOver()
 {
+    const bool shown = !verticalHeader()->isHidden();
+    m_rowHeader = new GridHeader(Qt::Vertical, this);
     const int rowHeight = fontMetrics().height() + 6;
-    header.setFont(font());
-    header.setMinimumSectionSize(rowHeight);
-    header.setDefaultSectionSize(rowHeight);
-    header.setSectionResizeMode(QHeaderView::Fixed);
-    header.setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    header.setHighlightSections(false);
-    header.setSectionsClickable(true);
-    header.setMinimumWidth(rowHeaderWidth());
+    m_rowHeader->setFont(font());
+    m_rowHeader->setMinimumSectionSize(rowHeight);
+    m_rowHeader->setDefaultSectionSize(rowHeight);
+    m_rowHeader->setSectionResizeMode(QHeaderView::Fixed);
+    m_rowHeader->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_rowHeader->setMinimumWidth(rowHeaderWidth());
+    setVerticalHeader(m_rowHeader);  // which deletes the old one
+    m_rowHeader->setVisible(shown);
+    connect(m_rowHeader, &QHeaderView::sectionPressed, this, [this] {
+        if (!QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier)) {
+            m_anchor = currentIndex();
+        }
+    });
 }
 
 /// Room for the largest number, whichever rows are shown: the columns would jump from one filter to
@@ -70,6 +84,24 @@ int GridTable::rowHeaderWidth() const
     const int largest = m_opened == nullptr ? 0 : dataset()->observationCount();
     return fontMetrics().horizontalAdvance(QString::number(largest) + u'0')
         + 2 * style()->pixelMetric(QStyle::PM_HeaderMargin);
+}
+
+/// The view itself would go to the topmost row in sight.
+void GridTable::pressColumn(int column)
+{
+    const QModelIndex before = currentIndex();
+    const QModelIndex anchorBefore = anchor();
+    const bool extends =
+        anchorBefore.isValid() && QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+    if (extends) {
+        setCurrentAndAnchor(before, anchorBefore);
+    }
+    selectColumn(column);
+    const QModelIndex current =
+        before.isValid() ? model()->index(before.row(), column) : currentIndex();
+    setCurrentAndAnchor(current, extends ? anchorBefore : current);
+    takePlace();
+    showCurrentCell();
 }
 
 void GridTable::setModel(QAbstractItemModel* model)
@@ -139,8 +171,10 @@ void GridTable::fitColumns()
     columnHeader->setResizeContentsPrecision(rowsToMeasure);
     resizeColumnsToContents();
     for (int column = 0; column < columnHeader->count(); ++column) {
-        const int width = std::max(columnHeader->sectionSize(column),
-                                   widthOfSpreadRows(column, rowsToMeasure / 5));
+        // Of a hidden one nothing has been measured yet.
+        const int measured = isColumnHidden(column) ? m_columnHeader->titleWidth(column)
+                                                    : columnHeader->sectionSize(column);
+        const int width = std::max(measured, widthOfSpreadRows(column, rowsToMeasure / 5));
         columnHeader->resizeSection(column, std::min(width, widestFitted));
     }
 }
@@ -208,7 +242,7 @@ void GridTable::setFontSize(int points)
     headerGround->setFont(changed);
     if (isReady()) {
         // Hidden rows would keep the height that they had.
-        const Place before = place();
+        const GridPlace before = place();
         startRowHeaderOver();
         m_rows.reset(m_model->rowMap().size());
         showRows(before, Scrolling::FollowCurrent);
@@ -218,23 +252,11 @@ void GridTable::setFontSize(int points)
 
 void GridTable::setHeaderMode(HeaderMode mode)
 {
-    if (isReady()) {
-        const Place before = place();
+    if (isReady() && mode != m_model->headerMode()) {
+        const GridPlace before = place();
         m_model->setHeaderMode(mode);
         showRows(before, Scrolling::Stay);
-        widenForHeaders();
-    }
-}
-
-/// Labels want more room than names; what the user has made wider stays.
-void GridTable::widenForHeaders()
-{
-    QHeaderView* header = horizontalHeader();
-    for (int column = 0; column < header->count(); ++column) {
-        const int wanted = std::min(header->sectionSizeHint(column), widestFitted);
-        if (!header->isSectionHidden(column) && header->sectionSize(column) < wanted) {
-            header->resizeSection(column, wanted);
-        }
+        fitColumns();
     }
 }
 
@@ -247,32 +269,46 @@ void GridTable::applyRowVisibility()
 
 void GridTable::keyboardSearch(const QString& /*search*/) { }
 
-GridTable::Place GridTable::place() const
+int GridTable::currentObservation() const
 {
-    const QModelIndex current = currentIndex();
-    const QItemSelection& selection = selectionModel()->selection();
-    return {current.isValid() ? m_model->observationAt(current.row()) : m_lostObservation,
-            m_currentVariable, gridselection::wholeColumns(selection, m_rows),
-            !selection.isEmpty() || m_lostObservation >= 0};
+    return cellAt(currentIndex()).observation;
 }
 
-void GridTable::showRows(const Place& place, Scrolling scrolling)
+GridPlace::Cell GridTable::cellAt(const QModelIndex& index) const
 {
-    // Every hidden row would be cut out of such a selection, at a cost that grows with the rows.
-    if (!place.wholeColumns.empty()) {
-        clearSelection();
-    }
-    hideAndShowRows();
+    return isReady() && index.isValid()
+        ? GridPlace::Cell{m_model->observationAt(index.row()), index.column()}
+        : GridPlace::Cell();
+}
 
-    const QModelIndex currentBefore = currentIndex();
-    const bool scrollsToCurrent = hasAutoScroll();
-    setAutoScroll(false);
-    restoreCurrent(place);
-    restoreSelection(place, currentBefore);
-    setAutoScroll(scrollsToCurrent);
+GridPlace GridTable::place() const
+{
+    GridPlace place;
+    if (m_place) {
+        place = *m_place;
+    } else {
+        place.current.observation = m_lastObservation;
+        place.anchor = cellAt(anchor());
+        gridplace::noteSelection(place, selectionModel()->selection(), *m_model, m_rows);
+    }
+    place.current.variable = m_currentVariable;
+    return place;
+}
+
+void GridTable::showRows(const GridPlace& place, Scrolling scrolling)
+{
+    {
+        const QScopedValueRollback restoring(m_isRestoring, true);
+        // Every hidden row would be cut out of whole columns, at a cost that grows with the rows.
+        clearSelection();
+        hideAndShowRows();
+        restore(place);
+        m_place = place;
+    }
     if (scrolling == Scrolling::FollowCurrent && currentIndex().isValid()) {
         scrollTo(currentIndex());
     }
+    showCurrentCell();
 }
 
 /// Hiding a row makes the view lay itself out again unless updates are off, and the header tell the
@@ -295,42 +331,42 @@ void GridTable::hideAndShowRows()
     updateGeometries();
 }
 
-/// Puts a row header in the place of the old one, which shows all rows: showing a million of them
-/// one by one takes the old one ten times as long.
-void GridTable::startRowHeaderOver()
+void GridTable::restore(const GridPlace& place)
 {
-    const bool shown = !verticalHeader()->isHidden();
-    auto* header = new QHeaderView(Qt::Vertical, this);
-    setUpRowHeader(*header);
-    setVerticalHeader(header);  // which deletes the old one
-    header->setVisible(shown);
+    const QModelIndex current = nearestShown(place.current);
+    setCurrentAndAnchor(current, nearestShown(place.anchor));
+    QItemSelection selection = gridplace::selectionOf(place, *m_model, m_rows);
+    if (selection.isEmpty() && place.hasSelection() && current.isValid()) {
+        selection.select(current, current);
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
-void GridTable::restoreCurrent(const Place& place)
+/// From where Shift selects; one that is not selected any more has been left by a command.
+QModelIndex GridTable::anchor() const
 {
-    if (place.observation < 0) {
-        return;
-    }
-    const int row = m_rows.nearestShown(m_model->rowOf(place.observation));
-    m_lostObservation = row < 0 ? place.observation : -1;
-    selectionModel()->setCurrentIndex(row < 0 ? QModelIndex() : model()->index(row, place.variable),
-                                      QItemSelectionModel::NoUpdate);
+    return selectionModel()->isSelected(m_anchor) ? QModelIndex(m_anchor) : currentIndex();
 }
 
-void GridTable::restoreSelection(const Place& place, const QModelIndex& currentBefore)
+/// The cell, or where its row is hidden the one in the nearest row that is shown.
+QModelIndex GridTable::nearestShown(const GridPlace::Cell& cell) const
 {
-    if (!place.hasSelection) {
-        return;
-    }
-    if (!place.wholeColumns.empty()) {
-        selectionModel()->select(gridselection::ofWholeColumns(*model(), place.wholeColumns),
-                                 QItemSelectionModel::ClearAndSelect);
-    } else if (currentIndex() != currentBefore || !selectionModel()->hasSelection()) {
-        clearSelection();
-        if (currentIndex().isValid()) {
-            selectionModel()->select(currentIndex(), QItemSelectionModel::Select);
-        }
-    }
+    const int row =
+        cell.observation < 0 ? -1 : m_rows.nearestShown(m_model->rowOf(cell.observation));
+    return row < 0 ? QModelIndex() : model()->index(row, cell.variable);
+}
+
+/// Selects nothing and scrolls nowhere. The view takes a cell for its anchor that is made the
+/// current one; other ways to it there are none.
+void GridTable::setCurrentAndAnchor(const QModelIndex& current, const QModelIndex& anchor)
+{
+    const QScopedValueRollback restoring(m_isRestoring, true);
+    const bool scrollsToCurrent = hasAutoScroll();
+    setAutoScroll(false);
+    setCurrentIndex(anchor);
+    selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    setAutoScroll(scrollsToCurrent);
+    m_anchor = anchor;
 }
 
 void GridTable::makeCurrent(int variable)
@@ -347,12 +383,16 @@ void GridTable::makeCurrent(int variable)
 
 void GridTable::leaveHiddenColumn()
 {
-    if (m_currentVariable < 0 || m_opened->variables().isShown(m_currentVariable)) {
+    if (m_currentVariable < 0) {
         return;
     }
-    const int replacement = m_opened->variables().neighbour(m_currentVariable);
+    const ShownVariables& variables = m_opened->variables();
+    const int replacement =
+        variables.isShown(m_currentVariable) ? -1 : variables.neighbour(m_currentVariable);
     if (replacement >= 0) {
         makeCurrent(replacement);
+    } else if (m_anchor.isValid() && !variables.isShown(m_anchor.column())) {
+        setCurrentAndAnchor(currentIndex(), currentIndex());
     }
 }
 
@@ -362,4 +402,47 @@ void GridTable::currentChanged(const QModelIndex& current, const QModelIndex& pr
     if (current.isValid()) {
         m_currentVariable = current.column();
     }
+    if (!m_isRestoring) {
+        takePlace();
+        showCurrentCell();
+    }
+}
+
+/// The user is here now, and not where he was taken from any more.
+void GridTable::takePlace()
+{
+    m_place.reset();
+    if (currentIndex().isValid()) {
+        m_lastObservation = currentObservation();
+    }
+}
+
+void GridTable::showCurrentCell()
+{
+    m_columnHeader->markSection(m_currentVariable);
+    m_rowHeader->markSection(currentIndex().row());
+    emit signalCurrentCellChanged();
+}
+
+void GridTable::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QTableView::selectionChanged(selected, deselected);
+    if (!m_isRestoring) {
+        takePlace();
+    }
+}
+
+void GridTable::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command)
+{
+    QTableView::setSelection(rect, command);
+    if (!command.testAnyFlags(QItemSelectionModel::Rows | QItemSelectionModel::Columns)) {
+        m_anchor = indexAt(rect.topLeft());
+    }
+}
+
+QItemSelectionModel::SelectionFlags GridTable::selectionCommand(const QModelIndex& index,
+                                                                const QEvent* event) const
+{
+    return m_isRestoring ? QItemSelectionModel::NoUpdate
+                         : QTableView::selectionCommand(index, event);
 }

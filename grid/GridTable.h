@@ -1,22 +1,24 @@
 #pragma once
 
 #include "grid/GridColumns.h"
+#include "grid/GridPlace.h"
 #include "grid/GridSelection.h"
 #include "grid/RowVisibility.h"
 
+#include <QPersistentModelIndex>
 #include <QTableView>
 
 #include <optional>
-#include <vector>
 
+class GridHeader;
 class MainTableModel;
 class OpenDataset;
 class StatDataset;
 enum class HeaderMode : std::uint32_t;
 
 /// The table of one dataset as far as it is a table: shows the rows that the dataset's two filter
-/// masks select and the variables that its visibility bits show, and keeps the current cell on its
-/// observation through sorts and filters.
+/// masks select and the variables that its visibility bits show, and keeps the current cell and the
+/// selection on their observations through sorts and filters.
 class GridTable : public QTableView
 {
     Q_OBJECT
@@ -36,6 +38,8 @@ public:
     /// before there was one.
     [[nodiscard]] int currentVariable() const { return m_currentVariable; }
     [[nodiscard]] bool isCurrentVariableShown() const;
+    /// The observation of the current cell, -1 without one.
+    [[nodiscard]] int currentObservation() const;
     /// The selected cells that are shown. Needs the grid's model.
     [[nodiscard]] GridSelection selected() const;
     [[nodiscard]] int shownRowCount() const;
@@ -59,16 +63,10 @@ public:
 signals:
     /// The user has given the letters another size, which all grids share.
     void signalFontSizeChanged(int points);
+    /// Another cell is the current one, or none is, or its observation stands in another row.
+    void signalCurrentCellChanged();
 
 protected:
-    /// Where the user is, in terms that a sort or filter does not change.
-    struct Place
-    {
-        int observation = -1;  ///< of the current cell, -1 without one
-        int variable = -1;
-        std::vector<int> wholeColumns;  ///< that are selected
-        bool hasSelection = false;
-    };
     enum class Scrolling
     {
         Stay,
@@ -80,35 +78,50 @@ protected:
     [[nodiscard]] GridColumns& columns() { return *m_columns; }
     [[nodiscard]] const RowVisibility& rows() const { return m_rows; }
 
-    [[nodiscard]] Place place() const;
+    /// Where the user has gone last: where rows that a filter shows again bring him back to.
+    [[nodiscard]] GridPlace place() const;
     /// Shows the selected rows and goes back to the place, or to what is left nearest to it.
-    void showRows(const Place& place, Scrolling scrolling);
+    void showRows(const GridPlace& place, Scrolling scrolling);
     /// Makes a shown variable the current one, in the current row.
     void makeCurrent(int variable);
     /// Takes the current cell out of a column that has been hidden, to the next that is shown.
     void leaveHiddenColumn();
 
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
+    void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
+    [[nodiscard]] QItemSelectionModel::SelectionFlags
+    selectionCommand(const QModelIndex& index, const QEvent* event) const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void setUpColumnHeader();
     void followRows();
     void followColumns();
-    void widenForHeaders();
     [[nodiscard]] int widthOfSpreadRows(int column, int rowCount) const;
-    void setUpRowHeader(QHeaderView& header) const;
-    [[nodiscard]] int rowHeaderWidth() const;
     void startRowHeaderOver();
+    [[nodiscard]] int rowHeaderWidth() const;
+    void pressColumn(int column);
     void hideAndShowRows();
-    void restoreCurrent(const Place& place);
-    void restoreSelection(const Place& place, const QModelIndex& currentBefore);
+    void restore(const GridPlace& place);
+    void setCurrentAndAnchor(const QModelIndex& current, const QModelIndex& anchor);
+    void takePlace();
+    void showCurrentCell();
+    [[nodiscard]] QModelIndex anchor() const;
+    [[nodiscard]] QModelIndex nearestShown(const GridPlace::Cell& cell) const;
+    [[nodiscard]] GridPlace::Cell cellAt(const QModelIndex& index) const;
 
     OpenDataset* m_opened;
     MainTableModel* m_model = nullptr;  ///< the view's model when it is a grid model
+    GridHeader* m_columnHeader;
+    GridHeader* m_rowHeader = nullptr;
     std::optional<GridColumns> m_columns;
     RowVisibility m_rows;
-    Place m_placeBeforeChange;
+    GridPlace m_placeBeforeChange;
+    std::optional<GridPlace> m_place;  ///< until the user goes elsewhere
+    QPersistentModelIndex m_anchor;  ///< from where Shift selects; Qt keeps its own to itself
+    bool m_isRestoring = false;  ///< what changes now is not the user's doing
     int m_currentVariable = -1;
-    int m_lostObservation = -1;  ///< of the current cell when the last row went
+    int m_lastObservation = -1;  ///< that the user has gone to
 };

@@ -5,6 +5,7 @@
 #include "grid/GridContextMenu.h"
 #include "grid/GridCopy.h"
 #include "grid/GridCounters.h"
+#include "grid/GridEmptiness.h"
 #include "grid/MainTableModel.h"
 #include "grid/WaitCursor.h"
 
@@ -14,6 +15,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QPainter>
 
 #include <algorithm>
 #include <new>
@@ -31,7 +33,14 @@ MainTableView::MainTableView(OpenDataset* opened, QWidget* parent)
 void MainTableView::connectHeaders()
 {
     QHeaderView* header = horizontalHeader();
-    connect(header, &QHeaderView::sectionClicked, this, &MainTableView::onHeaderClicked);
+    connect(header, &QHeaderView::sectionClicked, this, [this](int variable) {
+        constexpr Qt::KeyboardModifiers selecting = Qt::ControlModifier | Qt::ShiftModifier;
+        if ((QGuiApplication::keyboardModifiers() & selecting) == Qt::NoModifier) {
+            onHeaderClicked(variable);
+        } else {
+            showSort();  // which any click has turned the indicator from
+        }
+    });
     header->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(header, &QWidget::customContextMenuRequested, this, &MainTableView::showHeaderMenu);
 }
@@ -67,6 +76,19 @@ void MainTableView::followOpenDataset()
     showSort();
 }
 
+void MainTableView::paintEvent(QPaintEvent* event)
+{
+    GridTable::paintEvent(event);
+    const QString text = isReady() ? gridemptiness::text(*opened()) : QString();
+    if (!text.isEmpty()) {
+        constexpr int margin = 24;
+        QPainter painter(viewport());
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                         Qt::AlignCenter | Qt::TextWordWrap, text);
+    }
+}
+
 // What the open dataset tells
 
 void MainTableView::showFilters()
@@ -79,14 +101,20 @@ void MainTableView::showFilters()
 void MainTableView::showVariables()
 {
     columns().followBits();
+    tellVariables();
+}
+
+void MainTableView::tellVariables()
+{
     leaveHiddenColumn();
-    emit signalVarNo(gridcounters::variables(dataset()));
+    publishCounters();
+    viewport()->update();  // where no column is left, that is said there
     emit signalVarHideUnhide();
 }
 
 void MainTableView::showSort()
 {
-    const SortKeys& keys = opened()->sortKeys();
+    const SortKeys keys = opened() == nullptr ? SortKeys() : opened()->sortKeys();
     const SortKey shown = keys.empty() ? SortKey(-1, Qt::AscendingOrder) : keys.front();
     horizontalHeader()->setSortIndicator(shown.first, shown.second);
     publishCounters();
@@ -94,9 +122,8 @@ void MainTableView::showSort()
 
 void MainTableView::updateAll()
 {
-    if (isReady()) {
-        columns().followBits();
-        leaveHiddenColumn();
+    if (isReady() && columns().followBits()) {
+        tellVariables();
     }
     showFilters();
 }
@@ -130,26 +157,23 @@ void MainTableView::onHeaderClicked(int logicalIndex)
     emit signalSort(keys);
     if (isReady() && shownRowCount() == 0) {
         makeCurrent(logicalIndex);  // as the view does itself where there are cells
+        cmdSelectCol();
     }
 }
 
+/// The view has selected all by the same click.
 void MainTableView::onCornerClicked()
 {
-    {
-        const WaitCursor waitCursor;
-        emit signalResetSort();
-    }
-    selectAll();
+    const WaitCursor waitCursor;
+    emit signalResetSort();
 }
 
 // Columns
 
 void MainTableView::cmdHideUnhideColumn(int column)
 {
-    if (isReady()) {
-        columns().followBit(column);
-        leaveHiddenColumn();
-        emit signalVarNo(gridcounters::variables(dataset()));
+    if (isReady() && columns().followBit(column)) {
+        tellVariables();
     }
 }
 
@@ -234,9 +258,19 @@ void MainTableView::cmdSelectCol()
 
 void MainTableView::cmdCopy(bool includeNames)
 {
+    copy(includeNames ? gridcopy::ofSelectionWithNames : gridcopy::ofSelection);
+}
+
+void MainTableView::cmdCopyStoredValues()
+{
+    copy(gridcopy::ofStoredValues);
+}
+
+void MainTableView::copy(QString (*textOf)(const GridTable&))
+{
     if (isReady() && selectionModel()->hasSelection()) {
         const WaitCursor waitCursor;
-        QGuiApplication::clipboard()->setText(gridcopy::ofSelection(*this, includeNames));
+        QGuiApplication::clipboard()->setText(textOf(*this));
     }
 }
 
@@ -358,7 +392,8 @@ void MainTableView::showStatistics()
 {
     const auto result = [this] {
         const WaitCursor waitCursor;
-        return opened()->statisticsOf(selected().variables());
+        return opened()->statisticsOf(shownRowCount() == 0 ? selectedOrCurrentVariables()
+                                                           : selected().variables());
     }();
     if (const auto* problem = std::get_if<statistics::Problem>(&result)) {
         const StatisticsTable::Message message = StatisticsTable::messageOf(*problem);

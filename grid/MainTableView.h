@@ -68,6 +68,10 @@ signals:
     void signalInform(QString title, QString text);
     /// Something told in passing.
     void signalMessage(QString text);
+    /// Asks for the window that shows the whole of the current cell.
+    void signalShowDockCell();
+    /// Asks for the window that shows the whole of the current row.
+    void signalShowDockRow();
 
 public slots:
     /// Hides or shows a column as the dataset's bit says, which someone else has changed.
@@ -88,6 +92,7 @@ public slots:
     void cmdSelectCol();
     /// Copies the selected cells.
     void cmdCopy(bool includeNames);
+    void cmdCopyStoredValues();
     /// Copies the names of the selected variables.
     void copyColHeader();
     /// Sets the library filter by the current cell.
@@ -105,6 +110,9 @@ public slots:
     /// Sorts by the clicked column alone, or the other way round if it is sorted by already.
     void onHeaderClicked(int logicalIndex);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     void connectHeaders();
     void followOpenDataset();
@@ -113,7 +121,9 @@ private:
     void showSort();
     void showFilters();
     void showVariables();
+    void tellVariables();
     void showFrequency(std::vector<int> variables, bool frequencyN);
+    void copy(QString (*textOf)(const GridTable&));
     void report(const CommandOutcome& outcome);
     void shiftVariable(int step);
     [[nodiscard]] std::vector<int> selectedOrCurrentVariables() const;

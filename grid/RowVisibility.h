@@ -27,6 +27,11 @@ public:
     {
         return m_shown.test(static_cast<std::size_t>(row));
     }
+    /// Whether there is a shown row below the upper one and above the lower.
+    [[nodiscard]] bool isAnyShownBetween(int upper, int lower) const
+    {
+        return m_shown.find_next(static_cast<std::size_t>(upper)) < static_cast<std::size_t>(lower);
+    }
     /// One bit per row: set = shown.
     [[nodiscard]] const BitVector& shown() const { return m_shown; }
     /// How many rows are shown.

@@ -27,8 +27,10 @@ struct GridExpectation
     Variables hidden;
     SortKeys keys;
     int variable = -1;  ///< of the current cell
-    int observation = -1;  ///< of the current cell, also while no row is shown
+    int observation = -1;  ///< that the user has gone to, shown or not
+    int nearest = -1;  ///< the observation of the current cell, -1 while none is shown
     std::optional<Variables> wholeColumns;  ///< that are selected, if any is known to be
+    std::optional<Observations> cells;  ///< selected of the current variable, if they are known
     int variablesTold = 0;  ///< how often the set of hidden variables was told to be another
     int refused = 0;  ///< commands since the last look
 
@@ -115,6 +117,16 @@ struct GridExpectation
             move(placeOf(variable), target);
         }
     }
+    /// The user goes to the current cell, which is selected alone.
+    void stay()
+    {
+        observation = nearest < 0 ? observation : nearest;
+        wholeColumns.reset();
+        cells.reset();
+        if (nearest >= 0) {
+            cells = Observations{nearest};
+        }
+    }
     /// The current cell leaves a hidden column, to the right if it can.
     void setHidden(const Variables& variables)
     {
@@ -124,7 +136,7 @@ struct GridExpectation
             const int next = right < 0 ? nextPlace(placeOf(variable), -1) : right;
             if (next >= 0) {
                 variable = columns[static_cast<std::size_t>(next)];
-                wholeColumns.reset();
+                stay();
             }
         }
     }

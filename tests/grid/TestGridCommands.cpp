@@ -1,3 +1,4 @@
+#include "data/values/MissingTag.h"
 #include "grid/filter/ParseError.h"
 #include "grid/GridContextMenu.h"
 #include "tests/support/GridFixture.h"
@@ -16,6 +17,7 @@ private slots:
     void contextMenuHasItsEntriesInOrder();
     void headerMenuActsOnTheHeadersVariable();
     void copyTakesWhatIsShownInScreenOrder();
+    void copyOfStoredValuesHasAllTheirDigits();
     void goToVariableLeavesHiddenOnesHidden();
     void typedCommandsActOrThrow();
     void byListIsClearedAndTakesKnownNamesOnly();
@@ -102,6 +104,19 @@ void TestGridCommands::copyTakesWhatIsShownInScreenOrder()
     QCOMPARE(QGuiApplication::clipboard()->text(), "USUBJID");
 }
 
+void TestGridCommands::copyOfStoredValuesHasAllTheirDigits()
+{
+    m_grid = std::make_unique<GridFixture>([](ScriptedDataset& dataset) {
+        dataset.variable("T", TypeCode::Character).variable("N", TypeCode::Double);
+        dataset.row({"a\tb", 1.0 / 3}).row({"", missingtag::number('B')}).row({"c", 1e15});
+    });
+    m_grid->goTo(0, 1);
+    view().onHeaderClicked(1);  // 2 1 3
+    view().selectAll();
+    view().run(GridCommand::CopyStoredValues);
+    QCOMPARE(QGuiApplication::clipboard()->text(), "\t.B\na b\t0.3333333333333333\nc\t1e+15");
+}
+
 void TestGridCommands::goToVariableLeavesHiddenOnesHidden()
 {
     m_grid->goTo(2, GridFixture::Usubjid);
@@ -182,8 +197,7 @@ void TestGridCommands::statisticsStayUntilOthersAreMade()
     m_grid->select(1, GridFixture::Sex);  // which stands before AGE
     QCOMPARE(told(), "inform|Desciptive Stattistics|Selected variable is not numeric.");
     m_grid->goTo(1, GridFixture::Age);
-    view().cmdSelectCol();
-    view().cmdRunCommand("where AGE > 100");
+    view().cmdRunCommand("where AGE > 100");  // a single cell of it is as good as all
     QCOMPARE(told(), "inform|Desciptive Stattistics|No data available under current filters.");
     QCOMPARE(docks.count(), 1);
     view().refreshDescDock();

@@ -24,6 +24,8 @@ private slots:
     void lettersThatAreNoCommandSearchNothing();
     void keysActOnTheGridAlone();
     void clickedHeaderIsTheVariableOfTheKeys();
+    void selectionIsExtendedFromWhereItBegan();
+    void columnsMoveByTheMouse();
     void keysDoNothingWithoutCells();
 
 private:
@@ -31,6 +33,8 @@ private:
     {
         m_grid->press(key, modifiers);
     }
+
+    [[nodiscard]] QString selected() const;
 
     std::unique_ptr<GridFixture> m_grid;
 };
@@ -213,6 +217,76 @@ void TestGridKeys::clickedHeaderIsTheVariableOfTheKeys()
     QCOMPARE(m_grid->opened().sortKeys(), SortKeys({{GridFixture::Sex, Qt::AscendingOrder}}));
     press(Qt::Key_H);
     QCOMPARE(m_grid->columns(), "USUBJID AGE SITE");
+}
+
+/// The selection, as the numbers of its observations in each variable: "SEX 1 4, AGE 1 4".
+QString TestGridKeys::selected() const
+{
+    QStringList texts;
+    const GridSelection selection = m_grid->view->selected();
+    for (const int variable : selection.variables()) {
+        texts << m_grid->opened().nameOf(variable);
+        for (const int row : selection.rowsOf(variable)) {
+            const int observation = m_grid->view->tableModel()->observationAt(row);
+            texts.last() += ' ' + QString::number(observation + 1);
+        }
+    }
+    return texts.join(", ");
+}
+
+void TestGridKeys::selectionIsExtendedFromWhereItBegan()
+{
+    MainTableView& view = *m_grid->view;
+    view.resize(600, 400);
+    const auto click = [&](int variable, Qt::KeyboardModifiers modifiers) {
+        const QPoint place(view.horizontalHeader()->sectionViewportPosition(variable) + 8, 5);
+        QTest::mouseClick(view.horizontalHeader()->viewport(), Qt::LeftButton, modifiers, place);
+    };
+    m_grid->goTo(1, GridFixture::Usubjid);
+    view.setCurrentIndex(view.model()->index(1, GridFixture::Sex));
+    press(Qt::Key_Right, Qt::ShiftModifier);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(selected(), "SEX 2 3, AGE 2 3");
+    emit view.signalSort({{GridFixture::Age, Qt::DescendingOrder}});  // takes 3 to the end
+    QCOMPARE(selected(), "SEX 2 3, AGE 2 3");
+    QCOMPARE(m_grid->currentNumber(), 3);
+    press(Qt::Key_Left, Qt::ShiftModifier);
+    QVERIFY(selected().startsWith("SEX 2") && selected().endsWith("3"));
+    view.cmdRunCommand("if AGE ^= 51");  // hides where it began
+    QCOMPARE(m_grid->shown().right(1), "3");
+    press(Qt::Key_Right, Qt::ShiftModifier);
+    QVERIFY(selected().startsWith("SEX 5 ") && selected().contains("3, AGE 5 "));
+
+    click(GridFixture::Sex, {});
+    QCOMPARE(m_grid->currentNumber(), 3);
+    const SortKeys keys = m_grid->opened().sortKeys();
+    click(GridFixture::Site, Qt::ShiftModifier);
+    QCOMPARE(selected().count(", "), 2);
+    click(GridFixture::Age, Qt::ControlModifier);
+    QVERIFY(selected().startsWith("SEX ") && selected().contains(", SITE "));
+    QCOMPARE(selected().count(", "), 1);
+    QCOMPARE(m_grid->opened().sortKeys(), keys);
+    QCOMPARE(view.horizontalHeader()->sortIndicatorSection(), int(GridFixture::Sex));
+    QVERIFY(view.isSortingEnabled());
+}
+
+void TestGridKeys::columnsMoveByTheMouse()
+{
+    MainTableView& view = *m_grid->view;
+    view.resize(600, 400);
+    QWidget* header = view.horizontalHeader()->viewport();
+    const auto end = [&](int variable) {
+        return QPoint(view.horizontalHeader()->sectionViewportPosition(variable)
+                          + view.columnWidth(variable) - 10,
+                      5);
+    };
+    QTest::mousePress(header, Qt::LeftButton, {}, end(GridFixture::Usubjid));
+    QTest::mouseMove(header, end(GridFixture::Sex));
+    QTest::mouseMove(header, end(GridFixture::Age));
+    QTest::mouseRelease(header, Qt::LeftButton, {}, end(GridFixture::Age));
+    QCOMPARE(m_grid->columns(), "SEX AGE USUBJID SITE");
+    QCOMPARE(m_grid->opened().variables().order(), std::vector<int>({1, 2, 0, 3}));
+    QVERIFY(m_grid->opened().sortKeys().empty());
 }
 
 void TestGridKeys::keysDoNothingWithoutCells()

@@ -22,7 +22,9 @@ private:
     QString filterStep(int choice);
     QString columnStep(int choice);
     QString orderStep(int choice);
+    void expectWholeColumns(const Variables& columns);
     void goSomewhere();
+    void stay();
     [[nodiscard]] MainTableView& view() const { return *m_grid->view; }
     [[nodiscard]] int random(int count)
     {
@@ -86,9 +88,17 @@ void TestGridSequences::goSomewhere()
     if (!view().isRowHidden(row) && !view().isColumnHidden(variable)) {
         m_grid->goTo(row, variable);
         m_expected.variable = variable;
-        m_expected.observation = observationAt(row);
-        m_expected.wholeColumns.reset();
+        m_expected.nearest = observationAt(row);
+        m_expected.stay();
     }
+}
+
+/// Selects the current cell alone, whatever was selected.
+void TestGridSequences::stay()
+{
+    view().clearSelection();
+    view().setCurrentIndex(view().currentIndex());
+    m_expected.stay();
 }
 
 QString TestGridSequences::filterStep(int choice)
@@ -107,7 +117,7 @@ QString TestGridSequences::filterStep(int choice)
         {FilterLessOrEqual, [](double a, double b) { return a <= b; }},
     }};
     const auto kind = static_cast<std::size_t>(choice);
-    const int observation = m_expected.observation;
+    const int observation = m_expected.nearest;
     if (kind < kinds.size()) {
         view().run(kinds[kind].command);
         m_expected.narrow(m_expected.matching(observation, kinds[kind].compares));
@@ -115,11 +125,11 @@ QString TestGridSequences::filterStep(int choice)
     }
     Observations matched = m_expected.matching(observation, std::equal_to<>());
     if (choice == 5) {
-        view().setCurrentIndex(view().currentIndex());  // alone
-        m_expected.wholeColumns.reset();
+        stay();
         const int row = random(rowCount);
-        m_grid->select(row, m_expected.variable);
         if (!view().isRowHidden(row)) {
+            m_grid->select(row, m_expected.variable);
+            m_expected.cells->insert(observationAt(row));
             matched.merge(m_expected.matching(observationAt(row), std::equal_to<>()));
         }
         view().run(FilterIn);
@@ -135,6 +145,9 @@ QString TestGridSequences::filterStep(int choice)
 QString TestGridSequences::columnStep(int choice)
 {
     Variables hidden = m_expected.hidden;
+    if (choice > 2) {
+        m_told[0].clear();  // the counters are told anew
+    }
     const int variable = random(variableCount);
     switch (choice) {
     case 0:
@@ -158,6 +171,7 @@ QString TestGridSequences::columnStep(int choice)
             hidden.insert(variable);
         }
         m_expected.setHidden(hidden);
+        ++m_expected.variablesTold;
         return QStringLiteral("flip %1").arg(variable);
     case 4:
         view().cmdRunCommand(QStringLiteral("keep v%1 V5").arg(variable));
@@ -201,6 +215,10 @@ QString TestGridSequences::orderStep(int choice)
         m_expected.click(variable);
         if (m_expected.shownCount() == 0) {
             m_expected.variable = variable;
+            m_expected.cells.reset();
+            if (!m_expected.hidden.contains(variable)) {
+                m_expected.wholeColumns = Variables{variable};
+            }
         }
         return QStringLiteral("click %1").arg(variable);
     case 2:
@@ -234,23 +252,31 @@ QString TestGridSequences::orderStep(int choice)
         return QStringLiteral("header mode");
     case 9:
         if (m_expected.variable >= 0 && !m_expected.hidden.contains(m_expected.variable)) {
+            stay();
             view().cmdSelectCol();
-            m_expected.wholeColumns = Variables{m_expected.variable};
+            expectWholeColumns({m_expected.variable});
         }
         return QStringLiteral("select column");
     default:
+        stay();
         view().findChild<QAbstractButton*>()->click();
         m_expected.keys.clear();
-        m_expected.wholeColumns = Variables{0, 1, 2, 3, 4, 5};
+        expectWholeColumns({0, 1, 2, 3, 4, 5});
         return QStringLiteral("corner");
+    }
+}
+
+/// A cell or two of one row are no whole columns.
+void TestGridSequences::expectWholeColumns(const Variables& columns)
+{
+    m_expected.cells.reset();
+    if (m_expected.shownCount() != 1) {
+        m_expected.wholeColumns = columns;
     }
 }
 
 QString TestGridSequences::step()
 {
-    if (m_expected.shownCount() < 2) {
-        m_expected.wholeColumns.reset();  // a cell or two of one row are no whole columns
-    }
     const QModelIndex current = view().currentIndex();
     const bool hasCell = current.isValid() && !view().isColumnHidden(current.column());
     const int kind = random(10);
@@ -282,7 +308,8 @@ void TestGridSequences::checkRows()
     QVERIFY(!view().verticalHeader()->signalsBlocked());
 }
 
-/// The current cell stays on its observation, and on the nearest one that is shown without it.
+/// The current cell stays on the observation that the user has gone to, and on the nearest one that
+/// is shown as long as that one is not.
 void TestGridSequences::checkCurrentCell()
 {
     QCOMPARE(view().currentVariable(), m_expected.variable);
@@ -298,10 +325,9 @@ void TestGridSequences::checkCurrentCell()
         }
     }
     QCOMPARE(view().currentIndex().row(), nearest);
-    if (nearest >= 0) {
-        m_expected.observation = observationAt(nearest);
-        QCOMPARE(view().currentIndex().column(), m_expected.variable);
-    }
+    m_expected.nearest = nearest < 0 ? -1 : observationAt(nearest);
+    QCOMPARE(view().currentObservation(), m_expected.nearest);
+    QVERIFY(nearest < 0 || view().currentIndex().column() == m_expected.variable);
 }
 
 void TestGridSequences::checkColumns()
@@ -316,10 +342,20 @@ void TestGridSequences::checkColumns()
     }
 }
 
-/// Whole columns stay selected, of which the rest of the program sees what is shown.
+/// Whole columns stay selected, of which the rest of the program sees what is shown, and so do
+/// single cells; the current one where all others are hidden.
 void TestGridSequences::checkSelection()
 {
     QVERIFY(!view().currentIndex().isValid() || view().selectionModel()->hasSelection());
+    if (m_expected.cells && m_expected.nearest >= 0) {
+        Observations cells = *m_expected.cells;
+        std::erase_if(cells, [this](int each) { return !m_expected.isSelected(each); });
+        Observations selected;
+        for (const int row : view().selected().rowsOf(m_expected.variable)) {
+            selected.insert(observationAt(row));
+        }
+        QCOMPARE(selected, cells.empty() ? Observations{m_expected.nearest} : cells);
+    }
     if (!m_expected.wholeColumns) {
         return;
     }

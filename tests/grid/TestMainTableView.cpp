@@ -1,8 +1,12 @@
+#include "grid/GridEmptiness.h"
 #include "tests/support/GridFixture.h"
 
 #include <QAbstractButton>
+#include <QPainter>
+#include <QProxyStyle>
 #include <QScopeGuard>
 #include <QSignalSpy>
+#include <QStyleOptionHeader>
 
 /// What a grid looks like: texts, places and sizes.
 class TestMainTableView : public QObject
@@ -12,6 +16,8 @@ class TestMainTableView : public QObject
 private slots:
     void cellsAreAlignedByType();
     void headersShowNamesOrLabelsAndHintAtTheOther();
+    void titlesStandAsTheirCellsAndMarkTheCurrentOne();
+    void emptyGridTellsWhyAndHowToFillIt();
     void worksWithoutCornerButton();
     void filterScrollsToTheCurrentCellOrToWhatIsLeft();
     void columnsFitTheirContentsWithinReason();
@@ -58,6 +64,92 @@ void TestMainTableView::headersShowNamesOrLabelsAndHintAtTheOther()
     QVERIFY(grid.view->columnWidth(GridFixture::Sex) > width);
     QCOMPARE(headers(Qt::DisplayRole), "Subject|Sex as recorded at the visit||");
     QCOMPARE(headers(Qt::ToolTipRole), "USUBJID|SEX|AGE|SITE");
+    grid.view->setHeaderMode(HeaderMode::VariableNames);
+    QCOMPARE(grid.view->columnWidth(GridFixture::Sex), width);
+}
+
+namespace {
+
+/// Notes down how the titles of headers are drawn.
+class TitleStyle : public QProxyStyle
+{
+public:
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override
+    {
+        const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+        if (element == CE_HeaderLabel && header != nullptr) {
+            const bool isRight = header->textAlignment.testFlag(Qt::AlignRight);
+            titles[header->text] =
+                QString(isRight ? "right" : "left") + (painter->font().bold() ? " bold" : "");
+        }
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+    mutable QMap<QString, QString> titles;
+};
+
+}  // namespace
+
+void TestMainTableView::titlesStandAsTheirCellsAndMarkTheCurrentOne()
+{
+    TitleStyle style;
+    GridFixture grid;
+    grid.view->horizontalHeader()->setStyle(&style);
+    grid.view->verticalHeader()->setStyle(&style);
+    QVERIFY(grid.activate());
+    grid.goTo(3, GridFixture::Sex);
+    grid.view->cmdRunCommand("if AGE >= 34");
+    grid.goTo(3, GridFixture::Age);
+    (void)grid.view->grab();
+    QCOMPARE(style.titles.value("SEX") + '|' + style.titles.value("AGE"), "left|right bold");
+    QCOMPARE(style.titles.value("1") + '|' + style.titles.value("4"), "right|right bold");
+    grid.view->onHeaderClicked(GridFixture::Site);
+    (void)grid.view->grab();
+    QCOMPARE(style.titles.value("4"), "right bold");
+    grid.view->cmdHideColumn();
+    (void)grid.view->grab();
+    QCOMPARE(style.titles.value("SITE"), "left bold");
+    grid.view.reset();
+}
+
+void TestMainTableView::emptyGridTellsWhyAndHowToFillIt()
+{
+    GridFixture grid;
+    QVERIFY(grid.activate());
+    const auto isWritten = [&] {
+        const QImage image = grid.view->viewport()->grab().toImage();
+        const QRgb ground = image.pixel(0, image.height() - 1);
+        for (int x = 0; x < image.width(); ++x) {
+            for (int y = image.height() / 2 - 10; y < image.height() / 2 + 10; ++y) {
+                if (image.pixel(x, y) != ground) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    };
+    const auto told = [&] { return gridemptiness::text(grid.opened()); };
+    const QString none = "No row meets the filters.";
+    const QString dataset = "\nZ takes the last step of the dataset filter back, C clears it.";
+    const QString library = "\nAlt+C clears the library filter.";
+    grid.view->resize(500, 500);  // the rows end above the middle
+    QCOMPARE(told(), "");
+    QVERIFY(!isWritten());
+    grid.view->cmdRunCommand("if AGE > 50");
+    grid.view->cmdRunCommand("where AGE < 40");
+    QCOMPARE(told(), none + dataset + library);
+    QVERIFY(isWritten());
+    grid.view->cmdRunCommand("if AGE > 90");
+    QCOMPARE(told(), none + dataset);
+    grid.view->run(GridCommand::ClearLibraryFilter);
+    grid.view->cmdRunCommand("where AGE > 90");
+    QCOMPARE(told(), none + dataset + library);  // only both bring rows back
+    grid.view->run(GridCommand::ClearDatasetFilter);
+    QCOMPARE(told(), none + library);
+    grid.view->run(GridCommand::ClearLibraryFilter);
+    grid.view->cmdRunCommand("drop USUBJID SEX AGE SITE");
+    QCOMPARE(told(), "All variables are hidden.\nU shows them again.");
+    QVERIFY(isWritten());
 }
 
 void TestMainTableView::worksWithoutCornerButton()
