@@ -20,6 +20,8 @@ DockWindows::DockWindows(QMainWindow& window)
     , m_output(add(QStringLiteral("dockWidgetOutput"), tr("Output"), Qt::BottomDockWidgetArea))
     , m_shortcutKeys(add(QStringLiteral("dockWidgetShortcutKeys"), tr("Shortcut Keys"),
                          Qt::RightDockWidgetArea))
+    , m_cell(add(QStringLiteral("dockWidgetCell"), tr("Cell"), Qt::BottomDockWidgetArea))
+    , m_row(add(QStringLiteral("dockWidgetRow"), tr("Row"), Qt::RightDockWidgetArea))
 {
     arrange();
 }
@@ -41,9 +43,11 @@ void DockWindows::arrange()
     m_window.setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     m_window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     m_window.tabifyDockWidget(m_univariate, m_shortcutKeys);
+    m_window.tabifyDockWidget(m_shortcutKeys, m_row);
     m_window.tabifyDockWidget(m_code, m_log);
     m_window.tabifyDockWidget(m_log, m_output);
-    for (QDockWidget* dock : {m_code, m_log, m_output}) {
+    m_window.tabifyDockWidget(m_output, m_cell);
+    for (QDockWidget* dock : {m_code, m_log, m_output, m_cell}) {
         dock->hide();
     }
 }

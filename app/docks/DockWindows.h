@@ -38,6 +38,8 @@ public:
     [[nodiscard]] QDockWidget* log() const { return m_log; }
     [[nodiscard]] QDockWidget* output() const { return m_output; }
     [[nodiscard]] QDockWidget* shortcutKeys() const { return m_shortcutKeys; }
+    [[nodiscard]] QDockWidget* cell() const { return m_cell; }
+    [[nodiscard]] QDockWidget* row() const { return m_row; }
 
 private:
     [[nodiscard]] QDockWidget* add(const QString& name, const QString& title,
@@ -54,4 +56,6 @@ private:
     QDockWidget* m_log;
     QDockWidget* m_output;
     QDockWidget* m_shortcutKeys;
+    QDockWidget* m_cell;
+    QDockWidget* m_row;
 };

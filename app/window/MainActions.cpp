@@ -105,6 +105,8 @@ void MainActions::createBarActions()
     editDataFilter = add("actionEditDataFilter", tr("Edit Data Filter"));
     goToDatasetFilter = add("actionGoToDatasetFilter", tr("Go to Dataset Filter"));
     goToDatasetFilter->setShortcut(Qt::CTRL | Qt::Key_L);
+    copyStoredValues = add("actionCopyStoredValues", tr("Copy Stored Values"));
+    copyWithNames = add("actionCopyWithNames", tr("Copy with Names"));
     nextDataset = add("actionNextDataset", tr("Next Dataset Tab"));
     nextDataset->setShortcut(Qt::CTRL | Qt::Key_Tab);
     resetArrangement = add("actionResetArrangement", tr("Reset Window Arrangement"));
@@ -171,7 +173,8 @@ void MainActions::drawIcons()
 void MainActions::setDatasetOpen(bool isOpen)
 {
     for (QAction* action : {reload, close, closeAll, find, findNext, findPrevious, submit,
-                            editDataFilter, goToDatasetFilter, nextDataset}) {
+                            editDataFilter, goToDatasetFilter, copyStoredValues, copyWithNames,
+                            nextDataset}) {
         action->setEnabled(isOpen);
     }
 }

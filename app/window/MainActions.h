@@ -57,6 +57,8 @@ public:
     QAction* quickOpen = nullptr;
     QAction* editDataFilter = nullptr;
     QAction* goToDatasetFilter = nullptr;
+    QAction* copyStoredValues = nullptr;
+    QAction* copyWithNames = nullptr;
     QAction* nextDataset = nullptr;
     QAction* resetArrangement = nullptr;
     QAction* reload = nullptr;

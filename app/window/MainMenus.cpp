@@ -37,6 +37,8 @@ void MainMenus::fillFileMenu(const MainActions& actions)
 void MainMenus::fillEditMenu(const MainActions& actions)
 {
     QMenu* edit = addMenu("menuEdit", tr("&Edit"));
+    edit->addActions({actions.copyStoredValues, actions.copyWithNames});
+    edit->addSeparator();
     edit->addActions({actions.find, actions.findNext, actions.findPrevious});
     edit->addSeparator();
     edit->addActions({actions.goToDatasetFilter, actions.editDataFilter});

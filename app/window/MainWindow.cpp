@@ -5,6 +5,7 @@
 #include "app/code/ProgramEditor.h"
 #include "app/code/ProgramRunner.h"
 #include "app/dialogs/DialogPrompts.h"
+#include "app/docks/CellDocks.h"
 #include "app/docks/DockWindows.h"
 #include "app/docks/ShortcutKeysWindow.h"
 #include "app/docks/WorkspaceTree.h"
@@ -77,6 +78,7 @@ MainWindow::~MainWindow()
     // The sub-windows, those that are closed and about to go included, would outlive the members
     // that hear of their end and serve them.
     disconnect(&m_area->mdiArea(), nullptr, this, nullptr);
+    m_cellDocks->follow(nullptr);
     delete m_area;
 }
 
@@ -180,6 +182,7 @@ void MainWindow::fillDocks()
     output->setAccessibleName(tr("Output"));
     m_docks->output()->setWidget(output);
     m_docks->shortcutKeys()->setWidget(new ShortcutKeysWindow(m_docks->shortcutKeys()));
+    m_cellDocks = std::make_unique<CellDocks>(*m_docks, *m_arrangement, *m_counters);
 }
 
 void MainWindow::createMenus()
@@ -217,6 +220,15 @@ void MainWindow::connectActions()
     connect(m_actions->reload, &QAction::triggered, m_opener, &DatasetOpener::reloadActive);
     connect(m_actions->resetArrangement, &QAction::triggered, this,
             [this] { m_arrangement->reset(); });
+    for (const auto& [action, command] :
+         {std::pair(m_actions->copyStoredValues, GridCommand::CopyStoredValues),
+          std::pair(m_actions->copyWithNames, GridCommand::CopyWithNames)}) {
+        connect(action, &QAction::triggered, this, [this, command = command] {
+            if (m_activeView != nullptr) {
+                m_activeView->run(command);
+            }
+        });
+    }
     for (std::size_t layout = 0; layout < m_actions->layouts.size(); ++layout) {
         connect(m_actions->layouts[layout], &QAction::triggered, this,
                 [this, layout] { m_arrangement->applyLayout(layout); });
@@ -297,6 +309,7 @@ void MainWindow::activeWindow(QMdiSubWindow* window)
     m_boxes->setGrid(m_activeView);
     m_navigation->setGrid(m_activeView);
     setWindowTitle(active->mainTitle());
+    m_cellDocks->follow(m_activeView);
     m_docks->showTitlesOf(active->datasetName());
     m_docks->univariate()->setWidget(m_activeView->statisticsTable());
     updateStatus();
@@ -311,6 +324,7 @@ void MainWindow::subWindowClosed(DatasetWindow* closedWindow)
         m_activeView = nullptr;
         m_boxes->setGrid(nullptr);
         m_navigation->setGrid(nullptr);
+        m_cellDocks->follow(nullptr);
     }
     showWhatIsOpen();
 }

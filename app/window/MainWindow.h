@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 
+class CellDocks;
 class CommandBoxes;
 class DatasetWindow;
 class DatasetsArea;
@@ -135,6 +136,7 @@ private:
     std::unique_ptr<GridServices> m_gridServices;
     std::unique_ptr<DockWindows> m_docks;
     std::unique_ptr<WindowArrangement> m_arrangement;
+    std::unique_ptr<CellDocks> m_cellDocks;
     std::unique_ptr<GridLook> m_look;
     std::unique_ptr<RecentFiles> m_recentFiles;
     MainToolBars* m_toolBars = nullptr;

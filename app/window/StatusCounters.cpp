@@ -6,19 +6,25 @@
 
 namespace {
 
-QLabel* addLabel(QStatusBar* statusBar, QLabel* label, const QString& name)
+QLabel* setUp(QLabel* label, const QString& name)
 {
     label->setObjectName(name);
     label->setContentsMargins(6, 0, 6, 0);
     label->setTextFormat(Qt::PlainText);
-    statusBar->addPermanentWidget(label);
+    return label;
+}
+
+QLabel* addLabel(QStatusBar* statusBar, QLabel* label, const QString& name)
+{
+    statusBar->addPermanentWidget(setUp(label, name));
     return label;
 }
 
 }  // namespace
 
 StatusCounters::StatusCounters(QStatusBar* statusBar)
-    : m_rows(addLabel(statusBar, new QLabel(tr("Rows: NA/NA"), statusBar),
+    : m_cell(setUp(new ElidedLabel(QString(), statusBar), QStringLiteral("labelStatusBarCell")))
+    , m_rows(addLabel(statusBar, new QLabel(tr("Rows: NA/NA"), statusBar),
                       QStringLiteral("labelStatusBarRow")))
     , m_variables(addLabel(statusBar, new QLabel(tr("Vars: NA/NA"), statusBar),
                            QStringLiteral("labelStatusBarVar")))
@@ -28,7 +34,14 @@ StatusCounters::StatusCounters(QStatusBar* statusBar)
                                QStringLiteral("labelStatusBarLf")))
     , m_datasetFilter(addLabel(statusBar, new ElidedLabel(tr("DF: NA"), statusBar),
                                QStringLiteral("labelStatusBarDf")))
-{ }
+{
+    statusBar->addWidget(m_cell, 1);
+}
+
+void StatusCounters::setCell(const QString& summary)
+{
+    m_cell->setText(summary);
+}
 
 void StatusCounters::setRows(const QString& text)
 {

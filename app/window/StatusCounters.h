@@ -6,7 +6,7 @@ class QLabel;
 class QStatusBar;
 class QString;
 
-/// The permanent labels of the status bar that tell about the active grid.
+/// The labels of the status bar that tell about the active grid: on the left its current cell.
 class StatusCounters
 {
     Q_DECLARE_TR_FUNCTIONS(StatusCounters)
@@ -15,6 +15,7 @@ public:
     /// Adds the labels to the status bar, which owns them and outlives the counters.
     explicit StatusCounters(QStatusBar* statusBar);
 
+    void setCell(const QString& summary);
     void setRows(const QString& text);
     void setVariables(const QString& text);
     /// @param names  as they can be typed; empty for none
@@ -27,6 +28,7 @@ public:
     void showNothingOpen();
 
 private:
+    QLabel* m_cell;
     QLabel* m_rows;
     QLabel* m_variables;
     QLabel* m_by;

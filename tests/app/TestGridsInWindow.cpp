@@ -1,6 +1,8 @@
+#include "data/values/MissingTag.h"
 #include "tests/support/WindowFixture.h"
 
 #include <QFocusEvent>
+#include <QClipboard>
 #include <QHelpEvent>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -22,6 +24,7 @@ private slots:
     void libraryFilterIsReadTheSameWithoutADataset();
     void dataFilterReplacesTheDatasetFilter();
     void programRunsOnTheActiveGrid();
+    void currentCellIsToldWholeAndAsItIsStored();
     void longFiltersLeaveTheWindowItsSize();
 
 private:
@@ -241,6 +244,51 @@ void TestGridsInWindow::programRunsOnTheActiveGrid()
     QCOMPARE(status().at(1), "Vars: 2/2");
     QCOMPARE(notes().size(), 1);
     (void)log->take();
+}
+
+void TestGridsInWindow::currentCellIsToldWholeAndAsItIsStored()
+{
+    fillOwn = [](ScriptedDataset& dataset) {
+        dataset.variable("TEXT", TypeCode::Character, "A\nlabel").variable("N", TypeCode::Double);
+        dataset.row({"  two\r\nlines", 2.0 / 3}).row({"plain text", missingtag::number('Z')});
+    };
+    open("own");
+    const auto told = [&](int row, int variable) {
+        view().setCurrentIndex(view().model()->index(row, variable));
+        return child<QLabel>("labelStatusBarCell")->text().split("  \u00B7  ").join('|');
+    };
+    auto* whole = child<QPlainTextEdit>("cellText");
+    const auto showsBlanks = [&] {
+        const QTextOption option = whole->document()->defaultTextOption();
+        return option.flags().testFlag(QTextOption::ShowTabsAndSpaces);
+    };
+    QCOMPARE(told(0, 0), "TEXT|A label|Character|\"  two\u21B5lines\"");
+    QVERIFY(!whole->isVisible());
+    QTest::keyClick(&view(), Qt::Key_Space);
+    QVERIFY(whole->isVisible());
+    QVERIFY(view().hasFocus());
+    QCOMPARE(whole->toPlainText(), "  two\nlines");
+    QVERIFY(showsBlanks());
+    QCOMPARE(told(1, 0), "TEXT|A label|Character|\"plain text\"");
+    QVERIFY(!showsBlanks());
+    QCOMPARE(told(0, 1), "N|Numeric|0.6666666666666666");
+    QCOMPARE(whole->toPlainText(), "0.666667\nStored value: 0.6666666666666666");
+    QCOMPARE(told(1, 1), "N|Numeric|.Z");
+    dock("Cell")->close();
+    QTest::keyClick(&view(), Qt::Key_F2);
+    QVERIFY(whole->isVisible());
+    QVERIFY(!dock("Row")->isVisible());
+    QTest::keyClick(&view(), Qt::Key_F2, Qt::ShiftModifier);
+    QVERIFY(dock("Row")->isVisible());
+    auto* row = child<QTableView>("rowTable");
+    QTest::keyClick(row, Qt::Key_Up);
+    QTest::keyClick(row, Qt::Key_Return);
+    QCOMPARE(view().currentVariable(), 0);
+
+    trigger("actionCopyStoredValues");
+    QCOMPARE(QGuiApplication::clipboard()->text(), "plain text");
+    trigger("actionCopyWithNames");
+    QCOMPARE(QGuiApplication::clipboard()->text(), "TEXT\nplain text");
 }
 
 void TestGridsInWindow::longFiltersLeaveTheWindowItsSize()

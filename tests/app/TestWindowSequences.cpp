@@ -32,6 +32,7 @@ private:
     void check();
     void checkNoneOpen();
     void checkActive();
+    void checkCell();
     void checkGrids() const;
     [[nodiscard]] int random(int count) { return int(m_random() % unsigned(count)); }
     [[nodiscard]] QString oneOf(const QStringList& texts)
@@ -273,6 +274,9 @@ void TestWindowSequences::checkNoneOpen()
         QStringList({m_wasOneOpen ? "Rows: NA / NA" : "Rows: NA/NA", "Vars: NA/NA", "By: NA",
                      "LF: " + (m_libraryFilter.isEmpty() ? "NA" : m_libraryFilter), "DF: NA"}));
     QCOMPARE(boxText("comboBoxBy") + boxText("comboBoxDf"), "");
+    QCOMPARE(child<QLabel>("labelStatusBarCell")->text(), "");
+    QCOMPARE(child<QPlainTextEdit>("cellText")->toPlainText(), "");
+    QCOMPARE(child<QTableView>("rowTable")->model()->rowCount(), 0);
     if (m_wasOneOpen) {
         QCOMPARE(dock("Variables")->windowTitle(), "Variable");
         QCOMPARE(dock("Freq")->windowTitle(), "Freq");
@@ -318,6 +322,38 @@ void TestWindowSequences::checkActive()
     QCOMPARE(dock("Freq")->windowTitle(), "Freq - " + name);
     QCOMPARE(dock("Desc")->windowTitle(), "Univariate - " + name);
     QCOMPARE(dock("Desc")->widget(), view().statisticsTable());
+    checkCell();
+}
+
+/// What is told of the current cell, which is none while no row is shown.
+void TestWindowSequences::checkCell()
+{
+    const QModelIndex current = view().currentIndex();
+    const QString summary = child<QLabel>("labelStatusBarCell")->text();
+    const QString whole = child<QPlainTextEdit>("cellText")->toPlainText();
+    const QTableView& row = *child<QTableView>("rowTable");
+    QString listed;
+    for (int i = 0; i < row.model()->rowCount(); ++i) {
+        for (int column : {0, 2}) {
+            listed += row.model()->index(i, column).data().toString() + '\n';
+        }
+    }
+    QString shown;
+    for (int place = 0; current.isValid() && place < view().model()->columnCount(); ++place) {
+        const int variable = view().horizontalHeader()->logicalIndex(place);
+        if (!view().isColumnHidden(variable)) {
+            shown += view().opened()->nameOf(variable) + '\n'
+                + view().model()->index(current.row(), variable).data().toString() + '\n';
+        }
+    }
+    QCOMPARE(listed, shown);
+    if (!current.isValid() || view().isColumnHidden(current.column())) {
+        QCOMPARE(summary + whole, "");
+        return;
+    }
+    QVERIFY(summary.startsWith(view().opened()->nameOf(current.column()) + "  "));
+    QCOMPARE(whole.section('\n', 0, 0), current.data().toString().section('\n', 0, 0));
+    QCOMPARE(row.currentIndex().siblingAtColumn(2).data().toString(), current.data().toString());
 }
 
 void TestWindowSequences::checkGrids() const

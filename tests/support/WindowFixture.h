@@ -23,13 +23,15 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 #include <utility>
 
 /// A main window that keeps everything in a folder of its own, to be inherited by its tests.
 ///
 /// What stands in for the readers goes by the file's name: "ts..." is two rows of TSPARM, "bad..."
-/// cannot be read, and any other is SEX and AGE with F 30, M 40, F 50; "worn..." may be damaged.
+/// cannot be read, "own" is what the test fills it with, and any other is SEX and AGE with F 30,
+/// M 40, F 50; "worn..." may be damaged.
 class WindowFixture
 {
 protected:
@@ -144,6 +146,7 @@ protected:
     QStringList urls;  ///< the pages opened
     bool isFailing = false;  ///< whether no file can be read
     bool hasWaited = false;  ///< whether the last file was read under the wait cursor
+    std::function<void(ScriptedDataset&)> fillOwn;
     std::unique_ptr<MainWindow> window;
 
 private:
@@ -157,7 +160,9 @@ private:
             return Failure{"The header is damaged."};
         }
         auto dataset = std::make_unique<ScriptedDataset>();
-        if (name.startsWith("ts")) {
+        if (name == "own") {
+            fillOwn(*dataset);
+        } else if (name.startsWith("ts")) {
             dataset->variable("TSPARM", TypeCode::Character).row({"TITLE"}).row({"SPONSOR"});
         } else {
             dataset->variable("SEX", TypeCode::Character).variable("AGE", TypeCode::Double);
