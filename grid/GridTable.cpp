@@ -242,7 +242,7 @@ void GridTable::setFontSize(int points)
     headerGround->setFont(changed);
     if (isReady()) {
         // Hidden rows would keep the height that they had.
-        const GridPlace before = place();
+        const Whereabouts before = place();
         startRowHeaderOver();
         m_rows.reset(m_model->rowMap().size());
         showRows(before, Scrolling::FollowCurrent);
@@ -253,7 +253,7 @@ void GridTable::setFontSize(int points)
 void GridTable::setHeaderMode(HeaderMode mode)
 {
     if (isReady() && mode != m_model->headerMode()) {
-        const GridPlace before = place();
+        const Whereabouts before = place();
         m_model->setHeaderMode(mode);
         showRows(before, Scrolling::Stay);
         fitColumns();
@@ -274,28 +274,28 @@ int GridTable::currentObservation() const
     return cellAt(currentIndex()).observation;
 }
 
-GridPlace::Cell GridTable::cellAt(const QModelIndex& index) const
+Whereabouts::Cell GridTable::cellAt(const QModelIndex& index) const
 {
     return isReady() && index.isValid()
-        ? GridPlace::Cell{m_model->observationAt(index.row()), index.column()}
-        : GridPlace::Cell();
+        ? Whereabouts::Cell{m_model->observationAt(index.row()), index.column()}
+        : Whereabouts::Cell();
 }
 
-GridPlace GridTable::place() const
+Whereabouts GridTable::place() const
 {
-    GridPlace place;
+    Whereabouts place;
     if (m_place) {
         place = *m_place;
     } else {
         place.current.observation = m_lastObservation;
         place.anchor = cellAt(anchor());
-        gridplace::noteSelection(place, selectionModel()->selection(), *m_model, m_rows);
+        whereabouts::noteSelection(place, selectionModel()->selection(), *m_model, m_rows);
     }
     place.current.variable = m_currentVariable;
     return place;
 }
 
-void GridTable::showRows(const GridPlace& place, Scrolling scrolling)
+void GridTable::showRows(const Whereabouts& place, Scrolling scrolling)
 {
     {
         const QScopedValueRollback restoring(m_isRestoring, true);
@@ -331,11 +331,11 @@ void GridTable::hideAndShowRows()
     updateGeometries();
 }
 
-void GridTable::restore(const GridPlace& place)
+void GridTable::restore(const Whereabouts& place)
 {
     const QModelIndex current = nearestShown(place.current);
     setCurrentAndAnchor(current, nearestShown(place.anchor));
-    QItemSelection selection = gridplace::selectionOf(place, *m_model, m_rows);
+    QItemSelection selection = whereabouts::selectionOf(place, *m_model, m_rows);
     if (selection.isEmpty() && place.hasSelection() && current.isValid()) {
         selection.select(current, current);
     }
@@ -349,7 +349,7 @@ QModelIndex GridTable::anchor() const
 }
 
 /// The cell, or where its row is hidden the one in the nearest row that is shown.
-QModelIndex GridTable::nearestShown(const GridPlace::Cell& cell) const
+QModelIndex GridTable::nearestShown(const Whereabouts::Cell& cell) const
 {
     const int row =
         cell.observation < 0 ? -1 : m_rows.nearestShown(m_model->rowOf(cell.observation));

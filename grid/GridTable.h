@@ -1,9 +1,9 @@
 #pragma once
 
 #include "grid/GridColumns.h"
-#include "grid/GridPlace.h"
 #include "grid/GridSelection.h"
 #include "grid/RowVisibility.h"
+#include "grid/Whereabouts.h"
 
 #include <QPersistentModelIndex>
 #include <QTableView>
@@ -79,9 +79,9 @@ protected:
     [[nodiscard]] const RowVisibility& rows() const { return m_rows; }
 
     /// Where the user has gone last: where rows that a filter shows again bring him back to.
-    [[nodiscard]] GridPlace place() const;
+    [[nodiscard]] Whereabouts place() const;
     /// Shows the selected rows and goes back to the place, or to what is left nearest to it.
-    void showRows(const GridPlace& place, Scrolling scrolling);
+    void showRows(const Whereabouts& place, Scrolling scrolling);
     /// Makes a shown variable the current one, in the current row.
     void makeCurrent(int variable);
     /// Takes the current cell out of a column that has been hidden, to the next that is shown.
@@ -104,13 +104,13 @@ private:
     [[nodiscard]] int rowHeaderWidth() const;
     void pressColumn(int column);
     void hideAndShowRows();
-    void restore(const GridPlace& place);
+    void restore(const Whereabouts& place);
     void setCurrentAndAnchor(const QModelIndex& current, const QModelIndex& anchor);
     void takePlace();
     void showCurrentCell();
     [[nodiscard]] QModelIndex anchor() const;
-    [[nodiscard]] QModelIndex nearestShown(const GridPlace::Cell& cell) const;
-    [[nodiscard]] GridPlace::Cell cellAt(const QModelIndex& index) const;
+    [[nodiscard]] QModelIndex nearestShown(const Whereabouts::Cell& cell) const;
+    [[nodiscard]] Whereabouts::Cell cellAt(const QModelIndex& index) const;
 
     OpenDataset* m_opened;
     MainTableModel* m_model = nullptr;  ///< the view's model when it is a grid model
@@ -118,8 +118,8 @@ private:
     GridHeader* m_rowHeader = nullptr;
     std::optional<GridColumns> m_columns;
     RowVisibility m_rows;
-    GridPlace m_placeBeforeChange;
-    std::optional<GridPlace> m_place;  ///< until the user goes elsewhere
+    Whereabouts m_placeBeforeChange;
+    std::optional<Whereabouts> m_place;  ///< until the user goes elsewhere
     QPersistentModelIndex m_anchor;  ///< from where Shift selects; Qt keeps its own to itself
     bool m_isRestoring = false;  ///< what changes now is not the user's doing
     int m_currentVariable = -1;

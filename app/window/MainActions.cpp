@@ -172,9 +172,9 @@ void MainActions::drawIcons()
 
 void MainActions::setDatasetOpen(bool isOpen)
 {
-    for (QAction* action : {reload, close, closeAll, find, findNext, findPrevious, submit,
-                            editDataFilter, goToDatasetFilter, copyStoredValues, copyWithNames,
-                            nextDataset}) {
+    for (QAction* action :
+         {reload, close, closeAll, find, findNext, findPrevious, submit, editDataFilter,
+          goToDatasetFilter, copyStoredValues, copyWithNames, nextDataset}) {
         action->setEnabled(isOpen);
     }
 }

@@ -1,8 +1,8 @@
 #include "data/values/MissingTag.h"
 #include "tests/support/WindowFixture.h"
 
-#include <QFocusEvent>
 #include <QClipboard>
+#include <QFocusEvent>
 #include <QHelpEvent>
 #include <QToolTip>
 #include <QWheelEvent>

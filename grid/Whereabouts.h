@@ -9,7 +9,7 @@ class RowVisibility;
 
 /// Where the user is in a grid and what is selected there, told by observations and variables: so
 /// it is found again when the rows have been sorted or others are shown.
-struct GridPlace
+struct Whereabouts
 {
     struct Cell
     {
@@ -33,15 +33,15 @@ struct GridPlace
     [[nodiscard]] bool hasSelection() const { return !wholeColumns.empty() || !blocks.empty(); }
 };
 
-namespace gridplace {
+namespace whereabouts {
 
 /// Notes the selection down: what of it is shown, or all of it while no row is.
-void noteSelection(GridPlace& place, const QItemSelection& selection, const MainTableModel& model,
+void noteSelection(Whereabouts& place, const QItemSelection& selection, const MainTableModel& model,
                    const RowVisibility& rows);
 
 /// The selection of the place among the rows as they are now; empty when nothing of it is shown
 /// while other rows are, and when so many pieces would make the grid slow.
-[[nodiscard]] QItemSelection selectionOf(const GridPlace& place, const MainTableModel& model,
+[[nodiscard]] QItemSelection selectionOf(const Whereabouts& place, const MainTableModel& model,
                                          const RowVisibility& rows);
 
-}  // namespace gridplace
+}  // namespace whereabouts

@@ -1,4 +1,4 @@
-#include "grid/GridPlace.h"
+#include "grid/Whereabouts.h"
 
 #include "grid/GridSelection.h"
 #include "grid/MainTableModel.h"
@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace gridplace {
+namespace whereabouts {
 namespace {
 
 /// Every cell that is painted is looked for in each of them.
@@ -38,8 +38,8 @@ std::vector<int> observationsOf(const QItemSelectionRange& range, const MainTabl
 }
 
 /// Adds the rows, which are in order, as ranges that reach over hidden rows.
-void select(QItemSelection& selection, const GridPlace::Block& block, const std::vector<int>& rows,
-            const MainTableModel& model, const RowVisibility& shown)
+void select(QItemSelection& selection, const Whereabouts::Block& block,
+            const std::vector<int>& rows, const MainTableModel& model, const RowVisibility& shown)
 {
     for (std::size_t i = 0; i < rows.size() && selection.size() <= mostPieces;) {
         const std::size_t first = i++;
@@ -53,7 +53,7 @@ void select(QItemSelection& selection, const GridPlace::Block& block, const std:
 
 }  // namespace
 
-void noteSelection(GridPlace& place, const QItemSelection& selection, const MainTableModel& model,
+void noteSelection(Whereabouts& place, const QItemSelection& selection, const MainTableModel& model,
                    const RowVisibility& rows)
 {
     place.wholeColumns = gridselection::wholeColumns(selection, rows);
@@ -69,7 +69,7 @@ void noteSelection(GridPlace& place, const QItemSelection& selection, const Main
     }
 }
 
-QItemSelection selectionOf(const GridPlace& place, const MainTableModel& model,
+QItemSelection selectionOf(const Whereabouts& place, const MainTableModel& model,
                            const RowVisibility& rows)
 {
     if (!place.wholeColumns.empty()) {
@@ -81,7 +81,7 @@ QItemSelection selectionOf(const GridPlace& place, const MainTableModel& model,
     }
     const bool areAllHidden = rows.shownCount() == 0;
     const std::vector<int> rowOf = rowsByObservation(model);
-    for (const GridPlace::Block& block : place.blocks) {
+    for (const Whereabouts::Block& block : place.blocks) {
         std::vector<int> selected;
         for (const int observation : block.observations) {
             const int row = rowOf[static_cast<std::size_t>(observation)];
@@ -95,4 +95,4 @@ QItemSelection selectionOf(const GridPlace& place, const MainTableModel& model,
     return selection.size() <= mostPieces ? selection : QItemSelection();
 }
 
-}  // namespace gridplace
+}  // namespace whereabouts
