@@ -1,6 +1,7 @@
 #include "grid/GridCommands.h"
 
 #include "grid/MainTableView.h"
+#include "grid/NativeKeys.h"
 
 #include <QCoreApplication>
 #include <QShortcut>
@@ -264,7 +265,7 @@ QString Key::text() const
 
 QString Entry::menuEntry() const
 {
-    return translated("GridContextMenu", menuText);
+    return withNativeKeys(translated("GridContextMenu", menuText));
 }
 
 QString Entry::listedAction() const

@@ -1,5 +1,6 @@
 #include "app/boxes/FailureNote.h"
 
+#include "app/dialogs/EngineMessages.h"
 #include "grid/opened/CommandFailure.h"
 
 #include <QAccessible>
@@ -64,13 +65,14 @@ FailureNote::FailureNote(QWidget& box)
 void FailureNote::tell(const CommandFailure& failure)
 {
     constexpr qsizetype longest = 300;
-    m_message->setText(failure.message.left(longest));
+    const QString message = enginemessages::translated(failure.message);
+    m_message->setText(message.left(longest));
     const bool isSomewhere = failure.position >= 0 && failure.position <= failure.command.size();
     m_place->setText(isSomewhere ? withCaret(failure.command, failure.position) : QString());
     m_place->setVisible(isSomewhere);
     m_suggestion->setText(tr("Did you mean %1?").arg(failure.suggestion));
     m_suggestion->setVisible(!failure.suggestion.isEmpty());
-    setAccessibleName(failure.message);
+    setAccessibleName(message);
     if (parentWidget() != m_box.window()) {
         setParent(m_box.window());
     }

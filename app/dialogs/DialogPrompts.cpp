@@ -78,9 +78,10 @@ bool DialogPrompts::offerToOpen(const QString& title, const QString& text)
 }
 
 QStringList DialogPrompts::chooseFiles(const QString& title, const QString& folder,
-                                       const QString& filters)
+                                       const QString& filters, const QString& filter)
 {
-    return QFileDialog::getOpenFileNames(m_parent, title, folder, filters);
+    QString selected = filter;
+    return QFileDialog::getOpenFileNames(m_parent, title, folder, filters, &selected);
 }
 
 QStringList DialogPrompts::chooseDatasets(const QString& fileName, const QStringList& names)

@@ -17,7 +17,7 @@ public:
     void inform(const QString& title, const QString& text) override;
     [[nodiscard]] bool offerToOpen(const QString& title, const QString& text) override;
     [[nodiscard]] QStringList chooseFiles(const QString& title, const QString& folder,
-                                          const QString& filters) override;
+                                          const QString& filters, const QString& filter) override;
     [[nodiscard]] QStringList chooseDatasets(const QString& fileName,
                                              const QStringList& names) override;
     [[nodiscard]] std::optional<QString> editDataFilter(const QString& condition) override;

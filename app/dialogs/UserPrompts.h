@@ -26,9 +26,11 @@ public:
     [[nodiscard]] virtual bool offerToOpen(const QString& title, const QString& text) = 0;
     /// Lets the user choose existing files.
     /// @param filters  patterns as Qt's file dialogs take them, separated by ";;"
+    /// @param filter   the one of them to begin with
     /// @return         the paths; none when the user cancels
     [[nodiscard]] virtual QStringList chooseFiles(const QString& title, const QString& folder,
-                                                  const QString& filters) = 0;
+                                                  const QString& filters,
+                                                  const QString& filter) = 0;
     /// Lets the user choose among the datasets of a file.
     /// @return  some of the names; none when the user cancels
     [[nodiscard]] virtual QStringList chooseDatasets(const QString& fileName,

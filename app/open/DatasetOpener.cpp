@@ -1,7 +1,10 @@
 #include "app/open/DatasetOpener.h"
 
+#include "app/dialogs/EngineMessages.h"
 #include "app/dialogs/UserPrompts.h"
+#include "app/open/DialogFilter.h"
 #include "app/open/GridPlace.h"
+#include "app/open/LoadProgress.h"
 #include "app/start/Settings.h"
 #include "app/window/DatasetWindow.h"
 #include "app/window/TabTitles.h"
@@ -11,6 +14,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QMainWindow>
 #include <QMdiArea>
 #include <QTabBar>
 
@@ -35,6 +39,10 @@ DatasetOpener::DatasetOpener(Surroundings surroundings, QObject* parent)
     , m_surroundings(std::move(surroundings))
 {
     m_retry.setSingleShot(true);
+    constexpr int longestStart =
+        2000;  // milliseconds; a window that starts minimised is not painted
+    m_start.setRemainingTime(longestStart);
+    m_surroundings.window.installEventFilter(this);
     connect(&m_retry, &QTimer::timeout, this, &DatasetOpener::openWaiting);
     connect(&m_watch, &FileWatch::signalChanged, this, &DatasetOpener::lookAtFiles);
     // No system tells of changes that another computer makes.
@@ -45,9 +53,12 @@ DatasetOpener::DatasetOpener(Surroundings surroundings, QObject* parent)
 void DatasetOpener::chooseAndOpen(FileKind kind)
 {
     const filekinds::Entry& entry = filekinds::entryOf(kind);
-    const QString folder = m_surroundings.settings.lastFolder();
-    const QStringList paths =
-        m_surroundings.prompts.chooseFiles(entry.title(), folder, entry.filters());
+    const Settings& settings = m_surroundings.settings;
+    const QString folder = settings.lastFolder();
+    const QString filters = entry.filters();
+    const QStringList paths = m_surroundings.prompts.chooseFiles(
+        entry.title(), folder, filters,
+        dialogfilter::firstOf(filters, settings.recentFiles(), folder));
     for (const QString& path : paths) {
         m_surroundings.settings.setLastFolder(QFileInfo(path).absolutePath());
         open(path);
@@ -130,6 +141,16 @@ bool DatasetOpener::close(QMdiSubWindow* window, const DatasetOrigin& origin)
     return true;
 }
 
+/// Waits for the first sight of the window.
+bool DatasetOpener::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Paint) {
+        m_isPainted = true;
+        watched->removeEventFilter(this);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
 void DatasetOpener::openLater(const QStringList& paths)
 {
     m_waiting << paths;
@@ -140,7 +161,8 @@ void DatasetOpener::openLater(const QStringList& paths)
 
 void DatasetOpener::openWaiting()
 {
-    if (QApplication::activeModalWidget() != nullptr) {
+    const bool isStarting = !m_isPainted && !m_start.hasExpired();
+    if (isStarting || QApplication::activeModalWidget() != nullptr) {
         constexpr int milliseconds = 50;
         m_retry.start(milliseconds);
         return;
@@ -157,8 +179,11 @@ std::unique_ptr<DatasetWindow> DatasetOpener::read(const DatasetOrigin& origin)
     QString reason;
     {
         const WaitCursor waitCursor;
+        LoadProgress progress(m_surroundings.window, origin.filePath.section(u'/', -1));
         Result<OpenedDataset> loaded =
-            m_surroundings.load(origin.filePath, {.member = origin.member().toStdString()});
+            m_surroundings.load(origin.filePath,
+                                {.member = origin.member().toStdString(),
+                                 .progress = [&](int percent) { progress.advance(percent); }});
         if (loaded) {
             return std::make_unique<DatasetWindow>(std::move(loaded.value().dataset), origin,
                                                    m_surroundings.datasets);
@@ -175,7 +200,7 @@ void DatasetOpener::tellFailure(const DatasetOrigin& origin, const QString& reas
     const QString text = member.isEmpty()
         ? tr("Failed to open the file: %1").arg(origin.filePath)
         : tr("Failed to open dataset '%1' in %2.").arg(member, origin.filePath);
-    m_surroundings.prompts.warn(tr("Open File"), text, reason);
+    m_surroundings.prompts.warn(tr("Open File"), text, enginemessages::translated(reason));
 }
 
 void DatasetOpener::show(std::unique_ptr<DatasetWindow> window)
@@ -233,7 +258,7 @@ void DatasetOpener::bringBack(const DatasetWindow& window, ViewState state)
         static_cast<void>(opened.restore(state));
         m_surroundings.prompts.warn(tr("Reload Dataset"),
                                     tr("The filter could not be kept: %1").arg(filter),
-                                    problem->message);
+                                    enginemessages::translated(problem->message));
     }
 }
 

@@ -5,6 +5,7 @@
 #include "data/readers/FileKinds.h"
 #include "grid/opened/ViewState.h"
 
+#include <QDeadlineTimer>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -14,6 +15,7 @@
 #include <memory>
 
 class DatasetWindow;
+class QMainWindow;
 class QMdiArea;
 class Settings;
 class UserPrompts;
@@ -32,6 +34,7 @@ public:
     /// All but the loader outlive the opener.
     struct Surroundings
     {
+        QMainWindow& window;
         QMdiArea& area;
         OpenDatasets& datasets;
         UserPrompts& prompts;
@@ -49,8 +52,8 @@ public:
     bool open(const QString& path);
     /// Opens one dataset of a file that holds several.
     bool openMember(const QString& path, const QString& name);
-    /// Opens files once nobody is asked anything and the event in hand is done: what comes from
-    /// outside must not change what a question is about.
+    /// Opens files once the window can be seen, nobody is asked anything and the event in hand is
+    /// done: what comes from outside must not change what a question is about.
     void openLater(const QStringList& paths);
     /// Reads the active dataset anew, and keeps what its user has made of it. Where the file cannot
     /// be read the old one stays.
@@ -67,6 +70,9 @@ signals:
     void signalShown(DatasetWindow* window);
     /// A file has been opened.
     void signalRead(const QString& path);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     enum class Reload
@@ -96,4 +102,6 @@ private:
     QStringList m_waiting;
     QTimer m_retry;
     FileWatch m_watch;
+    QDeadlineTimer m_start;  ///< until when the window may be painted for the first time
+    bool m_isPainted = false;
 };

@@ -70,7 +70,7 @@ int runApplication(int argc, char** argv)
     MainWindow window;
     window.show();
     if (!file.isEmpty() && window.hasWorkspace()) {
-        window.openDatasetFile(file);
+        window.openReceivedFile(file);
     }
     QObject::connect(&instance, &SingleInstance::signalFileReceived, &window,
                      &MainWindow::openReceivedFile);

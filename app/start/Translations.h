@@ -10,7 +10,9 @@ namespace translations {
 
 /// Loads the first translation there is for one of the languages.
 /// @param uiLanguages  as QLocale::uiLanguages() lists them, the preferred one first
-/// @return             null when there is none, and the texts stay English
+/// @return             null when there is none, and the texts stay English, as they do with that
+/// for
+///                     English, which has none
 [[nodiscard]] std::unique_ptr<QTranslator> load(const QStringList& uiLanguages,
                                                 const QString& folder);
 

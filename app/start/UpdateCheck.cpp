@@ -38,14 +38,13 @@ void UpdateCheck::check()
     connect(m_reply, &QNetworkReply::readyRead, this, &UpdateCheck::limitSize);
     connect(m_reply, &QNetworkReply::finished, this, &UpdateCheck::finish);
     // The reply's own time limit begins anew with every byte that arrives.
-    QTimer::singleShot(m_setup.timeLimit, m_reply,
-                       [this] { giveUp(QStringLiteral("no answer in time")); });
+    QTimer::singleShot(m_setup.timeLimit, m_reply, [this] { giveUp(tr("no answer in time")); });
 }
 
 void UpdateCheck::limitSize()
 {
     if (m_reply != nullptr && m_reply->bytesAvailable() > m_setup.sizeLimit) {
-        giveUp(QStringLiteral("the answer is too large"));
+        giveUp(tr("the answer is too large"));
     }
 }
 
@@ -64,6 +63,7 @@ void UpdateCheck::finish()
     if (reply->error() != QNetworkReply::NoError) {
         const QString reason = m_refusal.isEmpty() ? reply->errorString() : m_refusal;
         spdlog::warn("Update check failed: {}", reason.toStdString());
+        emit signalFailed(tr("The check for updates has failed: %1").arg(reason));
         return;
     }
     const QJsonDocument manifest = QJsonDocument::fromJson(reply->readAll());

@@ -12,7 +12,7 @@ class QUrl;
 class UserPrompts;
 
 /// Asks the product web site for a newer version and offers its download page. Nothing is said when
-/// there is none; what goes wrong on the way is told to the log only.
+/// there is none; what goes wrong on the way is told in passing.
 class UpdateCheck : public QObject
 {
     Q_OBJECT
@@ -35,6 +35,9 @@ public:
     void check();
     /// Whether an answer is awaited.
     [[nodiscard]] bool isBusy() const { return m_reply != nullptr; }
+
+signals:
+    void signalFailed(const QString& message);
 
 private:
     void limitSize();

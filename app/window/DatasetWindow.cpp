@@ -1,5 +1,6 @@
 #include "app/window/DatasetWindow.h"
 
+#include "app/dialogs/EngineMessages.h"
 #include "app/look/Icons.h"
 #include "app/window/NoticeBar.h"
 #include "app/window/PlainTitle.h"
@@ -40,7 +41,7 @@ QString damageOf(const StatDataset& dataset)
 {
     QStringList notes;
     for (const std::string& note : dataset.damageNotes()) {
-        notes << QString::fromStdString(note);
+        notes << enginemessages::translated(QString::fromStdString(note));
     }
     return notes.join(u'\n');
 }

@@ -1,5 +1,6 @@
 #include "app/window/GridServices.h"
 
+#include "app/dialogs/EngineMessages.h"
 #include "app/dialogs/UserPrompts.h"
 #include "grid/MainTableView.h"
 
@@ -36,7 +37,8 @@ void GridServices::serve(MainTableView& grid)
 bool GridServices::report(const CommandOutcome& outcome)
 {
     if (outcome) {
-        m_prompts.warn(tr("Command"), shortened(outcome->message), shortened(outcome->command));
+        m_prompts.warn(tr("Command"), shortened(enginemessages::translated(outcome->message)),
+                       shortened(outcome->command));
     }
     return !outcome.has_value();
 }

@@ -1,6 +1,7 @@
 #include "app/window/MainActions.h"
 
 #include "app/look/Icons.h"
+#include "grid/NativeKeys.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -63,7 +64,7 @@ QList<QAction*> MainActions::readableKinds() const
 void MainActions::createFileActions()
 {
     newSasProgram = add("actionNewSasProgram", tr("New SAS Program"));
-    close = add("actionClose", tr("Close\tCtrl+W"));
+    close = add("actionClose", withNativeKeys(tr("Close\tCtrl+W")));
     close->setShortcut(Qt::CTRL | Qt::Key_W);
     closeAll = add("actionCloseAll", tr("Close All"));
     closeAll->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_W);

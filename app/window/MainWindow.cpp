@@ -91,16 +91,17 @@ void MainWindow::createServices(MainWindowServices services)
     m_settings = std::make_unique<Settings>(*m_settingsStore);
     m_prompts =
         services.prompts ? std::move(services.prompts) : std::make_unique<DialogPrompts>(this);
-    m_openUrl = services.openUrl ? std::move(services.openUrl)
-                                 : [](const QUrl& url) { QDesktopServices::openUrl(url); };
+    m_openUrl = services.openUrl ? std::move(services.openUrl) : &QDesktopServices::openUrl;
     statusBar()->setObjectName(QStringLiteral("statusbar"));
     m_counters = std::make_unique<StatusCounters>(statusBar());
     m_gridServices = std::make_unique<GridServices>(*m_prompts, *statusBar());
     m_recentFiles = std::make_unique<RecentFiles>(*m_settings);
     m_updateCheck = new UpdateCheck({.webSite = QString::fromUtf8(quorlane::webSite),
                                      .version = QCoreApplication::applicationVersion(),
-                                     .openPage = m_openUrl},
+                                     .openPage = [this](const QUrl& url) { openPage(url); }},
                                     *m_prompts, this);
+    connect(m_updateCheck, &UpdateCheck::signalFailed, m_gridServices.get(),
+            &GridServices::showMessage);
 }
 
 void MainWindow::createActions()
@@ -130,8 +131,8 @@ void MainWindow::createCentralArea()
 void MainWindow::createOpener(DatasetLoader load)
 {
     m_opener = new DatasetOpener(
-        DatasetOpener::Surroundings{m_area->mdiArea(), m_gridServices->datasets(), *m_prompts,
-                                    *m_settings,
+        DatasetOpener::Surroundings{*this, m_area->mdiArea(), m_gridServices->datasets(),
+                                    *m_prompts, *m_settings,
                                     load ? std::move(load) : DatasetLoader(&openDataset)},
         this);
     connect(m_opener, &DatasetOpener::signalOpened, this, &MainWindow::prepareWindow);
@@ -505,7 +506,14 @@ void MainWindow::on_actionCheckForUpdates_triggered()
 
 void MainWindow::on_actionDocumentation_triggered()
 {
-    m_openUrl(QUrl(QString::fromUtf8(quorlane::webSite) + QStringLiteral("/documentation/")));
+    openPage(QUrl(QString::fromUtf8(quorlane::webSite) + QStringLiteral("/documentation/")));
+}
+
+void MainWindow::openPage(const QUrl& url)
+{
+    if (!m_openUrl(url)) {
+        m_gridServices->showMessage(tr("No browser could show %1").arg(url.toString()));
+    }
 }
 
 void MainWindow::on_actionOptions_triggered()

@@ -43,7 +43,8 @@ struct MainWindowServices
     std::unique_ptr<WorkspaceStore> store;  ///< the user's workspace when null
     std::unique_ptr<UserPrompts> prompts;  ///< dialogs over the main window when null
     DatasetLoader load;  ///< the readers when empty
-    std::function<void(const QUrl&)> openUrl;  ///< the desktop's browser when empty
+    /// Shows a page, if it can; the desktop's browser when empty.
+    std::function<bool(const QUrl&)> openUrl;
 };
 
 /// The one top-level window: owns the sub-windows of the open datasets and everything round them,
@@ -61,8 +62,8 @@ public:
     /// @return  whether the file is open now
     bool openDatasetFile(const QString& path);
 
-    /// Opens a file that another start of the program has handed over, as soon as no question is
-    /// open.
+    /// Opens a file that the program was started with, or that another start has handed over, as
+    /// soon as the window can be seen and no question is open.
     void openReceivedFile(const QString& path);
     /// Whether the workspace store could be opened; without it the program is about to end.
     [[nodiscard]] bool hasWorkspace() const { return m_store != nullptr; }
@@ -124,12 +125,13 @@ private:
     void prepareWindow(DatasetWindow* window);
     void openWorkspace(std::unique_ptr<WorkspaceStore> store);
     void showWhatIsOpen();
+    void openPage(const QUrl& url);
 
     std::unique_ptr<QSettings> m_settingsStore;
     std::unique_ptr<Settings> m_settings;
     std::unique_ptr<UserPrompts> m_prompts;
     std::unique_ptr<WorkspaceStore> m_store;
-    std::function<void(const QUrl&)> m_openUrl;
+    std::function<bool(const QUrl&)> m_openUrl;
     std::unique_ptr<MainActions> m_actions;
     std::unique_ptr<MainMenus> m_menus;
     std::unique_ptr<StatusCounters> m_counters;

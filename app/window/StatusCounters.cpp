@@ -1,5 +1,6 @@
 #include "app/window/StatusCounters.h"
 
+#include "app/dialogs/EngineMessages.h"
 #include "app/window/ElidedLabel.h"
 
 #include <QStatusBar>
@@ -68,8 +69,8 @@ void StatusCounters::setLibraryFilter(const QString& filter, const QString& prob
         m_libraryFilter->setToolTip(QString());
     } else {
         m_libraryFilter->setText(tr("LF: (not applied) %1").arg(filter));
-        m_libraryFilter->setToolTip(
-            tr("%1\nThis dataset is not filtered by it: %2").arg(filter, problem));
+        m_libraryFilter->setToolTip(tr("%1\nThis dataset is not filtered by it: %2")
+                                        .arg(filter, enginemessages::translated(problem)));
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,6 +15,9 @@ struct OpenOptions
     bool metadataOnly = false;
     /// Which dataset of a file that holds several; the first when empty.
     std::string member{};
+    /// Told, in percent, how much of the file has been read each time that this changes. It is not
+    /// to throw; files that are read in a blink tell nothing.
+    std::function<void(int)> progress{};
 };
 
 /// A dataset that came from a file.

@@ -22,6 +22,7 @@ Result<OpenedDataset> readWith(std::unique_ptr<Doc> doc, SourceKind kind, const 
 {
     doc->setSourceKind(kind);
     doc->setValuesWanted(!options.metadataOnly);
+    doc->setProgress(options.progress);
     if (doc->load(path) != 0) {
         return Failure{doc->loadError()};
     }

@@ -115,8 +115,23 @@ std::int64_t ParserInput::read(char* target, std::size_t count)
     }
     if (done > 0) {
         m_position += done;
+        tellProgress();
     }
     return done;
+}
+
+/// ReadStat 1.1 tells of none for Stata and compressed SPSS files, so that its own handler is no
+/// use.
+void ParserInput::tellProgress()
+{
+    if (m_progress == nullptr || m_size == 0) {
+        return;
+    }
+    const auto percent = static_cast<int>(std::min(m_position, m_size) * 100 / m_size);
+    if (percent != m_percent) {
+        m_percent = percent;
+        m_progress(percent);
+    }
 }
 
 std::int64_t ParserInput::readPieces(std::int64_t offset, char* target, std::size_t count) const

@@ -5,7 +5,9 @@
 #include <readstat.h>
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 /// What the format library reads in place of the bare file: chosen pieces of it one after the
@@ -34,6 +36,9 @@ public:
     /// the pages of a file is slower with it.
     void setReadAhead(std::size_t bytes);
 
+    /// What is told, in percent, how far the parser has come each time that this changes.
+    void setProgress(std::function<void(int)> progress) { m_progress = std::move(progress); }
+
     [[nodiscard]] std::int64_t size() const { return m_size; }
     /// Where the parser reads next.
     [[nodiscard]] std::int64_t position() const { return m_position; }
@@ -59,6 +64,7 @@ private:
         char byte;
     };
 
+    void tellProgress();
     std::int64_t readPieces(std::int64_t offset, char* target, std::size_t count) const;
     void applyReplacements(std::int64_t offset, char* target, std::size_t count) const;
 
@@ -70,4 +76,6 @@ private:
     std::vector<char> m_buffer;
     std::int64_t m_bufferStart = 0;
     std::int64_t m_bufferBytes = 0;
+    std::function<void(int)> m_progress;
+    int m_percent = 0;  ///< told last
 };

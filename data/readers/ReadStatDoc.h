@@ -4,7 +4,9 @@
 
 #include <QString>
 
+#include <functional>
 #include <string>
+#include <utility>
 
 /// What datasets from SAS, SPSS and Stata files share; see ReadStatLoad for how they are read.
 class ReadStatDoc : public StatDataset
@@ -19,8 +21,12 @@ public:
     /// Why the last load failed, as a sentence that names the file; empty after a success.
     [[nodiscard]] const std::string& loadError() const { return m_loadError; }
 
+    /// What a load tells how much of the file it has read; see OpenOptions::progress.
+    void setProgress(std::function<void(int)> progress) { m_progress = std::move(progress); }
+
 private:
     friend class ReadStatLoad;
 
     std::string m_loadError;
+    std::function<void(int)> m_progress;
 };

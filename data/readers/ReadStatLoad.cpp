@@ -109,6 +109,7 @@ readstat_error_t ReadStatLoad::read(const QString& path)
         return READSTAT_ERROR_READ;
     }
     ParserInput input(file);
+    input.setProgress(m_dataset.m_progress);
     m_refusal = prepare(file, input);
     if (!m_refusal.empty()) {
         return READSTAT_ERROR_PARSE;

@@ -1,3 +1,4 @@
+#include "app/open/LoadProgress.h"
 #include "app/window/NoticeBar.h"
 #include "data/StatDataset.h"
 #include "samples/TableWriter.h"
@@ -9,8 +10,10 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QPointer>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSettings>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QToolBar>
 
@@ -25,6 +28,8 @@ private slots:
     void openedFileIsShownAndTakesTheKeys();
     void filesAreReadByTheirSuffixOrToldWithAReason();
     void chosenFilesOpenAndTheirFolderIsRemembered();
+    void fileDialogBeginsWithTheFilterThatFits();
+    void openingSaysWhatAndHowFar();
     void openFileIsReadAnewOnlyWhenWanted();
     void fileClosedWhileReloadIsAskedForIsOpenedAnew();
     void keysSwitchAndCloseDatasets();
@@ -137,6 +142,50 @@ void TestMainWindow::chosenFilesOpenAndTheirFolderIsRemembered()
         QVERIFY(asked.startsWith(folder->path() + '|') && asked.contains(suffix));
     }
     QCOMPARE(loaded.size(), 3);
+}
+
+void TestMainWindow::fileDialogBeginsWithTheFilterThatFits()
+{
+    const auto filter = [this] {
+        trigger("actionOpenSasData");
+        return notes().join('\n').section('|', 4).trimmed();
+    };
+    const QString dataSets = "SAS Data Files (*.sas7bdat)";
+    const QString transport = "SAS Transport Files (*.xpt)";
+    QCOMPARE(filter(), dataSets);
+    script.chosenFiles = {write("dm.XPT")};
+    QCOMPARE(filter(), dataSets);
+    script.chosenFiles.clear();
+    QCOMPARE(filter(), transport);
+    (void)write("ae.sas7bdat");
+    QCOMPARE(filter(), transport);
+    window->openDatasetFile(path("ae.sas7bdat"));
+    window->openDatasetFile(path("other.sav"));
+    QCOMPARE(filter(), dataSets);
+    QVERIFY(QFile::remove(path("ae.sas7bdat")));
+    QCOMPARE(filter(), transport);
+}
+
+void TestMainWindow::openingSaysWhatAndHowFar()
+{
+    open("dm");
+    QCOMPARE(messageWhileLoading, "Opening dm …");
+    QCOMPARE(window->statusBar()->currentMessage(), "");
+    {
+        LoadProgress patient(*window, "dm", std::chrono::hours(1));
+        patient.advance(50);
+        QVERIFY(child<QFrame>("loadProgress") == nullptr);
+    }
+    {
+        LoadProgress progress(*window, "ae.xpt", std::chrono::milliseconds(0));
+        progress.advance(10);
+        const QFrame* panel = child<QFrame>("loadProgress");
+        QVERIFY(panel->isVisible() && window->rect().contains(panel->geometry()));
+        QCOMPARE(panel->findChild<QLabel*>()->text(), "Opening ae.xpt …");
+        progress.advance(40);
+        QCOMPARE(panel->findChild<QProgressBar*>()->value(), 40);
+    }
+    QVERIFY(child<QFrame>("loadProgress") == nullptr);
 }
 
 void TestMainWindow::openFileIsReadAnewOnlyWhenWanted()
@@ -485,6 +534,10 @@ void TestMainWindow::actionsDoWhatTheySay()
 {
     trigger("actionDocumentation");
     QCOMPARE(urls, QStringList("https://quorlane.brindlework.example/documentation/"));
+    QCOMPARE(window->statusBar()->currentMessage(), "");
+    opensPages = false;
+    trigger("actionDocumentation");
+    QVERIFY(window->statusBar()->currentMessage().contains(urls.last()));
     trigger("actionAbout");
     QVERIFY(notes().join('\n').startsWith("inform|About Quorlane|"));
 

@@ -1,3 +1,4 @@
+#include "app/dialogs/EngineMessages.h"
 #include "app/start/Translations.h"
 #include "app/window/MainWindow.h"
 #include "grid/GridContextMenu.h"
@@ -8,8 +9,10 @@
 
 #include <QAbstractItemModel>
 #include <QAction>
+#include <QComboBox>
 #include <QDockWidget>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMultiMap>
 #include <QPlainTextEdit>

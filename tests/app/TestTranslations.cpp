@@ -7,11 +7,12 @@
 
 namespace {
 
-/// What "&File" of the menus becomes; empty where no translation is found.
+/// What "&File" of the menus becomes; empty where no translation is found, not even English.
 std::string fileMenu(const QStringList& languages, const QString& folder)
 {
     const auto translator = translations::load(languages, folder);
-    return translator ? translator->translate("MainMenus", "&File").toStdString() : "";
+    const QString text = translator ? translator->translate("MainMenus", "&File") : QString();
+    return translator && text.isEmpty() ? "&File" : text.toStdString();
 }
 
 }  // namespace
@@ -27,6 +28,8 @@ TEST(Translations, areTakenForTheFirstLanguageThatHasOne)
         {{"zh"}, "文件(&F)"},
         {{"zh-Hans-CN"}, "文件(&F)"},
         {{"zh-TW"}, ""},
+        {{"en-GB", "de-DE"}, "&File"},
+        {{"fr-FR", "en-US", "de-DE"}, "&File"},
         {{"fr-FR", "C"}, ""},
         {{}, ""},
     };

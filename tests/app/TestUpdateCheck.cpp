@@ -19,7 +19,7 @@ private slots:
     void cleanup();
     void onlyANewerVersionIsOffered();
     void downloadPageIsOpenedOnRequestOnly();
-    void failuresAreLoggedOnly();
+    void failuresAreToldInPassing();
     void oversizedAnswerIsGivenUp();
     void checkMayEndWhileAnAnswerIsAwaited();
 
@@ -34,6 +34,7 @@ private:
     std::unique_ptr<LogCapture> m_log;
     ScriptedPrompts::Script m_script;
     QStringList m_opened;
+    QStringList m_failures;  ///< told in passing
 };
 
 void TestUpdateCheck::initTestCase()
@@ -49,6 +50,7 @@ void TestUpdateCheck::init()
     m_log = std::make_unique<LogCapture>();
     m_script = {};
     m_opened.clear();
+    m_failures.clear();
 }
 
 void TestUpdateCheck::cleanup()
@@ -75,6 +77,8 @@ void TestUpdateCheck::check(const std::function<void(UpdateCheck::Setup&)>& chan
     }
     ScriptedPrompts prompts(m_script);
     UpdateCheck check(setup, prompts);
+    connect(&check, &UpdateCheck::signalFailed, this,
+            [this](const QString& message) { m_failures << message; });
     check.check();
     QTRY_VERIFY(!check.isBusy());
 }
@@ -107,6 +111,7 @@ void TestUpdateCheck::onlyANewerVersionIsOffered()
             + "\nYour version: 2025.10.28\n\nClick 'Open' to get the latest version:\n"
             + m_server->address() + "/download/";
         QCOMPARE(m_script.notes, *offered == '\0' ? QStringList() : QStringList(note));
+        QCOMPARE(m_failures, QStringList());
     }
 }
 
@@ -121,7 +126,7 @@ void TestUpdateCheck::downloadPageIsOpenedOnRequestOnly()
     QCOMPARE(m_opened, QStringList(m_server->address() + "/download/"));
 }
 
-void TestUpdateCheck::failuresAreLoggedOnly()
+void TestUpdateCheck::failuresAreToldInPassing()
 {
     const QString address = m_server->address();
     for (const QByteArray& status :
@@ -134,6 +139,7 @@ void TestUpdateCheck::failuresAreLoggedOnly()
         const std::string log = m_log->take();
         QVERIFY2(log.starts_with("warning: Update check failed: "), log.c_str());
         QCOMPARE(std::ranges::count(log, '\n'), 1);
+        QVERIFY(m_failures.takeFirst().startsWith("The check for updates has failed: "));
         QCOMPARE(m_script.notes, QStringList());
     }
 }

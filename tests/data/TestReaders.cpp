@@ -3,6 +3,7 @@
 #include "tests/data/ReaderTest.h"
 #include "tests/support/LogCapture.h"
 
+#include <algorithm>
 #include <cmath>
 #include <ostream>
 
@@ -61,6 +62,20 @@ protected:
         return read(GetParam().file, written(GetParam().file, table, GetParam().options), options);
     }
 };
+
+TEST_P(Readers, tellHowFarTheyAre)
+{
+    samples::Table table = visits();
+    for (int row = 3; row < 20'000; ++row) {
+        table.rows.push_back({"Site " + std::to_string(row), double(row), double(row)});
+    }
+    std::vector<int> percents;
+    (void)reread(table, {.progress = [&](int percent) { percents.push_back(percent); }});
+    EXPECT_GE(percents.size(), 3U);
+    EXPECT_TRUE(std::ranges::all_of(percents, [](int it) { return it >= 0 && it <= 100; }));
+    ASSERT_FALSE(percents.empty());
+    EXPECT_GE(percents.back(), 90);
+}
 
 TEST_P(Readers, readEveryCell)
 {

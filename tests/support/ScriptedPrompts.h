@@ -53,9 +53,9 @@ public:
         return m_script.opening;
     }
     [[nodiscard]] QStringList chooseFiles(const QString& title, const QString& folder,
-                                          const QString& filters) override
+                                          const QString& filters, const QString& filter) override
     {
-        m_script.notes << QStringList({"files", title, folder, filters}).join('|');
+        m_script.notes << QStringList({"files", title, folder, filters, filter}).join('|');
         return m_script.chosenFiles;
     }
     [[nodiscard]] QStringList chooseDatasets(const QString& fileName,

@@ -17,6 +17,6 @@ inline MainWindowServices temporaryServices(const QString& folder, ScriptedPromp
     services.settings = std::make_unique<QSettings>(folder + "/settings.ini", QSettings::IniFormat);
     services.store = std::make_unique<WorkspaceStore>(StoreLocations{folder, QString()});
     services.prompts = std::make_unique<ScriptedPrompts>(script);
-    services.openUrl = [](const QUrl&) {};
+    services.openUrl = [](const QUrl&) { return true; };
     return services;
 }

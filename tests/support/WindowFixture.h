@@ -19,6 +19,7 @@
 #include <QMdiArea>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QStatusBar>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -43,6 +44,7 @@ protected:
         loaded.clear();
         urls.clear();
         isFailing = false;
+        opensPages = true;
         openWindow();
     }
     /// Whatever was logged as a fault or told must have been expected and taken before.
@@ -58,14 +60,23 @@ protected:
     void openWindow(bool readsFiles = false)
     {
         window.reset();
-        MainWindowServices services = temporaryServices(folder->path(), script);
-        if (!readsFiles) {
-            services.load = [this](const QString& file, const OpenOptions&) { return load(file); };
+        MainWindowServices services = servicesOfTests();
+        if (readsFiles) {
+            services.load = {};
         }
-        services.openUrl = [this](const QUrl& url) { urls << url.toString(); };
         window = std::make_unique<MainWindow>(std::move(services));
         window->show();
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    }
+    MainWindowServices servicesOfTests()
+    {
+        MainWindowServices services = temporaryServices(folder->path(), script);
+        services.load = [this](const QString& file, const OpenOptions&) { return load(file); };
+        services.openUrl = [this](const QUrl& url) {
+            urls << url.toString();
+            return opensPages;
+        };
+        return services;
     }
     void startAgain()
     {
@@ -144,6 +155,8 @@ protected:
     ScriptedPrompts::Script script;
     QStringList loaded;  ///< the names of the files that were read or could not be
     QStringList urls;  ///< the pages opened
+    bool opensPages = true;  ///< whether there is a browser
+    QString messageWhileLoading;  ///< in the status bar while the last file was read
     bool isFailing = false;  ///< whether no file can be read
     bool hasWaited = false;  ///< whether the last file was read under the wait cursor
     std::function<void(ScriptedDataset&)> fillOwn;
@@ -154,6 +167,7 @@ private:
     {
         const QString name = QFileInfo(file).fileName();
         loaded << name;
+        messageWhileLoading = window->statusBar()->currentMessage();
         const QCursor* cursor = QGuiApplication::overrideCursor();
         hasWaited = cursor != nullptr && cursor->shape() == Qt::WaitCursor;
         if (isFailing || name.startsWith("bad")) {

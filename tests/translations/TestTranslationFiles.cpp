@@ -119,4 +119,53 @@ TEST(Translations, areCompleteAndKeepWhatIsNoLanguage)
                                   << faults.join('\n').toStdString();
 }
 
+/// The messages that a source of an engine gives, their places as "%1" and so on.
+QStringList messagesOf(const QString& source)
+{
+    // A text behind one of these, in one or several pieces.
+    static const QRegularExpression message(
+        R"rx((?:ParseError\(|Failure\{|refuse\(|DamageNote\(|m_refusal = |variable\(|fail\(|)rx"
+        R"rx((?:take|copy|literal)\([\w:]+, |return)\s*(?:fmt::format\(\s*)?)rx"
+        R"rx(((?:"(?:[^"\\]|\\.)*"\s*)+))rx");
+    static const QRegularExpression seam(R"("\s*")");
+    static const QRegularExpression fileName(R"(^\{\}: )");
+    QStringList messages;
+    for (auto match = message.globalMatch(source); match.hasNext();) {
+        QString text = match.next().captured(1).trimmed().replace(seam, QString());
+        text = text.mid(1, text.size() - 2).remove(fileName);
+        for (int place = 1; text.contains("{}"); ++place) {
+            text.replace(text.indexOf("{}"), 2, "%" + QString::number(place));
+        }
+        text += text.endsWith(u' ') ? "%1" : "";  // what is appended
+        // Without a blank they are words and names; of the one its three kinds are told apart.
+        if (text.contains(u' ') && text != "%1 is not a valid %2") {
+            messages << text;
+        }
+    }
+    return messages;
+}
+
+TEST(Translations, haveWhatEnginesSay)
+{
+    QFile file(sourceFolder + "/i18n/quorlane_de_DE.ts");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QStringList known;
+    for (const Text& text : read(file.readAll())) {
+        known << text.source;
+    }
+    int count = 0;
+    for (const char* folder : {"/data/readers", "/grid/filter", "/grid/opened"}) {
+        for (const QFileInfo& entry : QDir(sourceFolder + folder).entryInfoList({"*.cpp"})) {
+            QFile source(entry.filePath());
+            ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+            for (const QString& message : messagesOf(QString::fromUtf8(source.readAll()))) {
+                EXPECT_TRUE(known.contains(message))
+                    << entry.fileName().toStdString() << ": " << message.toStdString();
+                ++count;
+            }
+        }
+    }
+    EXPECT_GT(count, 30);
+}
+
 }  // namespace

@@ -1,0 +1,151 @@
+#include "app/dialogs/EngineMessages.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <array>
+#include <optional>
+
+namespace enginemessages {
+namespace {
+
+// A test looks through the engines for messages that are missing here.
+constexpr std::array messages{
+    // Commands and conditions
+    QT_TRANSLATE_NOOP("EngineMessages", "unknown command"),
+    QT_TRANSLATE_NOOP("EngineMessages", "command must start with identifier"),
+    QT_TRANSLATE_NOOP("EngineMessages", "table needs variable(s)"),
+    QT_TRANSLATE_NOOP("EngineMessages", "clear must follow library|dataset"),
+    QT_TRANSLATE_NOOP("EngineMessages", "expect 'filter'"),
+    QT_TRANSLATE_NOOP("EngineMessages", "expect variable name"),
+    QT_TRANSLATE_NOOP("EngineMessages", "expect variable"),
+    QT_TRANSLATE_NOOP("EngineMessages", "expect ')'"),
+    QT_TRANSLATE_NOOP("EngineMessages", "expect ','"),
+    QT_TRANSLATE_NOOP("EngineMessages", "expect '(' after in"),
+    QT_TRANSLATE_NOOP("EngineMessages", "expect variable name or a function"),
+    QT_TRANSLATE_NOOP("EngineMessages", "expect string literal"),
+    QT_TRANSLATE_NOOP("EngineMessages", "expect operator"),
+    QT_TRANSLATE_NOOP("EngineMessages", "expect value"),
+    QT_TRANSLATE_NOOP("EngineMessages", "expect null"),
+    QT_TRANSLATE_NOOP("EngineMessages", "too many parentheses"),
+    QT_TRANSLATE_NOOP("EngineMessages", "unexpected trailing text"),
+    QT_TRANSLATE_NOOP("EngineMessages", "unknown character in input"),
+    QT_TRANSLATE_NOOP("EngineMessages", "unterminated string literal"),
+    QT_TRANSLATE_NOOP("EngineMessages", "The variable types do not match."),
+    QT_TRANSLATE_NOOP("EngineMessages", "There is no variable named %1"),
+    QT_TRANSLATE_NOOP("EngineMessages", "The number %1 is out of range"),
+    QT_TRANSLATE_NOOP("EngineMessages", "%1 is not a valid date"),
+    QT_TRANSLATE_NOOP("EngineMessages", "%1 is not a valid time"),
+    QT_TRANSLATE_NOOP("EngineMessages", "%1 is not a valid date-time"),
+    QT_TRANSLATE_NOOP(
+        "EngineMessages",
+        "%1 does not count days or seconds and cannot be compared with a date or time"),
+    QT_TRANSLATE_NOOP("EngineMessages", "This is no such filter: %1"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "Library Filter supports one level only. Please clear library filter first."),
+    QT_TRANSLATE_NOOP("EngineMessages", "No dataset is open that this could act on."),
+    // Filters made from values
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "A text with both kinds of quotes cannot be written in a filter: %1"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "A text with invalid characters cannot be written in a filter"),
+    QT_TRANSLATE_NOOP("EngineMessages", "There is no value to filter by"),
+    QT_TRANSLATE_NOOP("EngineMessages", "%1 holds numbers, which contain no text"),
+    QT_TRANSLATE_NOOP(
+        "EngineMessages",
+        "The variable %1 cannot be filtered: its name is more than letters, digits and _"),
+    QT_TRANSLATE_NOOP("EngineMessages", "An infinite number cannot be written in a filter"),
+    // Files
+    QT_TRANSLATE_NOOP("EngineMessages", "Not a regular file"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "Its suffix belongs to no kind of data file that can be opened"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "A file of this kind holds one dataset only; it has none named %1"),
+    QT_TRANSLATE_NOOP("EngineMessages", "There is not enough memory to hold it"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "Its header promises %1 observations, but it is too short to hold them"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It has %1 observations; at most %2 can be shown"),
+    QT_TRANSLATE_NOOP("EngineMessages", "The counts in its header are damaged"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It describes more variables than its header counts"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Its header is damaged"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Its long strings are damaged"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "Its header names an unknown compression (%1); it was read as uncompressed"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It is no SAS transport file"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It holds no data set"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It has no data set named %1; it has %2"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Its variables have no length"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Variable %1 has a negative length"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "It promises %1 variables, but it is too short to describe them"),
+    QT_TRANSLATE_NOOP("EngineMessages", "The record that starts a data set is damaged"),
+    QT_TRANSLATE_NOOP("EngineMessages", "The record that counts the variables is damaged"),
+    QT_TRANSLATE_NOOP("EngineMessages", "The record that starts the observations is missing"),
+    QT_TRANSLATE_NOOP("EngineMessages", "The record that counts the long labels is damaged"),
+    // The format library, ReadStat 1.1
+    QT_TRANSLATE_NOOP("EngineMessages", "Unable to read from file"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Unable to allocate memory"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Unable to seek within file"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Invalid file, or file has unsupported features"),
+    QT_TRANSLATE_NOOP("EngineMessages", "File has unsupported compression scheme"),
+    QT_TRANSLATE_NOOP("EngineMessages", "File has an unsupported character set"),
+    QT_TRANSLATE_NOOP("EngineMessages", "File did not contain the expected number of columns"),
+    QT_TRANSLATE_NOOP("EngineMessages", "File did not contain the expected number of rows"),
+    QT_TRANSLATE_NOOP("EngineMessages", "A row in the file was not the expected length"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Unable to convert string to the requested encoding"),
+    QT_TRANSLATE_NOOP("EngineMessages", "The file's timestamp string is invalid"),
+};
+
+/// What stands at the places of a pattern in a message that was made by it.
+std::optional<QStringList> argumentsOf(const QString& message, const QString& pattern)
+{
+    static const QRegularExpression place(QStringLiteral("%[1-9]"));
+    const QStringList fixed = pattern.split(place);
+    if (!message.startsWith(fixed.constFirst()) || !message.endsWith(fixed.constLast())) {
+        return std::nullopt;
+    }
+    QStringList arguments;
+    qsizetype at = fixed.constFirst().size();
+    for (qsizetype i = 1; i < fixed.size(); ++i) {
+        const bool isLast = i == fixed.size() - 1;
+        const qsizetype end =
+            isLast ? message.size() - fixed[i].size() : message.indexOf(fixed[i], at);
+        if (end < at) {
+            return std::nullopt;
+        }
+        arguments << message.mid(at, end - at);
+        at = end + fixed[i].size();
+    }
+    return at == message.size() ? std::optional(arguments) : std::nullopt;
+}
+
+std::optional<QString> translationOf(const QString& message)
+{
+    for (const char* pattern : messages) {
+        if (const auto arguments = argumentsOf(message, QString::fromUtf8(pattern))) {
+            const QString text = QCoreApplication::translate("EngineMessages", pattern);
+            return arguments->isEmpty()  ? text
+                : arguments->size() == 1 ? text.arg(arguments->at(0))
+                                         : text.arg(arguments->at(0), arguments->at(1));
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+QString translated(const QString& message)
+{
+    const QString afterName = QStringLiteral(": ");
+    for (qsizetype start = 0; start >= 0;) {
+        if (const auto translation = translationOf(message.mid(start))) {
+            return message.left(start) + *translation;
+        }
+        const qsizetype next = message.indexOf(afterName, start);
+        start = next < 0 ? -1 : next + afterName.size();
+    }
+    return message;
+}
+
+}  // namespace enginemessages
