@@ -1,4 +1,5 @@
 #include "workspace/program/ProgramStatements.h"
+#include "workspace/program/ProgramText.h"
 
 #include <gtest/gtest.h>
 
@@ -90,6 +91,41 @@ TEST(ProgramStatements, AreSplitAndClassified)
         }
         EXPECT_EQ(found, program.statements) << QStringView(program.text).toString().toStdString();
     }
+}
+
+TEST(ProgramText, ReproducesAView)
+{
+    programtext::View view{"/study/it's/ 1data-2024_x/1-AE.sas7bdat"};
+    view.datasetName = "1-Adverse Events";
+    view.libraryFilter = " where A = 1 ";
+    view.datasetFilter = "if 'b c'n = 2;";
+    view.byVariables = {"SEX", "ARM D"};
+    view.shownVariables = {"SEX", "gr\u00F6\u00DFe.2", QString(40, 'X')};
+    view.variableCount = 4;
+    EXPECT_EQ(programtext::of(view).toStdString(),
+              "/* Auto-generated SAS code for the current table view */\n"
+              "libname data_202 '/study/it''s/ 1data-2024_x';\n"
+              "\n"
+              "data work._adverse_events_view;\n"
+              "    set data_202._adverse_events;\n"
+              "    where A = 1;\n"
+              "    if 'b c'n = 2;\n"
+              "    by sex arm_d;\n"
+              "    keep sex gr\u00F6\u00DFe2 xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx;\n"
+              "run;");
+    view = {"/d/\u00A7.sav", {"/lib", "", "My Library"}, "99%"};
+    view.shownVariables = {"A"};
+    view.variableCount = 1;
+    EXPECT_EQ(programtext::of(view).toStdString(),
+              "/* Auto-generated SAS code for the current table view */\n"
+              "libname my_libra '/lib';\n"
+              "\n"
+              "data work.temp_view;\n"
+              "    set my_libra.temp;\n"
+              "run;");
+    view.library.alias = "ALIAS";
+    EXPECT_EQ(programtext::makeLibref(view.library, "/x"), "alias");
+    EXPECT_EQ(programtext::makeSasName("5", 3, "%9-a"), "_a");
 }
 
 }  // namespace

@@ -170,6 +170,15 @@ void StatementReader::add(const ProgramPiece& piece)
     const bool blank = text.trimmed().isEmpty();
     if (m_statement.text.isEmpty() && !blank) {
         m_statement.line = lineAt(piece.start);
+        m_statement.start = piece.start;
+    }
+    const bool isText =
+        piece.kind == ProgramPiece::Kind::Code || piece.kind == ProgramPiece::Kind::Quoted;
+    if (isText && !blank) {
+        m_statement.end = piece.start + piece.length;
+        while (m_program.at(m_statement.end - 1).isSpace()) {
+            --m_statement.end;
+        }
     }
     switch (piece.kind) {
     case ProgramPiece::Kind::Code:
@@ -236,7 +245,9 @@ void StatementReader::finishUnclosed(ProgramScanner::Place place, const ProgramP
     if (last.kind == ProgramPiece::Kind::Comment) {
         if (m_statement.text.trimmed().isEmpty()) {
             m_statement.line = lineAt(last.start);
+            m_statement.start = last.start;
         }
+        m_statement.end = last.start + last.length;
         addQuoted(m_program.mid(last.start, last.length));
     }
 }

@@ -22,6 +22,8 @@ struct ProgramStatement
     int line = 1;  ///< where it starts, from 1
     QString text;  ///< without comments and the semicolon; outside quotes single blanks
     QStringList names;
+    qsizetype start = 0;  ///< where it stands in the program, without the semicolon
+    qsizetype end = 0;
 };
 
 /// What of a SAS program the grid can carry out.
