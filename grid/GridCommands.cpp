@@ -66,7 +66,7 @@ constexpr Entry listed(const char* action, const char* description, Entry entry)
 template <CompareOp op>
 void filterBy(MainTableView& view)
 {
-    view.cellFilters().setOp(op);
+    view.setFilterOperator(op);
     view.cmdWhere();
 }
 

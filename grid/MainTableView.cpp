@@ -304,6 +304,12 @@ void MainTableView::report(const CommandOutcome& outcome)
     }
 }
 
+void MainTableView::setFilterOperator(CompareOp op)
+{
+    m_cellFilters.setOp(op);
+    emit signalFilterOperator();
+}
+
 void MainTableView::cmdWhere()
 {
     filter([this] { return m_cellFilters.compare(*this); });

@@ -38,6 +38,8 @@ public:
     void publishFilters();
 
     [[nodiscard]] CellFilters& cellFilters() { return m_cellFilters; }
+    /// Sets what the next quick filters compare by.
+    void setFilterOperator(CompareOp op);
     /// Changes what filters select under the wait cursor; what goes wrong is told by a signal.
     void filter(const std::function<CommandOutcome()>& apply);
     /// Runs a command as its key does.
@@ -72,6 +74,8 @@ signals:
     void signalShowDockCell();
     /// Asks for the window that shows the whole of the current row.
     void signalShowDockRow();
+    /// Quick filters compare by another operator.
+    void signalFilterOperator();
 
 public slots:
     /// Hides or shows a column as the dataset's bit says, which someone else has changed.

@@ -1,14 +1,33 @@
 #pragma once
 
-class GridServices;
+#include "workspace/program/ProgramStatements.h"
+
+#include <QString>
+
+#include <vector>
+
 class OpenDataset;
-class QString;
 
 /// Runs what of a SAS program an open dataset can carry out.
 namespace programrunner {
 
-/// Runs the statements in their order and stops at the first that fails, which is told. What the
-/// dataset does not know is passed over and stands in the log with its line.
-void run(const QString& program, OpenDataset& opened, GridServices& services);
+/// A statement that was not carried out, and why.
+struct Mark
+{
+    ProgramStatement statement;
+    QString message;
+    bool isWrong = true;  ///< and not only passed over
+};
+
+struct Report
+{
+    std::vector<Mark> marks;  ///< in the order of the program
+    bool hasRun = false;
+};
+
+/// Runs the statements, as often as is wanted with the same effect: a `where` that is in force
+/// passes, and all `if` statements together stand in the place of the dataset filter. What the
+/// dataset does not know is passed over. With a statement that is wrong nothing is run.
+[[nodiscard]] Report run(const QString& program, OpenDataset& opened);
 
 }  // namespace programrunner

@@ -1,14 +1,15 @@
 #include "app/dialogs/DataFilterDialog.h"
 
+#include "app/boxes/LongLineEdit.h"
+
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 DataFilterDialog::DataFilterDialog(const QString& condition, QWidget* parent)
     : QDialog(parent)
-    , m_condition(new QLineEdit(condition, this))
+    , m_condition(new LongLineEdit(this))
 {
     constexpr int comfortableWidth = 520;
     setWindowTitle(tr("Data Filter"));
@@ -16,6 +17,7 @@ DataFilterDialog::DataFilterDialog(const QString& condition, QWidget* parent)
     resize(comfortableWidth, sizeHint().height());
     auto* label = new QLabel(tr("Show the rows &where:"), this);
     label->setBuddy(m_condition);
+    m_condition->setWholeText(condition);
     m_condition->setClearButtonEnabled(true);
     m_condition->setPlaceholderText(tr("AGE > 60 and SEX = \"F\""));
     m_condition->selectAll();

@@ -2,7 +2,7 @@
 
 #include <QDialog>
 
-class QLineEdit;
+class LongLineEdit;
 
 /// Edits the condition of the dataset filter.
 class DataFilterDialog : public QDialog
@@ -16,5 +16,5 @@ public:
     [[nodiscard]] QString condition() const;
 
 private:
-    QLineEdit* m_condition;
+    LongLineEdit* m_condition;
 };

@@ -90,6 +90,27 @@ QStringList DialogPrompts::chooseDatasets(const QString& fileName, const QString
     return dialog.exec() == QDialog::Accepted ? dialog.chosen() : QStringList();
 }
 
+QString DialogPrompts::chooseSaveFile(const QString& title, const QString& path,
+                                      const QString& filters)
+{
+    return QFileDialog::getSaveFileName(m_parent, title, path, filters);
+}
+
+UserPrompts::Unsaved DialogPrompts::askToSave(const QString& title, const QString& question)
+{
+    PlainBox box(QMessageBox::Warning, title, question,
+                 QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_parent);
+    box.setDefaultButton(QMessageBox::Save);
+    switch (box.exec()) {
+    case QMessageBox::Save:
+        return Unsaved::Save;
+    case QMessageBox::Discard:
+        return Unsaved::Discard;
+    default:
+        return Unsaved::Cancel;
+    }
+}
+
 std::optional<QString> DialogPrompts::editDataFilter(const QString& condition)
 {
     DataFilterDialog dialog(condition, m_parent);

@@ -20,6 +20,9 @@ public:
                                           const QString& filters, const QString& filter) override;
     [[nodiscard]] QStringList chooseDatasets(const QString& fileName,
                                              const QStringList& names) override;
+    [[nodiscard]] QString chooseSaveFile(const QString& title, const QString& path,
+                                         const QString& filters) override;
+    [[nodiscard]] Unsaved askToSave(const QString& title, const QString& question) override;
     [[nodiscard]] std::optional<QString> editDataFilter(const QString& condition) override;
     [[nodiscard]] QString editOptions(const QString& uniqueVarName) override;
 

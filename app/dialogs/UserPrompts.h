@@ -9,6 +9,14 @@
 class UserPrompts
 {
 public:
+    /// What becomes of something that is not saved.
+    enum class Unsaved
+    {
+        Save,
+        Discard,
+        Cancel,  ///< it stays
+    };
+
     virtual ~UserPrompts() = default;
 
     /// Asks a question whose answers are Yes and No, No being what Return and Escape give.
@@ -35,6 +43,13 @@ public:
     /// @return  some of the names; none when the user cancels
     [[nodiscard]] virtual QStringList chooseDatasets(const QString& fileName,
                                                      const QStringList& names) = 0;
+    /// Lets the user name a file to write.
+    /// @param path  what is offered
+    /// @return      the path; empty when the user cancels
+    [[nodiscard]] virtual QString chooseSaveFile(const QString& title, const QString& path,
+                                                 const QString& filters) = 0;
+    /// Asks about something that is not saved, Save being what Return gives, and Cancel Escape.
+    [[nodiscard]] virtual Unsaved askToSave(const QString& title, const QString& question) = 0;
     /// Lets the user edit the condition of a dataset filter.
     /// @return  nothing when the user cancels
     [[nodiscard]] virtual std::optional<QString> editDataFilter(const QString& condition) = 0;

@@ -31,7 +31,9 @@ QSize ElidedLabel::sizeHint() const
 {
     // QLabel would lay out the whole text.
     const QMargins margins = contentsMargins();
-    const int whole = fontMetrics().horizontalAdvance(beginning(text(), 4 * widestInLetters));
+    constexpr int rounding = 2;  // an advance is rounded, what is elided is not
+    const int whole =
+        fontMetrics().horizontalAdvance(beginning(text(), 4 * widestInLetters)) + rounding;
     return {std::min(whole + margins.left() + margins.right(),
                      widestInLetters * fontMetrics().averageCharWidth()),
             fontMetrics().height() + margins.top() + margins.bottom()};

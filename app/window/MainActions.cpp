@@ -64,6 +64,10 @@ QList<QAction*> MainActions::readableKinds() const
 void MainActions::createFileActions()
 {
     newSasProgram = add("actionNewSasProgram", tr("New SAS Program"));
+    openSasProgram = add("actionOpenSasProgram", tr("Open SAS Program"));
+    saveSasProgram = add("actionSaveSasProgram", tr("Save SAS Program"));
+    saveSasProgram->setShortcuts(QKeySequence::Save);
+    saveSasProgramAs = add("actionSaveSasProgramAs", tr("Save SAS Program As"));
     close = add("actionClose", withNativeKeys(tr("Close\tCtrl+W")));
     close->setShortcut(Qt::CTRL | Qt::Key_W);
     closeAll = add("actionCloseAll", tr("Close All"));

@@ -40,6 +40,9 @@ public:
     QAction* openStataData = nullptr;
     QAction* openCsv = nullptr;
     QAction* newSasProgram = nullptr;
+    QAction* openSasProgram = nullptr;
+    QAction* saveSasProgram = nullptr;
+    QAction* saveSasProgramAs = nullptr;
     QAction* close = nullptr;
     QAction* closeAll = nullptr;
     QAction* exit = nullptr;

@@ -27,7 +27,8 @@ void MainMenus::fillFileMenu(const MainActions& actions)
     m_file->addSeparator();
     m_file->addActions({actions.openFolder, actions.manageLibraries, actions.saveSession});
     m_file->addSeparator();
-    m_file->addAction(actions.newSasProgram);
+    m_file->addActions({actions.newSasProgram, actions.openSasProgram, actions.saveSasProgram,
+                        actions.saveSasProgramAs});
     m_file->addSeparator();
     m_file->addActions({actions.reload, actions.close, actions.closeAll});
     m_file->addSeparator();

@@ -2,8 +2,7 @@
 
 #include "app/boxes/CommandBar.h"
 #include "app/boxes/CommandBoxes.h"
-#include "app/code/ProgramEditor.h"
-#include "app/code/ProgramRunner.h"
+#include "app/code/CodeWindow.h"
 #include "app/dialogs/DialogPrompts.h"
 #include "app/docks/CellDocks.h"
 #include "app/docks/DockWindows.h"
@@ -24,6 +23,7 @@
 #include "app/window/MainMenus.h"
 #include "app/window/MainToolBars.h"
 #include "app/window/Navigation.h"
+#include "app/window/OperatorLabel.h"
 #include "app/window/StatusCounters.h"
 #include "app/window/WindowArrangement.h"
 #include "grid/MainTableView.h"
@@ -93,6 +93,8 @@ void MainWindow::createServices(MainWindowServices services)
         services.prompts ? std::move(services.prompts) : std::make_unique<DialogPrompts>(this);
     m_openUrl = services.openUrl ? std::move(services.openUrl) : &QDesktopServices::openUrl;
     statusBar()->setObjectName(QStringLiteral("statusbar"));
+    m_operator = new OperatorLabel(statusBar());
+    statusBar()->addPermanentWidget(m_operator);
     m_counters = std::make_unique<StatusCounters>(statusBar());
     m_gridServices = std::make_unique<GridServices>(*m_prompts, *statusBar());
     m_recentFiles = std::make_unique<RecentFiles>(*m_settings);
@@ -173,9 +175,9 @@ void MainWindow::fillDocks()
     m_docks->workspace()->setWidget(workspace);
     m_navigation = new Navigation(*this, *m_actions, *workspace->model());
     connect(m_navigation, &Navigation::signalFileChosen, this, &MainWindow::openDatasetFile);
-    m_program = new ProgramEditor(m_docks->code());
-    m_docks->code()->setWidget(m_program);
-    connect(m_program, &ProgramEditor::signalLeft, this, &MainWindow::handleTabSwitch);
+    m_code = new CodeWindow(*m_gridServices, *m_prompts, *m_settings, m_docks->code());
+    m_docks->code()->setWidget(m_code);
+    connect(m_code, &CodeWindow::signalLeft, this, &MainWindow::handleTabSwitch);
     m_docks->log()->setWidget(new LogView(spdlog::default_logger(), m_docks->log()));
     auto* output = new QPlainTextEdit(m_docks->output());
     output->setObjectName(QStringLiteral("textOutput"));
@@ -207,6 +209,12 @@ void MainWindow::connectActions()
     run(m_actions->openStataData, &MainWindow::on_actionOpenStataData_triggered);
     run(m_actions->openCsv, &MainWindow::on_actionOpenCsv_triggered);
     run(m_actions->newSasProgram, &MainWindow::on_actionNewSasProgram_triggered);
+    connect(m_actions->openSasProgram, &QAction::triggered, this, [this] {
+        m_arrangement->show(*m_docks->code());
+        m_code->openPrograms();
+    });
+    connect(m_actions->saveSasProgram, &QAction::triggered, m_code, &CodeWindow::save);
+    connect(m_actions->saveSasProgramAs, &QAction::triggered, m_code, &CodeWindow::saveAs);
     run(m_actions->close, &MainWindow::on_actionClose_triggered);
     run(m_actions->closeAll, &MainWindow::on_actionCloseAll_triggered);
     run(m_actions->exit, &MainWindow::on_actionExit_triggered);
@@ -309,6 +317,8 @@ void MainWindow::activeWindow(QMdiSubWindow* window)
     connectGrid(m_activeView);
     m_boxes->setGrid(m_activeView);
     m_navigation->setGrid(m_activeView);
+    m_operator->follow(m_activeView);
+    generateSasCode(m_activeView);
     setWindowTitle(active->mainTitle());
     m_cellDocks->follow(m_activeView);
     m_docks->showTitlesOf(active->datasetName());
@@ -326,6 +336,8 @@ void MainWindow::subWindowClosed(DatasetWindow* closedWindow)
         m_boxes->setGrid(nullptr);
         m_navigation->setGrid(nullptr);
         m_cellDocks->follow(nullptr);
+        m_operator->follow(nullptr);
+        generateSasCode();
     }
     showWhatIsOpen();
 }
@@ -464,14 +476,8 @@ void MainWindow::on_actionOpenCsv_triggered()
 
 void MainWindow::on_actionNewSasProgram_triggered()
 {
-    const bool isEmpty = m_program->toPlainText().trimmed().isEmpty();
-    if (isEmpty
-        || m_prompts->confirm(tr("New SAS Program"),
-                              tr("The program in the Code window will be cleared. Go on?"))) {
-        m_program->clear();
-    }
     m_arrangement->show(*m_docks->code());
-    m_program->setFocus();
+    m_code->addProgram();
 }
 
 void MainWindow::on_actionClose_triggered()
@@ -547,8 +553,19 @@ void MainWindow::editDataFilter()
 
 void MainWindow::submitProgram()
 {
-    if (m_activeView != nullptr) {
-        programrunner::run(m_program->toPlainText(), *m_activeView->opened(), *m_gridServices);
+    m_code->submit();
+}
+
+/// Writes the program of a grid, or of the active one.
+void MainWindow::generateSasCode(MainTableView* view)
+{
+    MainTableView* grid = view == nullptr ? activeView() : view;
+    const auto* shown =
+        grid == nullptr ? nullptr : qobject_cast<DatasetWindow*>(grid->parentWidget());
+    if (shown == nullptr) {
+        m_code->follow(nullptr, {}, {});
+    } else {
+        m_code->follow(grid, shown->property("filePath").toString(), shown->datasetName());
     }
 }
 
@@ -556,6 +573,10 @@ void MainWindow::submitProgram()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    if (!m_code->mayGo()) {
+        event->ignore();
+        return;
+    }
     if (m_store != nullptr) {
         m_arrangement->save();
     }

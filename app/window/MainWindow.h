@@ -9,6 +9,7 @@
 #include <memory>
 
 class CellDocks;
+class CodeWindow;
 class CommandBoxes;
 class DatasetWindow;
 class DatasetsArea;
@@ -20,7 +21,7 @@ class MainMenus;
 class MainTableView;
 class MainToolBars;
 class Navigation;
-class ProgramEditor;
+class OperatorLabel;
 class QAbstractButton;
 class QAction;
 class QMdiSubWindow;
@@ -103,6 +104,7 @@ public slots:  // NOLINT(readability-redundant-access-specifiers): moc reads it
     void updateStatus();
     void editDataFilter();
     void submitProgram();
+    void generateSasCode(MainTableView* view = nullptr);
     void toggleDarkMode();
 
 protected:
@@ -146,7 +148,8 @@ private:
     Navigation* m_navigation = nullptr;
     DatasetsArea* m_area = nullptr;
     DatasetOpener* m_opener = nullptr;
-    ProgramEditor* m_program = nullptr;
+    CodeWindow* m_code = nullptr;
+    OperatorLabel* m_operator = nullptr;
     UpdateCheck* m_updateCheck = nullptr;
     QPointer<MainTableView> m_activeView;
     bool m_isArranged = false;  ///< whether the window has been shown with its layout

@@ -22,8 +22,7 @@ void LibraryFilter::leave(OpenDataset& dataset)
 void LibraryFilter::set(const ParsedCondition& condition, OpenDataset* origin)
 {
     if (m_condition) {
-        throw ParseError("Library Filter supports one level only. "
-                         "Please clear library filter first.");
+        throw ParseError(oneLevelOnly);
     }
     replace(condition, origin);
 }

@@ -17,6 +17,10 @@ class OpenDataset;
 class LibraryFilter
 {
 public:
+    /// What is said to a second filter.
+    static constexpr const char* oneLevelOnly =
+        "Library Filter supports one level only. Please clear library filter first.";
+
     LibraryFilter() = default;
     LibraryFilter(const LibraryFilter&) = delete;
     LibraryFilter& operator=(const LibraryFilter&) = delete;

@@ -1,14 +1,18 @@
+#include "app/code/ProgramEditor.h"
 #include "data/values/MissingTag.h"
 #include "tests/support/WindowFixture.h"
 
 #include <QClipboard>
 #include <QFocusEvent>
 #include <QHelpEvent>
+#include <QStatusBar>
+#include <QTabWidget>
 #include <QToolTip>
 #include <QWheelEvent>
 
 #include <array>
 #include <functional>
+#include <tuple>
 
 /// How grids, boxes, programs and status bar of a main window work together.
 class TestGridsInWindow : public QObject, private WindowFixture
@@ -25,6 +29,9 @@ private slots:
     void dataFilterReplacesTheDatasetFilter();
     void programRunsOnTheActiveGrid();
     void currentCellIsToldWholeAndAsItIsStored();
+    void programThatIsWrongRunsNothingAndIsMarked();
+    void programOfTheActiveGridIsWritten();
+    void operatorInForceIsTold();
     void longFiltersLeaveTheWindowItsSize();
 
 private:
@@ -34,10 +41,20 @@ private:
     {
         return child<QComboBox>(box)->lineEdit();
     }
-    void runProgram(const QString& program) const
+    [[nodiscard]] QTabWidget& code() const
     {
-        child<QPlainTextEdit>("programEditor")->setPlainText(program);
+        return *qobject_cast<QTabWidget*>(dock("Code")->widget());
+    }
+    /// Runs a program in a tab of its own.
+    ProgramEditor* runProgram(const QString& program) const
+    {
+        if (code().count() == 1) {
+            trigger("actionNewSasProgram");
+        }
+        auto* editor = qobject_cast<ProgramEditor*>(code().currentWidget());
+        editor->setPlainText(program);
         trigger("actionSubmit");
+        return editor;
     }
 };
 
@@ -229,20 +246,29 @@ void TestGridsInWindow::programRunsOnTheActiveGrid()
 {
     open("dm");
     (void)log->take();  // what was said before
-    runProgram("libname adam '/data'; * comment;\ndata a; set adam.dm;\n"
-               "  where sex\n = 'F';\n  proc print;\nby AGE; keep sex; run;\n");
-    QCOMPARE(status().mid(0, 3), QStringList({"Rows: 2/3", "Vars: 1/2", "By: AGE"}));
-    QCOMPARE(log->take(), "warning: Line 5: this statement is passed over: proc print\n");
+    const QString program = "libname adam '/data'; * comment;\ndata a; set adam.dm;\n"
+                            "  where sex\n = 'F';\n  proc print;\nif AGE > -1.5e1; by 'AGE'n;\n"
+                            "if sex='F' or age=30; keep sex; run;\n";
+    const ProgramEditor* editor = runProgram(program);
+    const QString filter = "if AGE > -1.5e1 and (sex = 'F' or age = 30)";
+    QCOMPARE(
+        status(),
+        QStringList({"Rows: 2/3", "Vars: 1/2", "By: AGE", "LF: where sex = 'F'", "DF: " + filter}));
+    QVERIFY(
+        log->take().starts_with("warning: Line 5: this statement is passed over: proc print\n"));
+    QCOMPARE(window->statusBar()->currentMessage(), "Run on dm, with 1 statement(s) passed over.");
+    QCOMPARE(editor->extraSelections().size(), 1);
+    QCOMPARE(editor->extraSelections().front().cursor.selectedText(), "proc print");
 
-    open("dm2");
-    runProgram("if AGE > -1.5e1;\nkeep NOSUCH;\ndrop SEX;\n");
-    QCOMPARE(boxText("comboBoxDf"), "if AGE > -1.5e1");
-    QCOMPARE(status().at(1), "Vars: 2/2");
-    QVERIFY(notes().join('\n').contains("NOSUCH"));
-    QVERIFY(log->take().ends_with("error: Line 2: the program has stopped here: keep NOSUCH\n"));
-    runProgram("by AGE NOSUCH; drop SEX;");
-    QCOMPARE(status().at(1), "Vars: 2/2");
-    QCOMPARE(notes().size(), 1);
+    // Run again it changes nothing; in the place of another filter it stands in one step.
+    runProgram(program);
+    view().run(GridCommand::UndoDatasetFilter);
+    QCOMPARE(status().at(4), "DF: NA");
+    submitDf("AGE > 1");
+    runProgram(program);
+    QCOMPARE(status().at(4), "DF: " + filter);
+    QTest::keyClick(&view(), Qt::Key_Z);
+    QCOMPARE(status().at(4), "DF: if AGE > 1");
     (void)log->take();
 }
 
@@ -291,6 +317,68 @@ void TestGridsInWindow::currentCellIsToldWholeAndAsItIsStored()
     QCOMPARE(QGuiApplication::clipboard()->text(), "TEXT\nplain text");
 }
 
+void TestGridsInWindow::programThatIsWrongRunsNothingAndIsMarked()
+{
+    open("dm");
+    for (const auto& [program, message, wrong] :
+         {std::tuple("by AGE;\nif SEX = 'F';\n keep NOSUCH ;\n",
+                     "Line 3: There is no variable named NOSUCH", "keep NOSUCH"),
+          {"keep AGE; by AGE SEXX;", "Line 1: There is no variable named SEXX", "by AGE SEXX"},
+          {"keep AGE;\nwhere AGE = 'x';", "Line 2: The variable types do not match.",
+           "where AGE = 'x'"},
+          {"where AGE > 1;\nwhere AGE > 2;\n", "Line 2: Library Filter supports one level only.",
+           "where AGE > 2"},
+          {"drop AGE;\nkeep 'SEX;", "Line 2: A quote or comment is not closed.", "keep 'SEX;"}}) {
+        ProgramEditor* editor = runProgram(program);
+        QCOMPARE(status(), QStringList({"Rows: 3/3", "Vars: 2/2", "By: NA", "LF: NA", "DF: NA"}));
+        const QString told = window->statusBar()->currentMessage();
+        QVERIFY2(told.startsWith(QString("Nothing has been run. ") + message), qPrintable(told));
+        QCOMPARE(editor->extraSelections().front().cursor.selectedText(), wrong);
+        editor->textCursor().insertText(" ");
+        QVERIFY(editor->extraSelections().isEmpty());
+    }
+    (void)log->take();
+}
+
+void TestGridsInWindow::programOfTheActiveGridIsWritten()
+{
+    open("dm");
+    auto* generated = child<ProgramEditor>("programWindow");
+    submitDf("AGE > 30");
+    submit("comboBoxBy", "SEX");
+    QTest::keyClick(&view(), Qt::Key_H);
+    QVERIFY(
+        generated->toPlainText().endsWith("    if AGE > 30;\n    by sex;\n    keep age;\nrun;"));
+    ProgramEditor* typed = runProgram("by AGE;");
+    QVERIFY(generated->toPlainText().contains("    by age;\n"));
+    QCOMPARE(typed->toPlainText(), "by AGE;");
+    code().setCurrentIndex(0);
+    trigger("actionSubmit");  // what is in force anyway
+    QCOMPARE(status(),
+             QStringList({"Rows: 2/3", "Vars: 1/2", "By: AGE", "LF: NA", "DF: if AGE > 30"}));
+    open("ts");
+    QVERIFY(generated->toPlainText().contains("data work.ts_view;"));
+    trigger("actionCloseAll");
+    QCOMPARE(generated->toPlainText(), "");
+}
+
+void TestGridsInWindow::operatorInForceIsTold()
+{
+    const auto* label = child<QLabel>("labelStatusBarOperator");
+    QVERIFY(!label->isVisible());
+    open("dm");
+    QTest::keyClick(&view(), Qt::Key_Greater);
+    open("dm2");
+    QCOMPARE(label->text(), "Key d: =");
+    activate(0);
+    QCOMPARE(label->text(), "Key d: >");
+    QTest::keyClick(&view(), Qt::Key_D);
+    QTest::keyClick(&view(), Qt::Key_Less, Qt::AltModifier);
+    QCOMPARE(label->text(), "Key d: <=");
+    trigger("actionCloseAll");
+    QVERIFY(!label->isVisible());
+}
+
 void TestGridsInWindow::longFiltersLeaveTheWindowItsSize()
 {
     const auto toolTip = [](QLabel& label) {
@@ -304,8 +392,11 @@ void TestGridsInWindow::longFiltersLeaveTheWindowItsSize()
     QCoreApplication::sendPostedEvents();
     QCOMPARE(window->width(), 700);
     QVERIFY(window->minimumSizeHint().width() <= 700);
+    submitDf("if AGE in (30" + QString(", 50").repeated(20'000) + ")");
+    QCOMPARE(rows(), "Rows: 1/3");
+    QCOMPARE(boxText("comboBoxDf"), view().opened()->datasetFilterText());
     auto* label = child<QLabel>("labelStatusBarDf");
-    QCOMPARE(toolTip(*label), label->text());
+    QVERIFY(label->text().startsWith(toolTip(*label).chopped(1)));
     window->resize(1600, 500);
     submitDf("cdf");
     QTRY_VERIFY(label->width() >= label->sizeHint().width());

@@ -15,6 +15,7 @@
 #include <QSettings>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QToolBar>
 
 /// The main window: which files it opens and closes, its docks and looks, and what it remembers.
@@ -44,6 +45,7 @@ private slots:
     void whatIsSetIsKeptForTheNextStart();
     void damagedSettingsGiveWayToTheUsualOnes();
     void withoutAWorkspaceTheProgramEnds();
+    void programsAreKeptUntilTheyAreSavedOrGivenUp();
     void actionsDoWhatTheySay();
 
 private:
@@ -530,6 +532,47 @@ void TestMainWindow::withoutAWorkspaceTheProgramEnds()
     QVERIFY(!QSettings(other + "/settings.ini", QSettings::IniFormat).contains("state"));
 }
 
+void TestMainWindow::programsAreKeptUntilTheyAreSavedOrGivenUp()
+{
+    const auto editors = [this] { return window->findChildren<QPlainTextEdit*>("programEditor"); };
+    trigger("actionNewSasProgram");
+    QVERIFY(editors().front()->isVisible() && editors().front()->hasFocus());
+    QTest::keyClicks(editors().front(), "keep A;");
+    trigger("actionNewSasProgram");
+    QTest::keyClicks(editors().back(), "drop B;");
+    auto* tabs = qobject_cast<QTabWidget*>(dock("Code")->widget());
+    QCOMPARE(tabs->tabText(2), "Untitled 2*");
+    trigger("actionExit");  // which is cancelled
+    QVERIFY(window->isVisible());
+    QCOMPARE(notes().size(), 1);
+    script.unsaved = UserPrompts::Unsaved::Save;
+    emit tabs->tabCloseRequested(2);  // and no file named
+    QCOMPARE(tabs->count(), 3);
+    script.savePath = path("b.sas");
+    trigger("actionSaveSasProgram");
+    QCOMPARE(tabs->tabText(2), "b.sas");
+    QTest::keyClicks(editors().back(), "C");
+    QTest::keyClick(editors().back(), Qt::Key_S, Qt::ControlModifier);
+    notes();
+    emit tabs->tabCloseRequested(2);
+    QCOMPARE(notes(), QStringList());
+    script.chosenFiles = {path("b.sas"), path("absent.sas")};
+    trigger("actionOpenSasProgram");
+    QCOMPARE(tabs->tabText(2), "b.sas");
+    QCOMPARE(qobject_cast<QPlainTextEdit*>(tabs->widget(2))->toPlainText(), "drop B;C");
+    QVERIFY(notes().last().startsWith("warn|Open SAS Program|Failed to open the file: "));
+    emit tabs->tabCloseRequested(0);
+    QCOMPARE(tabs->count(), 3);
+    script.savePath = path("no/such/folder");
+    trigger("actionExit");
+    QVERIFY(window->isVisible());
+    QVERIFY(notes().last().startsWith("warn|Save SAS Program|Failed to save the file: "));
+    script.unsaved = UserPrompts::Unsaved::Discard;
+    trigger("actionExit");
+    QVERIFY(!window->isVisible());
+    QCOMPARE(notes().size(), 1);
+}
+
 void TestMainWindow::actionsDoWhatTheySay()
 {
     trigger("actionDocumentation");
@@ -541,16 +584,6 @@ void TestMainWindow::actionsDoWhatTheySay()
     trigger("actionAbout");
     QVERIFY(notes().join('\n').startsWith("inform|About Quorlane|"));
 
-    auto* editor = child<QPlainTextEdit>("programEditor");
-    trigger("actionNewSasProgram");
-    QVERIFY(editor->isVisible() && editor->hasFocus());
-    editor->setPlainText("keep A;");
-    for (const bool isWanted : {false, true}) {
-        script.confirmation = isWanted;
-        trigger("actionNewSasProgram");
-        QCOMPARE(notes().size(), 1);
-        QCOMPARE(editor->toPlainText(), isWanted ? "" : "keep A;");
-    }
     for (const QToolBar* bar : window->findChildren<QToolBar*>()) {
         for (const QAction* action : bar->actions()) {
             QVERIFY(action->objectName().isEmpty() || !action->icon().isNull());

@@ -213,6 +213,9 @@ void TestWindowSequences::boxStep()
         script.dataFilter = oneOf({"AGE > 35", "SEX = 'M'", "", "AGE >"});
         trigger("actionEditDataFilter");
     } else {
+        if (child<QPlainTextEdit>("programEditor") == nullptr) {
+            trigger("actionNewSasProgram");
+        }
         child<QPlainTextEdit>("programEditor")
             ->setPlainText(oneOf({"if AGE > -1; keep AGE;", "by SEX; drop SEX; x;"}));
         trigger("actionSubmit");

@@ -19,6 +19,8 @@ public:
         QStringList chosenFiles{};
         QStringList chosenDatasets{};
         std::optional<QString> dataFilter{};  ///< once; then the user cancels
+        QString savePath{};
+        Unsaved unsaved = Unsaved::Cancel;
         QString uniqueVarName{};  ///< kept as it is when empty
         QStringList notes{};  ///< one line "kind|title|text|..." for each prompt, in order
     };
@@ -63,6 +65,17 @@ public:
     {
         m_script.notes << QStringList({"datasets", fileName, names.join(' ')}).join('|');
         return m_script.chosenDatasets;
+    }
+    [[nodiscard]] QString chooseSaveFile(const QString& title, const QString& path,
+                                         const QString& filters) override
+    {
+        m_script.notes << QStringList({"save", title, path, filters}).join('|');
+        return m_script.savePath;
+    }
+    [[nodiscard]] Unsaved askToSave(const QString& title, const QString& question) override
+    {
+        m_script.notes << QStringList({"unsaved", title, question}).join('|');
+        return m_script.unsaved;
     }
     [[nodiscard]] std::optional<QString> editDataFilter(const QString& condition) override
     {
