@@ -388,6 +388,8 @@ void TestMainWindow::reloadKeepsWhatTheUserHasMade()
     QVERIFY(notes().join('\n').startsWith("warn|Open File|"));
     QCOMPARE(active(), last);
     QCOMPARE(window->openFiles().find(file), last);
+    replace();
+    QTRY_COMPARE(titles().at(0), "dm.xpt - changed on disk");
 }
 
 void TestMainWindow::whatMayBeDamagedIsToldAboveTheGrid()

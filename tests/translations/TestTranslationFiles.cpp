@@ -124,7 +124,7 @@ QStringList messagesOf(const QString& source)
 {
     // A text behind one of these, in one or several pieces.
     static const QRegularExpression message(
-        R"rx((?:ParseError\(|Failure\{|refuse\(|DamageNote\(|m_refusal = |variable\(|fail\(|)rx"
+        R"rx((?:ParseError\(|Failure\{|refuse\(|DamageNote\(|m_refusal = |variable\(|fail\(|damage = |isCut \? |_back\(|)rx"
         R"rx((?:take|copy|literal)\([\w:]+, |return)\s*(?:fmt::format\(\s*)?)rx"
         R"rx(((?:"(?:[^"\\]|\\.)*"\s*)+))rx");
     static const QRegularExpression seam(R"("\s*")");
