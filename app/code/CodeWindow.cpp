@@ -160,8 +160,10 @@ void CodeWindow::addProgram()
 
 void CodeWindow::openPrograms()
 {
+    const QString patterns = filePatterns();
     const QStringList paths =
-        m_prompts.chooseFiles(tr("Open SAS Program"), m_settings.lastFolder(), filePatterns());
+        m_prompts.chooseFiles(tr("Open SAS Program"), m_settings.lastFolder(), patterns,
+                              patterns.section(QStringLiteral(";;"), 0, 0));
     for (const QString& path : paths) {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly)) {
