@@ -79,20 +79,20 @@ std::string upperCased(std::string_view text)
     return upper;
 }
 
-/// The first variable of that name, or -1.
-int idVariable(const StatDataset& dataset, std::string_view uniqueVarName)
+}  // namespace
+
+namespace frequencies {
+
+std::optional<int> idVariable(const StatDataset& dataset, std::string_view uniqueVarName)
 {
     const std::string wanted = upperCased(uniqueVarName);
     const auto& names = dataset.names();
     const auto found = std::find_if(names.begin(), names.end(), [&](const std::string& name) {
         return upperCased(name) == wanted;
     });
-    return found == names.end() ? -1 : static_cast<int>(found - names.begin());
+    return found == names.end() ? std::nullopt
+                                : std::optional(static_cast<int>(found - names.begin()));
 }
-
-}  // namespace
-
-namespace frequencies {
 
 std::vector<WordsAndCounts> plain(const StatDataset& dataset, std::span<const int> variables)
 {
@@ -103,13 +103,13 @@ std::vector<WordsAndCounts> plain(const StatDataset& dataset, std::span<const in
 std::vector<WordsAndCounts> distinctIds(const StatDataset& dataset, std::span<const int> variables,
                                         std::string_view uniqueVarName)
 {
-    const int id = idVariable(dataset, uniqueVarName);
-    if (id < 0) {
+    const std::optional<int> id = idVariable(dataset, uniqueVarName);
+    if (!id) {
         return plain(dataset, variables);
     }
     const Numbers rows = selectedObservations(dataset);
     const RowGroups groups(dataset, variables, rows);
-    return resultsOf(groups, subjectsInGroups(groups, subjectsOf(dataset, id, rows)),
+    return resultsOf(groups, subjectsInGroups(groups, subjectsOf(dataset, *id, rows)),
                      NaNs::AsNumbers);
 }
 

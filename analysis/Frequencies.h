@@ -3,6 +3,7 @@
 #include "data/StatDataset.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -33,15 +34,29 @@ namespace frequencies {
 [[nodiscard]] std::vector<WordsAndCounts> plain(const StatDataset& dataset,
                                                 std::span<const int> variables);
 
+/// The first variable of that name, in any case of its ASCII letters.
+[[nodiscard]] std::optional<int> idVariable(const StatDataset& dataset,
+                                            std::string_view uniqueVarName);
+
 /// How many distinct subjects have each combination. NaN is a number here, not missing.
-/// @param uniqueVarName  the variable that identifies a subject, in any case of its ASCII letters,
-///                       the first of that name; where there is none, observations are counted as
-///                       plain() does
+/// @param variables      without any, all subjects are counted, unless there is no observation
+/// @param uniqueVarName  the variable that identifies a subject, as idVariable() finds it; where
+///                       there is none, observations are counted as plain() does
 /// Subjects differ when their stored texts do. A numeric variable has no stored text: there the
 /// texts that the cells show stand in.
 [[nodiscard]] std::vector<WordsAndCounts> distinctIds(const StatDataset& dataset,
                                                       std::span<const int> variables,
                                                       std::string_view uniqueVarName);
+
+/// Numbers that sort the results by one column of their list: where one is less than another, its
+/// row comes before the other's. Numbers of a variable order as such, NaN below all, and everything
+/// else by the texts of the list, counts too: 10 comes before 9. Where numbers and missing values
+/// meet, the missing ones stand together.
+/// @param column  a place among the variables, or the one behind them for the counts
+[[nodiscard]] std::vector<std::uint64_t> sortKeys(const StatDataset& dataset,
+                                                  std::span<const WordsAndCounts> results,
+                                                  std::span<const int> variables,
+                                                  std::size_t column);
 
 /// The text that stands for a value of the variable in lists of frequencies.
 /// Throws std::bad_variant_access when a character variable comes with something else than a text.

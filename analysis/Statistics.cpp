@@ -4,6 +4,8 @@
 #include "analysis/RowGroups.h"
 #include "data/cells/ValueKey.h"
 
+#include <fmt/format.h>
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -103,10 +105,10 @@ const std::string& nameOf(const StatDataset& dataset, int variable)
     return dataset.names().at(static_cast<std::size_t>(variable));
 }
 
-Table wholeTable(const std::string& name, const Summary& summary)
+Table wholeTable(const std::string& name, std::span<const double> sample)
 {
-    Table table{{name, "Value"}, {}};
-    const auto texts = textsOf(summary);
+    Table table{{name, "Value"}, {}, {distributionOf(sample)}};
+    const auto texts = textsOf(summarise(sample));
     for (std::size_t i = 0; i < labels.size(); ++i) {
         table.rows.push_back({labels[i], texts[i]});
     }
@@ -129,8 +131,12 @@ Table groupedTable(const StatDataset& dataset, std::span<const int> byVariables,
             row.push_back(textOf(groups.values()[i], ranks[i]));
         }
         const std::uint32_t group = groups.inOrder()[position];
-        const auto texts =
-            textsOf(summarise(samples.subspan(starts[group], groups.sizes()[group])));
+        const auto sample = samples.subspan(starts[group], groups.sizes()[group]);
+        if (position < mostDrawn) {
+            table.drawn.push_back(distributionOf(sample));
+            table.drawn.back().label = fmt::format("{}", fmt::join(row, ", "));
+        }
+        const auto texts = textsOf(summarise(sample));
         row.insert(row.end(), texts.begin(), texts.end());
     }
     return table;
@@ -156,7 +162,7 @@ std::variant<Table, Problem> describe(const StatDataset& dataset,
     const RowGroups groups(dataset, byVariables, rows);
     const std::vector<double> samples = samplesOf(dataset, variable, groups, rows);
     if (byVariables.empty()) {
-        return wholeTable(nameOf(dataset, variable), summarise(samples));
+        return wholeTable(nameOf(dataset, variable), samples);
     }
     return groupedTable(dataset, byVariables, groups, samples);
 }

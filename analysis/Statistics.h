@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/Distribution.h"
 #include "data/StatDataset.h"
 
 #include <span>
@@ -22,11 +23,15 @@ enum class Problem
     NoData,
 };
 
+/// How many groups are drawn.
+inline constexpr std::size_t mostDrawn = 12;
+
 /// The statistics as texts: a header and lines of as many cells.
 struct Table
 {
     std::vector<std::string> header;
     std::vector<std::vector<std::string>> rows;
+    std::vector<Distribution> drawn;  ///< of the whole, or of the first groups
 };
 
 /// Describes the first of the selected variables. The standard deviation is that of the sample,

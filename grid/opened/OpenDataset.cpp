@@ -242,19 +242,40 @@ void OpenDataset::followLibraryFilter(const std::optional<ParsedCondition>& cond
 void OpenDataset::setShown(std::span<const int> variables, bool shown)
 {
     m_variables.setShown(variables, shown);
-    emit signalVariablesChanged();
+    tellVariables();
 }
 
 void OpenDataset::showAllVariables()
 {
     m_variables.showAll();
-    emit signalVariablesChanged();
+    tellVariables();
 }
 
 void OpenDataset::showOnlyVariables(std::span<const int> variables)
 {
     m_variables.showOnly(variables);
-    emit signalVariablesChanged();
+    tellVariables();
+}
+
+void OpenDataset::tellVariables()
+{
+    m_hasUntoldVariables = m_variablesBatches > 0;
+    if (!m_hasUntoldVariables) {
+        emit signalVariablesChanged();
+    }
+}
+
+OpenDataset::VariablesBatch::VariablesBatch(OpenDataset& opened)
+    : m_opened(opened)
+{
+    ++m_opened.m_variablesBatches;
+}
+
+OpenDataset::VariablesBatch::~VariablesBatch()
+{
+    if (--m_opened.m_variablesBatches == 0 && m_opened.m_hasUntoldVariables) {
+        m_opened.tellVariables();
+    }
 }
 
 bool OpenDataset::shiftVariable(int variable, int step)
@@ -363,6 +384,16 @@ std::vector<WordsAndCounts> OpenDataset::frequenciesOf(std::span<const int> vari
     return frequencyN
         ? frequencies::distinctIds(m_dataset, variables, uniqueVarName().toStdString())
         : frequencies::plain(m_dataset, variables);
+}
+
+std::optional<std::int64_t> OpenDataset::subjectCount() const
+{
+    const auto id = frequencies::idVariable(m_dataset, uniqueVarName().toStdString());
+    if (!id) {
+        return std::nullopt;
+    }
+    const auto counted = frequencies::distinctIds(m_dataset, {}, uniqueVarName().toStdString());
+    return counted.empty() ? 0 : counted.front().count;
 }
 
 std::variant<statistics::Table, statistics::Problem>

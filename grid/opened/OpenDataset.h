@@ -44,6 +44,21 @@ public:
         Dataset = 0,
         Library = 1,
     };
+
+    /// Holds the word of changed variables back until its end, so that thousands of changes are one
+    /// for whoever follows.
+    class VariablesBatch
+    {
+    public:
+        explicit VariablesBatch(OpenDataset& opened);
+        ~VariablesBatch();
+        VariablesBatch(const VariablesBatch&) = delete;
+        VariablesBatch& operator=(const VariablesBatch&) = delete;
+
+    private:
+        OpenDataset& m_opened;
+    };
+
     /// @param dataset  outlives this object
     /// @param shared   outlives this object; without it this dataset has it all for itself
     explicit OpenDataset(StatDataset& dataset, OpenDatasets* shared = nullptr,
@@ -132,6 +147,8 @@ public:
     /// How often each combination of values occurs, or how many distinct subjects have it.
     [[nodiscard]] std::vector<WordsAndCounts> frequenciesOf(std::span<const int> variables,
                                                             bool frequencyN) const;
+    /// How many distinct subjects there are; nothing where no variable identifies them.
+    [[nodiscard]] std::optional<std::int64_t> subjectCount() const;
     /// The statistics of the first variable, by the BY list.
     [[nodiscard]] std::variant<statistics::Table, statistics::Problem>
     statisticsOf(std::span<const int> variables) const;
@@ -179,6 +196,7 @@ private:
     void act(const Command::SetLibraryFilter& action, InForce inForce);
     void act(const Command::AddDatasetFilter& action, InForce inForce);
     void restoreFilters(const ViewState& state);
+    void tellVariables();
     [[nodiscard]] std::vector<int> numbersOf(std::span<const std::string> names) const;
 
     StatDataset& m_dataset;
@@ -187,6 +205,8 @@ private:
     FilterState m_filters;
     QString m_libraryFilterProblem;
     ShownVariables m_variables;
+    int m_variablesBatches = 0;
+    bool m_hasUntoldVariables = false;
     std::vector<std::string> m_byVariables;
     SortKeys m_sortKeys;
     std::vector<std::uint32_t> m_rowMap;

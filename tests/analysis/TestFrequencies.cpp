@@ -6,7 +6,9 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
+#include <numeric>
 #include <optional>
 #include <set>
 
@@ -221,6 +223,55 @@ TEST(Frequencies, showValuesByTheFormatOfTheirVariable)
     } padding;
     padding.variable("N", TypeCode::Double);
     EXPECT_EQ(frequencies::displayText(padding, 0, 7.0), "7");
+}
+
+/// The lines in the order of a column's sort keys.
+Lines sorted(const StatDataset& dataset, const Variables& variables, std::size_t column)
+{
+    const auto results = frequencies::plain(dataset, variables);
+    const auto keys = frequencies::sortKeys(dataset, results, variables, column);
+    std::vector<std::size_t> order(results.size());
+    std::iota(order.begin(), order.end(), 0U);
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return keys.at(a) < keys.at(b); });
+    Lines sorted;
+    for (const std::size_t place : order) {
+        sorted.push_back(lines(results).at(place));
+    }
+    return sorted;
+}
+
+TEST(Frequencies, areSortedByNumbersAndOtherwiseByTheirTexts)
+{
+    class : public ScriptedDataset
+    {
+        [[nodiscard]] std::string formatNumeric(double number, std::string_view format, int,
+                                                int) const override
+        {
+            return format.empty() ? fmt::format("{}", number) : number < 9 ? "Friday" : "Sunday";
+        }
+
+    public:
+        void format() { m_formats[1] = "DAY"; }
+    } dataset;
+    dataset.variable("T", TypeCode::Character).variable("N", TypeCode::Double);
+    for (int i = 0; i < 10; ++i) {
+        dataset.row({"b", 10.0});
+    }
+    dataset.row({"a", 9.0}).row({"", -0.0}).row({"b", missing}).row({"B", missing});
+    dataset.row({"a", 9.0}).row({"", 0.0}).row({"b", -5.0}).row({"c", -5.0});
+    const Lines byNumber{"\"b\",-5:1", "\"c\",-5:1", "\"\",0:2", "\"a\",9:2", "\"b\",10:10"};
+    Lines missingLast = byNumber;
+    missingLast.insert(missingLast.end(), {"\"B\",*:1", "\"b\",*:1"});
+    EXPECT_EQ(sorted(dataset, {0, 1}, 1), missingLast) << "after the digits";
+    EXPECT_EQ(sorted(dataset, {1}, 1), (Lines{"10:10", "*:2", "-5:2", "0:2", "9:2"}));
+    EXPECT_EQ(sorted(dataset, {1, 0}, 1).front(), "0,\"\":2");
+    EXPECT_EQ(sorted(dataset, {1, 0}, 1).at(1), "*,\"B\":1");
+    EXPECT_EQ(sorted(dataset, {1, 0}, 1).back(), "-5,\"c\":1");
+    dataset.format();
+    Lines missingAmongThem = byNumber;
+    missingAmongThem.insert(missingAmongThem.begin() + 3, {"\"B\",*:1", "\"b\",*:1"});
+    EXPECT_EQ(sorted(dataset, {0, 1}, 1), missingAmongThem);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include <cstdio>
 #include <map>
+#include <numeric>
 
 namespace {
 
@@ -174,6 +175,36 @@ TEST(Statistics, takeTheMissingMarkerOfABuiltDatasetForNan)
         texts.push_back(row.back());
     }
     EXPECT_EQ(texts, (Texts{"2", "nan", "nan", "nan", "2", "nan", "nan"}));
+}
+
+TEST(Statistics, drawWhatTheyDescribe)
+{
+    ScriptedDataset dataset;
+    dataset.variable("G", TypeCode::Double).variable("X", TypeCode::Double);
+    const std::vector<double> values{7, 1, missing, 2, 4, 8, HUGE_VAL, 3, 5, 6};
+    dataset.rows(150, [&](int row, int column) {
+        return column == 0 ? row / 10.0 - row % 10 / 10.0 : values[std::size_t(row % 10)];
+    });
+    const Distribution first = describe(dataset, {1}, {0}).drawn.at(0);
+    EXPECT_EQ(first.label, "0");
+    EXPECT_EQ(first.count, 8U);
+    EXPECT_EQ(first.leftOut, 2U);
+    EXPECT_EQ((std::vector{first.minimum, first.lowerQuartile, first.median, first.upperQuartile,
+                           first.maximum}),
+              (std::vector{1.0, 2.5, 4.5, 6.5, 8.0}));
+    EXPECT_EQ(first.firstEdge, 0);
+    EXPECT_EQ(first.barWidth, 2);
+    EXPECT_EQ(first.bars, (std::vector<std::size_t>{1, 2, 2, 2, 1})) << "an edge counts upwards";
+    EXPECT_EQ(describe(dataset, {1}, {0}).drawn.size(), 12U) << "of fifteen groups";
+
+    for (const std::vector<double>& sample :
+         {std::vector{0.5}, {missing}, {-1e308, 1e308}, {1, std::nextafter(1, 2)}, {5, 5, 5}}) {
+        const Distribution drawn = distributionOf(sample);
+        const std::size_t inBars = std::accumulate(drawn.bars.begin(), drawn.bars.end(), 0U);
+        EXPECT_TRUE(inBars == drawn.count || inBars == 0U);
+        EXPECT_EQ(drawn.count + drawn.leftOut, sample.size());
+    }
+    EXPECT_EQ(distributionOf(std::vector{5.0, 5.0, 5.0}).bars, std::vector<std::size_t>{3});
 }
 
 }  // namespace

@@ -201,4 +201,22 @@ TEST_F(Opened, stateIsBroughtBackToADatasetReadAnew)
     EXPECT_TRUE(m_opened->byVariables().empty());
 }
 
+TEST_F(Opened, tellsABatchOfVariablesOnce)
+{
+    {
+        const OpenDataset::VariablesBatch outer(*m_opened);
+        {
+            const OpenDataset::VariablesBatch inner(*m_opened);
+            m_opened->setShown({{0, 1}}, false);
+        }
+        m_opened->showAllVariables();
+        EXPECT_EQ(told(), "");
+    }
+    EXPECT_EQ(told(), "variables ");
+    {
+        const OpenDataset::VariablesBatch nothing(*m_opened);
+    }
+    EXPECT_EQ(told(), "");
+}
+
 }  // namespace
