@@ -1,5 +1,6 @@
 #include "grid/GridCopy.h"
 
+#include "analysis/panels/TableText.h"
 #include "data/StoredValue.h"
 #include "grid/GridTable.h"
 #include "grid/MainTableModel.h"
@@ -10,19 +11,8 @@
 #include <algorithm>
 
 namespace gridcopy {
+
 namespace {
-
-bool breaksTheTable(QChar letter)
-{
-    return letter == u'\t' || letter == u'\n' || letter == u'\r';
-}
-
-void append(QString& result, const QString& cell)
-{
-    const auto start = result.size();
-    result += cell;
-    std::replace_if(result.begin() + start, result.end(), breaksTheTable, u' ');
-}
 
 /// @param textOf  of a cell, by row and variable
 template <typename TextOf>
@@ -31,41 +21,12 @@ QString ofSelectedCells(const GridTable& grid, TextOf textOf)
     const GridSelection selection = grid.selected();
     const std::vector<int> rows = selection.rows();
     const std::vector<int> variables = selection.variables();
-    return text({rows, variables, [&](int row, int variable) {
+    return tabletext::text({rows, variables, [&](int row, int variable) {
                      return selection.contains(row, variable) ? textOf(row, variable) : QString();
                  }});
 }
 
 }  // namespace
-
-QString text(const Cells& cells)
-{
-    QString result;
-    for (const int row : cells.rows) {
-        if (row != cells.rows.front()) {
-            result += u'\n';
-        }
-        for (const int column : cells.columns) {
-            if (column != cells.columns.front()) {
-                result += u'\t';
-            }
-            append(result, cells.text(row, column));
-        }
-    }
-    return result;
-}
-
-QString line(const QStringList& texts)
-{
-    QString result;
-    for (const QString& text : texts) {
-        if (&text != &texts.front()) {
-            result += u'\t';
-        }
-        append(result, text);
-    }
-    return result;
-}
 
 QString ofSelection(const GridTable& grid)
 {
@@ -92,7 +53,7 @@ QString namesOf(const GridTable& grid, std::span<const int> variables)
     QStringList names;
     std::transform(variables.begin(), variables.end(), std::back_inserter(names),
                    [&](int variable) { return grid.opened()->nameOf(variable); });
-    return line(names);
+    return tabletext::line(names);
 }
 
 }  // namespace gridcopy

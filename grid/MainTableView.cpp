@@ -22,6 +22,7 @@
 
 MainTableView::MainTableView(OpenDataset* opened, QWidget* parent)
     : GridTable(opened, parent)
+    , m_panels(*this)
 {
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, &QWidget::customContextMenuRequested, this, &MainTableView::showContextMenu);
@@ -72,7 +73,7 @@ void MainTableView::followOpenDataset()
     connect(opened(), &OpenDataset::signalVariablesChanged, this, &MainTableView::showVariables);
     connect(opened(), &OpenDataset::signalByListChanged, this, &MainTableView::signalAddByVar);
     connect(opened(), &OpenDataset::signalSorted, this, &MainTableView::showSort);
-    connect(opened(), &OpenDataset::signalFrequencyAsked, this, &MainTableView::showFrequency);
+    connect(opened(), &OpenDataset::signalFrequencyAsked, &m_panels, &GridPanels::countFrequencies);
     showSort();
 }
 
@@ -380,40 +381,30 @@ std::vector<int> MainTableView::selectedOrCurrentVariables() const
 
 void MainTableView::showFrequencyOfSelected(bool frequencyN)
 {
-    showFrequency(selectedOrCurrentVariables(), frequencyN);
-}
-
-void MainTableView::showFrequency(std::vector<int> variables, bool frequencyN)
-{
-    if (variables.empty()) {
-        return;
-    }
-    const WaitCursor waitCursor;
-    m_frequencies = opened()->frequenciesOf(variables, frequencyN);
-    emit signalSetFrequency(&m_frequencies, std::move(variables), dataset(), frequencyN);
-    emit signalShowDockFreq();
+    m_panels.countFrequencies(selectedOrCurrentVariables(), frequencyN);
 }
 
 void MainTableView::showStatistics()
 {
-    const auto result = [this] {
+    const std::vector<int> variables =
+        shownRowCount() == 0 ? selectedOrCurrentVariables() : selected().variables();
+    const auto result = [&] {
         const WaitCursor waitCursor;
-        return opened()->statisticsOf(shownRowCount() == 0 ? selectedOrCurrentVariables()
-                                                           : selected().variables());
+        return opened()->statisticsOf(variables);
     }();
     if (const auto* problem = std::get_if<statistics::Problem>(&result)) {
-        const StatisticsTable::Message message = StatisticsTable::messageOf(*problem);
+        const StatisticsPanel::Message message = StatisticsPanel::messageOf(*problem);
         emit signalInform(message.title, message.text);
         return;
     }
-    m_statistics.fillTable(std::get<statistics::Table>(result));
+    m_panels.statistics()->showResult(std::get<statistics::Table>(result), variables.front());
     refreshDescDock();
 }
 
 void MainTableView::refreshDescDock()
 {
-    if (m_statistics.table() != nullptr) {
-        emit signalShowDockDesc(m_statistics.table());
+    if (QTableWidget* table = m_panels.statistics()->table()) {
+        emit signalShowDockDesc(table);
     }
 }
 

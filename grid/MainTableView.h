@@ -1,9 +1,9 @@
 #pragma once
 
 #include "analysis/Frequencies.h"
-#include "analysis/panels/StatisticsTable.h"
 #include "grid/CellFilters.h"
 #include "grid/GridCommands.h"
+#include "grid/GridPanels.h"
 #include "grid/GridTable.h"
 #include "grid/opened/OpenDataset.h"
 
@@ -13,6 +13,8 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+class QTableWidget;
 
 /// The grid of one open dataset: selection, keys, menus and clipboard. What is in force for the
 /// dataset is told by its OpenDataset; the grid tells the rest of the window by its signals.
@@ -28,8 +30,8 @@ public:
 
     /// The command that was typed last, whether it could be read or not.
     [[nodiscard]] const QString& lastCommand() const { return m_lastCommand; }
-    /// The statistics made last, owned by this view wherever they are shown; null before any.
-    [[nodiscard]] QTableWidget* statisticsTable() const { return m_statistics.table(); }
+    /// The side views, which belong to this view wherever they are shown.
+    [[nodiscard]] const GridPanels& panels() const { return m_panels; }
 
     /// Finds the corner button and lets its click select all cells in dataset order.
     void connectCornerButton();
@@ -126,7 +128,6 @@ private:
     void showFilters();
     void showVariables();
     void tellVariables();
-    void showFrequency(std::vector<int> variables, bool frequencyN);
     void copy(QString (*textOf)(const GridTable&));
     void report(const CommandOutcome& outcome);
     void shiftVariable(int step);
@@ -134,6 +135,5 @@ private:
 
     QString m_lastCommand;
     CellFilters m_cellFilters;
-    std::vector<WordsAndCounts> m_frequencies;
-    StatisticsTable m_statistics;
+    GridPanels m_panels;
 };

@@ -215,7 +215,6 @@ void DatasetOpener::show(std::unique_ptr<DatasetWindow> window)
     opened->show();
     emit signalShown(opened);
     activate(opened);
-    opened->view()->setFocus();
     followWindows();
 }
 
@@ -313,4 +312,5 @@ void DatasetOpener::lookAtActiveFile(Qt::ApplicationState state)
 void DatasetOpener::activate(QMdiSubWindow* window)
 {
     m_surroundings.area.setActiveSubWindow(window);
+    window->widget()->setFocus();
 }

@@ -7,6 +7,7 @@
 #include "app/docks/CellDocks.h"
 #include "app/docks/DockWindows.h"
 #include "app/docks/ShortcutKeysWindow.h"
+#include "app/docks/SidePanels.h"
 #include "app/docks/WorkspaceTree.h"
 #include "app/log/LogView.h"
 #include "app/look/GridLook.h"
@@ -171,6 +172,7 @@ void MainWindow::createDocks()
 
 void MainWindow::fillDocks()
 {
+    m_sidePanels = std::make_unique<SidePanels>(*m_docks);
     auto* workspace = new WorkspaceTree(m_docks->workspace());
     m_docks->workspace()->setWidget(workspace);
     m_navigation = new Navigation(*this, *m_actions, *workspace->model());
@@ -322,7 +324,7 @@ void MainWindow::activeWindow(QMdiSubWindow* window)
     setWindowTitle(active->mainTitle());
     m_cellDocks->follow(m_activeView);
     m_docks->showTitlesOf(active->datasetName());
-    m_docks->univariate()->setWidget(m_activeView->statisticsTable());
+    m_sidePanels->setGrid(m_activeView);
     updateStatus();
     showWhatIsOpen();
 }
@@ -338,6 +340,7 @@ void MainWindow::subWindowClosed(DatasetWindow* closedWindow)
         m_cellDocks->follow(nullptr);
         m_operator->follow(nullptr);
         generateSasCode();
+        m_sidePanels->setGrid(nullptr);
     }
     showWhatIsOpen();
 }
@@ -415,18 +418,25 @@ void MainWindow::setLabelStatusBarDf(const QString& filter)
 
 void MainWindow::showDockFreq()
 {
-    m_arrangement->show(*m_docks->frequency());
+    showPanel(*m_docks->frequency());
 }
 
-void MainWindow::showDockDesc(QTableWidget* tableWidget)
+void MainWindow::showDockDesc(QTableWidget* /*tableWidget*/)
 {
-    m_docks->univariate()->setWidget(tableWidget);
-    m_arrangement->show(*m_docks->univariate());
+    showPanel(*m_docks->univariate());
 }
 
 void MainWindow::showDockVar()
 {
-    m_arrangement->show(*m_docks->variables());
+    showPanel(*m_docks->variables());
+}
+
+/// Brings a view of the grid in front to the user's hand; Escape leads back.
+void MainWindow::showPanel(QDockWidget& dock)
+{
+    m_sidePanels->update();
+    m_arrangement->show(dock);
+    dock.widget()->setFocus();
 }
 
 // Looks

@@ -24,12 +24,14 @@ class Navigation;
 class OperatorLabel;
 class QAbstractButton;
 class QAction;
+class QDockWidget;
 class QMdiSubWindow;
 class QSettings;
 class QTableWidget;
 class QUrl;
 class RecentFiles;
 class Settings;
+class SidePanels;
 class StatusCounters;
 class UpdateCheck;
 class UserPrompts;
@@ -128,6 +130,7 @@ private:
     void openWorkspace(std::unique_ptr<WorkspaceStore> store);
     void showWhatIsOpen();
     void openPage(const QUrl& url);
+    void showPanel(QDockWidget& dock);
 
     std::unique_ptr<QSettings> m_settingsStore;
     std::unique_ptr<Settings> m_settings;
@@ -139,6 +142,7 @@ private:
     std::unique_ptr<StatusCounters> m_counters;
     std::unique_ptr<GridServices> m_gridServices;
     std::unique_ptr<DockWindows> m_docks;
+    std::unique_ptr<SidePanels> m_sidePanels;
     std::unique_ptr<WindowArrangement> m_arrangement;
     std::unique_ptr<CellDocks> m_cellDocks;
     std::unique_ptr<GridLook> m_look;

@@ -1,3 +1,5 @@
+#include "analysis/panels/FreqTableView.h"
+#include "app/docks/SidePanels.h"
 #include "tests/support/WindowFixture.h"
 
 #include <QDirIterator>
@@ -27,6 +29,7 @@ private:
     void datasetStep();
     void boxStep();
     void libraryFilterStep();
+    void panelStep();
     void lookStep();
     void changeGrid(MainTableView& grid);
     void check();
@@ -84,14 +87,15 @@ void TestWindowSequences::windowShowsWhatIsInForce()
         openWindow(true);
     }
     const std::vector<std::function<void()>> steps{
-        [this] { fileStep(); }, [this] { datasetStep(); },       [this] { changeGrid(view()); },
-        [this] { boxStep(); },  [this] { libraryFilterStep(); }, [this] { lookStep(); },
+        [this] { fileStep(); },  [this] { datasetStep(); }, [this] { changeGrid(view()); },
+        [this] { panelStep(); }, [this] { boxStep(); },     [this] { libraryFilterStep(); },
+        [this] { lookStep(); },
     };
     constexpr int count = 250;
     for (int i = 0; i < count; ++i) {
         // Many files are all opened before anything else is done to them.
         const int step = areFiles && i < 30 ? 0 : random(int(steps.size()));
-        if (step < 1 || step > 2 || !m_open.empty()) {
+        if (step < 1 || step > 3 || !m_open.empty()) {
             steps[std::size_t(step)]();
         }
         (void)log->take();  // refused commands and programs are logged
@@ -189,6 +193,36 @@ void TestWindowSequences::changeGrid(MainTableView& grid)
     grid.onHeaderClicked(random(columns));
     notes();  // a second library filter, no selected column
     m_libraryFilter = grid.opened()->libraryFilterText();
+}
+
+/// Goes to a view beside the grid by the key that fills it, does something there, and goes back or
+/// stays.
+void TestWindowSequences::panelStep()
+{
+    changeGrid(view());
+    using enum GridCommand;
+    const GridCommand command =
+        std::array{Frequency, FrequencyOfSubjects, GoToVariable}[std::size_t(random(3))];
+    view().run(command);
+    if (!view().isCurrentVariableShown()) {
+        return;
+    }
+    const GridPanels& panels = view().panels();
+    const bool isList = command != GoToVariable;
+    QWidget* table = panels.variables();
+    if (isList) {
+        table = &panels.frequency()->table();
+    }
+    QVERIFY(table->hasFocus());
+    QTest::keyClick(table,
+                    isList ? std::array{Qt::Key_D, Qt::Key_L, Qt::Key_Z}[std::size_t(random(3))]
+                           : Qt::Key_Space);
+    notes();  // a second library filter
+    m_libraryFilter = view().opened()->libraryFilterText();
+    if (random(2) == 0) {
+        QTest::keyClick(table, Qt::Key_Escape);
+        QVERIFY(view().hasFocus());
+    }
 }
 
 void TestWindowSequences::boxStep()
@@ -324,7 +358,18 @@ void TestWindowSequences::checkActive()
     QCOMPARE(dock("Variables")->windowTitle(), "Variable - " + name);
     QCOMPARE(dock("Freq")->windowTitle(), "Freq - " + name);
     QCOMPARE(dock("Desc")->windowTitle(), "Univariate - " + name);
-    QCOMPARE(dock("Desc")->widget(), view().statisticsTable());
+    const GridPanels& panels = view().panels();
+    const auto panelIn = [this](const char* place) {
+        return qobject_cast<PanelPlace*>(dock(place)->widget())->panel();
+    };
+    QCOMPARE(panelIn("Variables"), panels.variables());
+    for (int variable = 0; variable < view().model()->columnCount(); ++variable) {
+        const auto state = panels.variables()->model()->index(variable, 0).data(Qt::CheckStateRole);
+        QCOMPARE(state.toInt() == Qt::Unchecked, view().isColumnHidden(variable));
+    }
+    QCOMPARE(panelIn("Freq"), panels.frequency()->hasList() ? panels.frequency() : nullptr);
+    QCOMPARE(panelIn("Desc"),
+             panels.statistics()->table() == nullptr ? nullptr : panels.statistics());
     checkCell();
 }
 

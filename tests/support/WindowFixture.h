@@ -89,6 +89,7 @@ protected:
     void trigger(const QString& action) const { child<QAction>(action)->trigger(); }
     void submit(const QString& box, const QString& line) const
     {
+        child<QComboBox>(box)->setFocus();
         child<QComboBox>(box)->setEditText(line);
         QTest::keyClick(child<QComboBox>(box)->lineEdit(), Qt::Key_Return);
     }
