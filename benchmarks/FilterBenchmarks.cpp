@@ -3,11 +3,9 @@
 // painted. The last two grow by half-decades: a quadratic step would show as a multiple of ten.
 
 #include "benchmarks/BenchmarkFiles.h"
-#include "data/InMemoryDataset.h"
+#include "benchmarks/ShownGrid.h"
 #include "data/readers/DatasetFile.h"
 #include "grid/filter/CompiledCondition.h"
-#include "grid/MainTableModel.h"
-#include "grid/MainTableView.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -44,35 +42,6 @@ void evaluatePlainly(benchmark::State& state, const StatDataset& dataset)
         benchmark::DoNotOptimize(mask);
     }
 }
-
-/// A grid on the (virtual) screen.
-class ShownGrid
-{
-public:
-    explicit ShownGrid(StatDataset& dataset)
-        : m_opened(dataset)
-        , m_model(&m_opened)
-        , m_view(&m_opened)
-    {
-        m_view.setModel(&m_model);
-        m_view.fitColumns();
-        m_view.resize(1400, 900);
-        m_view.show();
-        paint();
-    }
-    void run(const char* command)
-    {
-        m_view.cmdRunCommand(QString::fromUtf8(command));
-        paint();
-    }
-    void paint() { m_view.viewport()->repaint(); }
-    MainTableView& view() { return m_view; }
-
-private:
-    OpenDataset m_opened;
-    MainTableModel m_model;
-    MainTableView m_view;
-};
 
 void openGrid(benchmark::State& state, StatDataset& dataset)
 {
@@ -136,22 +105,6 @@ void filterBySelection(benchmark::State& state, StatDataset& dataset)
         grid.view().run(GridCommand::FilterIn);
     }
     grid.run("cdf");
-}
-
-std::unique_ptr<StatDataset> wideDataset(int columns)
-{
-    constexpr int rows = 20;
-    InMemoryDatasetBuilder builder;
-    for (int column = 0; column < columns; ++column) {
-        VariableDescription variable;
-        variable.name = "V" + std::to_string(column);
-        variable.type = TypeCode::Double;
-        builder.addVariable(std::move(variable));
-    }
-    for (int cell = 0; cell < rows * columns; ++cell) {
-        builder.addNumber(cell);
-    }
-    return builder.build();
 }
 
 /// Hides all variables but one and shows them again.

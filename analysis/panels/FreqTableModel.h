@@ -43,7 +43,7 @@ public:
     /// All counts together.
     [[nodiscard]] std::int64_t sum() const { return m_sum; }
 
-public slots:
+public slots:  // NOLINT(readability-redundant-access-specifiers): moc reads it
     /// @param vectorFrequency  null, with no dataset, for an empty list
     /// @param m_bFrequencyN    whether distinct subjects are counted
     void updateSetFrequency(std::vector<WordsAndCounts>* vectorFrequency,

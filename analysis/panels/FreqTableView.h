@@ -46,12 +46,6 @@ public:
     /// Keeps the values of all selected rows.
     void filterByValues();
 
-public slots:
-    /// Shows another list, in its own order. @see FreqTableModel::updateSetFrequency
-    void updateSetFrequency(std::vector<WordsAndCounts>* vectorFrequency,
-                            std::vector<int> variableNo, StatDataset* dataset, bool m_bFrequencyN);
-    void showContextMenu(const QPoint& position);
-
 signals:
     /// Something that changes what the filters select, to be done by whoever can show that it takes
     /// a while and what goes wrong.
@@ -59,6 +53,12 @@ signals:
     /// Something told in passing.
     void signalMessage(QString text);
     void signalSelectionChanged();
+
+public slots:
+    /// Shows another list, in its own order. @see FreqTableModel::updateSetFrequency
+    void updateSetFrequency(std::vector<WordsAndCounts>* vectorFrequency,
+                            std::vector<int> variableNo, StatDataset* dataset, bool m_bFrequencyN);
+    void showContextMenu(const QPoint& position);
 
 protected:
     void selectionChanged(const QItemSelection& selected,

@@ -16,13 +16,13 @@ public:
     /// Finds nothing: the letters are commands.
     void keyboardSearch(const QString& search) override;
 
-public slots:
-    void copy();
-    void resetOrder();
-
 signals:
     /// The user wants to go back to the grid.
     void signalLeft();
+
+public slots:
+    void copy();
+    void resetOrder();
 
 protected:
     /// Gives the table a model whose rows can be sorted, in their order for now.

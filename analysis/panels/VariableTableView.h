@@ -21,6 +21,12 @@ public:
 
     void setOpened(OpenDataset* opened);
 
+signals:
+    /// The user asks for the variable in the grid.
+    void signalGotoVar(int variable);
+    void signalVarHideUnhide(int variable);
+    void signalFrequencyAsked(std::vector<int> variables, bool frequencyN);
+
 public slots:
     /// Selects the row of a variable and brings it into sight.
     void cmdSelectRow(int variable);
@@ -29,12 +35,6 @@ public slots:
     void hideUnhideVar(int variable);
     /// Makes the box in the header say whether all, some or no variables are shown.
     void updateHeaderState();
-
-signals:
-    /// The user asks for the variable in the grid.
-    void signalGotoVar(int variable);
-    void signalVarHideUnhide(int variable);
-    void signalFrequencyAsked(std::vector<int> variables, bool frequencyN);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
