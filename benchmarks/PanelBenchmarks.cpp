@@ -24,8 +24,7 @@ void paint(QTableView& table)
 FreqTableView& listOf(ShownGrid& grid, const StatDataset& dataset, const wchar_t* variable)
 {
     FrequencyPanel& panel = *grid.view().panels().frequency();
-    grid.view().setCurrentIndex(
-        grid.view().model()->index(0, dataset.findVariable(variable)));
+    grid.view().setCurrentIndex(grid.view().model()->index(0, dataset.findVariable(variable)));
     grid.view().showFrequencyOfSelected(false);
     panel.resize(400, 800);
     panel.show();

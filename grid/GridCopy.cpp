@@ -22,8 +22,9 @@ QString ofSelectedCells(const GridTable& grid, TextOf textOf)
     const std::vector<int> rows = selection.rows();
     const std::vector<int> variables = selection.variables();
     return tabletext::text({rows, variables, [&](int row, int variable) {
-                     return selection.contains(row, variable) ? textOf(row, variable) : QString();
-                 }});
+                                return selection.contains(row, variable) ? textOf(row, variable)
+                                                                         : QString();
+                            }});
 }
 
 }  // namespace

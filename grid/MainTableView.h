@@ -8,13 +8,12 @@
 #include "grid/opened/OpenDataset.h"
 
 #include <QString>
+#include <QTableWidget>  // whole, so that its signal can be recorded
 
 #include <functional>
 #include <string>
 #include <utility>
 #include <vector>
-
-class QTableWidget;
 
 /// The grid of one open dataset: selection, keys, menus and clipboard. What is in force for the
 /// dataset is told by its OpenDataset; the grid tells the rest of the window by its signals.

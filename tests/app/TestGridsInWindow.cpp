@@ -346,6 +346,7 @@ void TestGridsInWindow::programOfTheActiveGridIsWritten()
     auto* generated = child<ProgramEditor>("programWindow");
     submitDf("AGE > 30");
     submit("comboBoxBy", "SEX");
+    view().setCurrentIndex(view().model()->index(1, 0));
     QTest::keyClick(&view(), Qt::Key_H);
     QVERIFY(
         generated->toPlainText().endsWith("    if AGE > 30;\n    by sex;\n    keep age;\nrun;"));
