@@ -4,6 +4,9 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QUrl>
+
+#include <sys/stat.h>
 
 namespace filepath {
 
@@ -60,15 +63,51 @@ std::string toBytes(const QString& path)
     return bytes;
 }
 
-std::string displayName(const QString& path)
+QString fromUrl(const QUrl& url)
 {
-    QString name = QFileInfo(path).fileName();
-    for (qsizetype at = 0; at < name.size(); ++at) {
-        if (isStray(name, at)) {
-            name[at] = QChar::ReplacementCharacter;
+    const QByteArray bytes =
+        QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
+    const std::string_view path(bytes.data(), static_cast<std::size_t>(bytes.size()));
+    return texts::isUtf8(path) ? url.toLocalFile() : fromBytes(path);
+}
+
+bool isText(const QString& path)
+{
+    for (qsizetype at = 0; at < path.size(); ++at) {
+        if (isStray(path, at)) {
+            return false;
         }
     }
-    return name.toStdString();
+    return true;
+}
+
+FileState stateOf(const QString& path)
+{
+    if (isText(path)) {
+        const QFileInfo file(path);
+        return {file.exists(), file.lastModified(), file.size()};
+    }
+    struct stat status
+    { };
+    if (::stat(toBytes(path).c_str(), &status) != 0) {
+        return {};
+    }
+    return {true, QDateTime::fromSecsSinceEpoch(status.st_mtime), status.st_size};
+}
+
+QString shown(QString path)
+{
+    for (qsizetype at = 0; at < path.size(); ++at) {
+        if (isStray(path, at)) {
+            path[at] = QChar::ReplacementCharacter;
+        }
+    }
+    return path;
+}
+
+std::string displayName(const QString& path)
+{
+    return shown(QFileInfo(path).fileName()).toStdString();
 }
 
 std::string baseName(const QString& path)

@@ -8,6 +8,7 @@
 #include "app/start/Settings.h"
 #include "app/window/DatasetWindow.h"
 #include "app/window/TabTitles.h"
+#include "data/FilePath.h"
 #include "grid/MainTableView.h"
 #include "grid/WaitCursor.h"
 
@@ -27,9 +28,9 @@ namespace {
 /// @param member  empty for a file's only dataset
 DatasetOrigin originOf(const QString& path, const QString& member = {})
 {
-    const QFileInfo file(path);
-    const QString absolute = QDir::cleanPath(file.absoluteFilePath());
-    return {absolute, datasetKey(absolute, member), file.lastModified(), file.size()};
+    const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    const filepath::FileState file = filepath::stateOf(absolute);
+    return {absolute, datasetKey(absolute, member), file.lastModified, file.size};
 }
 
 }  // namespace

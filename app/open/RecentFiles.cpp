@@ -2,6 +2,7 @@
 
 #include "app/look/Icons.h"
 #include "app/start/Settings.h"
+#include "data/FilePath.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -33,6 +34,9 @@ QStringList RecentFiles::paths() const
 
 void RecentFiles::add(const QString& path)
 {
+    if (!filepath::isText(path)) {
+        return;  // the settings would keep another name
+    }
     const QString absolute = QDir::cleanPath(QDir::current().absoluteFilePath(path));
     QStringList files = paths();
     files.removeAll(absolute);
@@ -47,7 +51,7 @@ void RecentFiles::clear()
 
 void RecentFiles::request(const QString& path)
 {
-    if (!QFileInfo::exists(path)) {
+    if (!filepath::stateOf(path).exists) {
         QStringList files = paths();
         files.removeAll(path);
         setPaths(files);

@@ -1,8 +1,9 @@
 #include "app/start/SingleInstance.h"
 
+#include "data/FilePath.h"
+
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QLocalSocket>
 #include <QStandardPaths>
 
@@ -94,7 +95,7 @@ bool SingleInstance::sendTo(const QString& address, const QString& path) const
         || !socketowner::isPeer(socket.socketDescriptor(), m_channel.user)) {
         return false;
     }
-    socket.write(path.toUtf8());
+    socket.write(QByteArray::fromStdString(filepath::toBytes(path)));
     socket.flush();
     socket.waitForBytesWritten(waitMilliseconds);
     return true;
@@ -112,8 +113,8 @@ void SingleInstance::acceptConnections()
 
 void SingleInstance::receive(QLocalSocket& socket)
 {
-    const QString path = QString::fromUtf8(socket.readAll()).trimmed();
-    if (!path.isEmpty() && QFileInfo::exists(path)) {
+    const QString path = filepath::fromBytes(socket.readAll().trimmed().toStdString());
+    if (!path.isEmpty() && filepath::stateOf(path).exists) {
         // Later, as opening a file may show a dialog, and the socket would die inside its own read.
         QMetaObject::invokeMethod(
             this, [this, path] { emit signalFileReceived(path); }, Qt::QueuedConnection);

@@ -7,6 +7,7 @@
 #include "app/start/WebSite.h"
 #include "app/start/WindowsCheck.h"
 #include "app/window/MainWindow.h"
+#include "data/FilePath.h"
 #include "data/Version.h"
 
 #include <spdlog/spdlog.h>
@@ -47,7 +48,7 @@ int runApplication(int argc, char** argv)
         return EXIT_FAILURE;
     }
 
-    const QString file = startup::fileArgument(QCoreApplication::arguments());
+    const QString file = startup::fileArgument(startup::argumentsOf(argc, argv));
     SingleInstance instance;
     if (!file.isEmpty() && instance.handOver(file)) {
         return EXIT_SUCCESS;
@@ -109,6 +110,19 @@ QString unsupportedSystemMessage()
                                        "This application does not run on Windows Server edition. "
                                        "Please download the server edition from the website: %1")
         .arg(QString::fromUtf8(quorlane::webSite) + QStringLiteral("/download/"));
+}
+
+QStringList argumentsOf(int argc, char** argv)
+{
+#ifdef Q_OS_WIN
+    return QCoreApplication::arguments();
+#else
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments << filepath::fromBytes(argv[i]);
+    }
+    return arguments;
+#endif
 }
 
 QString fileArgument(const QStringList& arguments)

@@ -23,6 +23,10 @@ void setIdentity();
 /// What the user is told on a system on which the program does not run.
 [[nodiscard]] QString unsupportedSystemMessage();
 
+/// The arguments that the toolkit has left, names of files with all their bytes. To be called once
+/// the application object has been created.
+[[nodiscard]] QStringList argumentsOf(int argc, char** argv);
+
 /// The absolute path of the file named on the command line; empty when there is none. Arguments
 /// after the first are ignored.
 [[nodiscard]] QString fileArgument(const QStringList& arguments);

@@ -4,6 +4,7 @@
 #include "app/look/Icons.h"
 #include "app/window/NoticeBar.h"
 #include "app/window/PlainTitle.h"
+#include "data/FilePath.h"
 #include "data/StatDataset.h"
 #include "grid/MainTableModel.h"
 #include "grid/MainTableView.h"
@@ -140,7 +141,7 @@ QString DatasetWindow::tip() const
 QString DatasetWindow::mainTitle() const
 {
     return tr("%1 - %2 - Quorlane")
-        .arg(m_datasetName, QDir::toNativeSeparators(m_origin.filePath))
+        .arg(m_datasetName, filepath::shown(QDir::toNativeSeparators(m_origin.filePath)))
         .replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
 }
 
@@ -152,7 +153,7 @@ void DatasetWindow::setPlace(const QString& place)
 
 void DatasetWindow::showTitle()
 {
-    const QString file = m_origin.filePath.section(u'/', -1);
+    const QString file = filepath::shown(m_origin.filePath.section(u'/', -1));
     const QString member = m_origin.member();
     QString title = shortened(member.isEmpty() ? file : member);
     if (!m_place.isEmpty() || !member.isEmpty()) {
@@ -166,18 +167,18 @@ void DatasetWindow::showTitle()
 
 void DatasetWindow::lookAtFile()
 {
-    const QFileInfo file(m_origin.filePath);
+    const filepath::FileState file = filepath::stateOf(m_origin.filePath);
     const bool isSame =
-        file.lastModified() == m_origin.fileTimestamp && file.size() == m_origin.fileSize;
+        file.lastModified == m_origin.fileTimestamp && file.size == m_origin.fileSize;
     const QString state = isSame ? QString()
-        : file.exists()          ? tr("changed on disk")
+        : file.exists            ? tr("changed on disk")
                                  : tr("gone from disk");
     if (state == m_fileState) {
         return;
     }
     m_fileState = state;
     m_fileNotice->setText(isSame ? QString()
-                              : file.exists()
+                              : file.exists
                               ? tr("The file has changed since it was read; what is shown here is "
                                    "what it held before.")
                               : tr("The file is no longer there; what is shown here is what it "

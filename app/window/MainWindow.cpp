@@ -27,6 +27,7 @@
 #include "app/window/OperatorLabel.h"
 #include "app/window/StatusCounters.h"
 #include "app/window/WindowArrangement.h"
+#include "data/FilePath.h"
 #include "grid/MainTableView.h"
 #include "workspace/OptionsDialog.h"
 #include "workspace/WorkspaceStore.h"
@@ -615,7 +616,7 @@ void MainWindow::dropEvent(QDropEvent* event)
     QStringList paths;
     for (const QUrl& url : event->mimeData()->urls()) {
         if (url.isLocalFile()) {
-            paths << url.toLocalFile();
+            paths << filepath::fromUrl(url);
         }
     }
     m_opener->openLater(paths);

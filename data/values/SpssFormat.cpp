@@ -584,8 +584,9 @@ std::string formatNumeric(double value, std::string_view format)
 
 int decimalsOf(std::string_view format)
 {
-    const auto parsed = parseFormat(format);
-    return parsed ? parsed->decimals : 0;
+    format.remove_prefix(std::min(format.rfind('.'), format.size()));
+    format.remove_prefix(format.empty() ? 0 : 1);
+    return takeNumber(format).value_or(0);
 }
 
 }  // namespace spss

@@ -26,7 +26,7 @@ namespace spss {
 /// - The custom currencies CCA to CCE look as SPSS sets them up at first, like COMMA.
 [[nodiscard]] std::string formatNumeric(double value, std::string_view format);
 
-/// The decimals of a print format: 2 of "F9.2"; 0 of an unknown one.
+/// The decimals of a print format, of one that is not shown as such, too: 2 of "F9.2" and "IB4.2".
 [[nodiscard]] int decimalsOf(std::string_view format);
 
 }  // namespace spss

@@ -254,13 +254,14 @@ void TestMainWindow::droppedFilesOpen()
 {
     QMimeData data;
     data.setUrls({QUrl("https://brindlework.example/dm.xpt"), QUrl::fromLocalFile(path("dm 1.xpt")),
-                  QUrl::fromLocalFile(path("ae.xpt"))});
+                  QUrl::fromEncoded("file://" + path("m%FCnch.xpt").toUtf8())});
     QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window.get(), &enter);
     QVERIFY(enter.isAccepted());
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window.get(), &drop);
-    QTRY_COMPARE(titles(), QStringList({"dm 1.xpt", "ae.xpt"}));
+    QTRY_COMPARE(titles(), QStringList({"dm 1.xpt", "m\uFFFDnch.xpt"}));
+    QVERIFY(window->openFiles().find(path("m") + QChar(0xDCFC) + "nch.xpt") != nullptr);
 }
 
 void TestMainWindow::receivedFilesWaitForOpenQuestions()

@@ -1,4 +1,5 @@
 #include "app/start/SingleInstance.h"
+#include "data/FilePath.h"
 
 #include <QDir>
 #include <QEventLoop>
@@ -8,6 +9,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+
+#include <fstream>
 
 namespace {
 
@@ -105,8 +108,7 @@ InstanceChannel TestSingleInstance::strangersChannel() const
 
 QString TestSingleInstance::write(const QString& name) const
 {
-    QFile file(path(name));
-    return file.open(QIODevice::WriteOnly) ? file.fileName() : QString();
+    return std::ofstream(filepath::toBytes(path(name))).is_open() ? path(name) : QString();
 }
 
 void TestSingleInstance::pathsThatExistAreHandedOver()
@@ -117,8 +119,8 @@ void TestSingleInstance::pathsThatExistAreHandedOver()
     QVERIFY(handOver(path("missing.xpt")));
     QVERIFY(handOver("   "));
     QStringList files;
-    for (const QString name : {"dm.xpt", "Prüfung 試験.xpt", "a  b.xpt"}) {
-        files << write(name);
+    for (const char* const name : {"dm.xpt", "Prüfung 試験.xpt", "a  b.xpt", "m\xFCnch.xpt"}) {
+        files << write(filepath::fromBytes(name));
         QVERIFY(handOver(" \t" + files.last() + "\r\n"));
         QTRY_COMPARE(running.files(), files);
     }

@@ -1,3 +1,4 @@
+#include "data/FilePath.h"
 #include "data/readers/SavDoc.h"
 #include "data/StoredValue.h"
 #include "tests/data/ReaderTest.h"
@@ -160,7 +161,11 @@ class ReaderFiles : public ReaderTest
 TEST_F(ReaderFiles, openUnderANameThatIsNoText)
 {
     samples::writeTable(m_folder.path().string() + "/m\xFCnch.xpt", visits());
-    EXPECT_TRUE(openDataset(path("m") + QChar(0xDCFC) + QStringLiteral("nch.xpt")).ok());
+    const QString file = path("m") + QChar(0xDCFC) + QStringLiteral("nch.xpt");
+    EXPECT_TRUE(openDataset(file).ok());
+    EXPECT_EQ(filepath::stateOf(file).size % 80, 0);
+    EXPECT_TRUE(filepath::stateOf(file).exists && filepath::stateOf(file).lastModified.isValid());
+    EXPECT_FALSE(filepath::stateOf(file + 'x').exists);
 }
 
 TEST_F(ReaderFiles, tellHowTheyArePackedAndInWhichOrder)

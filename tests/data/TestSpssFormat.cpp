@@ -109,6 +109,15 @@ TEST(SpssFormat, showsNumbersAsSpssPrintsThem)
     EXPECT_EQ(spss::formatNumeric(0.1, ""), "0.1");
 }
 
+TEST(SpssFormat, tellsItsDecimals)
+{
+    for (const auto& [format, decimals] : {std::pair("F9.2", 2), std::pair("DATETIME23.2", 2),
+                                           std::pair("IB4.1", 1), std::pair("DATE11", 0),
+                                           std::pair("F40.16", 16), std::pair("", 0)}) {
+        EXPECT_EQ(spss::decimalsOf(format), decimals) << format;
+    }
+}
+
 TEST(SpssFormat, MissingIsAPointUnderEveryFormat)
 {
     for (const char* format : {"", "F8.2", "E10.3", "N5", "DATE11", "DATETIME23.2", "TIME8",

@@ -79,6 +79,15 @@ TEST(StataFormat, showsNumbersAsStataPrintsThem)
     EXPECT_EQ(stata::formatNumeric(3, "%td" + std::string(5000, 'M')), "3");
 }
 
+TEST(StataFormat, tellsItsDecimals)
+{
+    for (const auto& [format, decimals] :
+         {std::pair("%9.2f", 2), std::pair("%-12,3fc", 3), std::pair("%09.1f", 1),
+          std::pair("%9.0g", 0), std::pair("%tc.ss", 0), std::pair("%20s", 0), std::pair("", 0)}) {
+        EXPECT_EQ(stata::decimalsOf(format), decimals) << format;
+    }
+}
+
 TEST(StataFormat, MissingIsAPointUnderEveryFormat)
 {
     for (const char* format : {"", "%9.0g", "%9.2f", "%td", "%tcHH:MM", "%ty", "%9s", "%tdZZ"}) {

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <set>
 
 namespace {
 
@@ -47,6 +48,11 @@ void checkDescription(const StatDataset& dataset)
                                           &header.encoding, &header.release, &header.host}) {
         require(texts::isUtf8(*text), "header texts in UTF-8");
     }
+    for (const std::string& note : dataset.damageNotes()) {
+        require(texts::isUtf8(note), "notes in UTF-8");
+    }
+    const std::set<std::string> names(dataset.names().begin(), dataset.names().end());
+    require(names.size() == dataset.names().size(), "no two variables of one name");
     for (int variable = 0; variable < dataset.variableCount(); ++variable) {
         for (int attribute = 0; attribute <= 7; ++attribute) {
             const auto which = static_cast<VariableAttribute>(attribute);
@@ -97,8 +103,7 @@ void checkAgreement(const StatDataset& description, const StatDataset& whole)
             "as many observations in the description as in the whole");
 }
 
-/// @return  the names of the file's datasets
-std::vector<std::string> checkMember(const QString& path, const std::string& member)
+void checkMember(const QString& path, const std::string& member)
 {
     const auto description = openDataset(path, {.metadataOnly = true, .member = member});
     const auto whole = openDataset(path, {.metadataOnly = false, .member = member});
@@ -111,21 +116,22 @@ std::vector<std::string> checkMember(const QString& path, const std::string& mem
             require(texts::isUtf8(result->error()), "failures in UTF-8");
         }
     }
-    if (!whole) {
-        return {};
+    if (whole) {
+        require(static_cast<bool>(description), "a description of what can be read");
+        checkAgreement(*description.value().dataset, *whole.value().dataset);
+        require(member.empty() || whole.value().dataset->datasetName() == member,
+                "the dataset of that name");
     }
-    require(static_cast<bool>(description), "a description of what can be read");
-    checkAgreement(*description.value().dataset, *whole.value().dataset);
-    return whole.value().members;
 }
 
 }  // namespace
 
 void checkDatasetFile(const QString& path)
 {
-    const std::vector<std::string> members = checkMember(path, {});
+    checkMember(path, {});
+    const auto members = datasetNames(path);
     constexpr std::size_t mostMembers = 5;
-    for (std::size_t i = 1; i < std::min(members.size(), mostMembers); ++i) {
-        (void)checkMember(path, members[i]);
+    for (std::size_t i = 0; members && i < std::min(members.value().size(), mostMembers); ++i) {
+        checkMember(path, members.value()[i]);
     }
 }
