@@ -1,4 +1,5 @@
 #include "data/InMemoryDataset.h"
+#include "data/StoredValue.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +32,7 @@ TEST(InMemoryDataset, showsWhatWasBuilt)
     EXPECT_EQ(dataset->cellText(0, 2), "01Jan1960");
     EXPECT_EQ(dataset->cellText(1, 0), "") << "a null text";
     EXPECT_EQ(dataset->cellText(1, 1), ".") << "the missing marker";
+    EXPECT_EQ(storedvalue::text(*dataset, 1, 1), ".");
     EXPECT_EQ(dataset->cellText(1, 2), ".") << "a NaN became the missing marker";
     EXPECT_TRUE(std::isinf(dataset->numericValue(1, 2)));
     EXPECT_EQ(dataset->formatCharacter(std::string_view(), "", 0, 0), "");

@@ -64,8 +64,13 @@ void TestMainTableView::headersShowNamesOrLabelsAndHintAtTheOther()
     QVERIFY(grid.view->columnWidth(GridFixture::Sex) > width);
     QCOMPARE(headers(Qt::DisplayRole), "Subject|Sex as recorded at the visit||");
     QCOMPARE(headers(Qt::ToolTipRole), "USUBJID|SEX|AGE|SITE");
+    const int labelWidth = grid.view->columnWidth(GridFixture::Sex);
     grid.view->setHeaderMode(HeaderMode::VariableNames);
     QCOMPARE(grid.view->columnWidth(GridFixture::Sex), width);
+    grid.view->cmdRunCommand("drop SEX");
+    grid.view->setHeaderMode(HeaderMode::VariableLabels);
+    grid.view->cmdUnhidecolumns();
+    QCOMPARE(grid.view->columnWidth(GridFixture::Sex), labelWidth);
 }
 
 namespace {
