@@ -38,7 +38,10 @@ Result<bool> selectWhere(StatDataset& dataset, const std::optional<std::string>&
             const CompiledCondition compiled(QString::fromStdString(*condition), dataset);
             compiled.select(dataset.datasetFilterMask());
         } catch (const ParseError& error) {
-            return Failure{fmt::format("--where: {}", error.what())};
+            const std::string meant = error.suggestion().empty()
+                ? std::string()
+                : fmt::format(" (did you mean {}?)", error.suggestion());
+            return Failure{fmt::format("--where: {}{}", error.what(), meant)};
         }
     }
     return true;

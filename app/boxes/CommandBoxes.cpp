@@ -1,9 +1,12 @@
 #include "app/boxes/CommandBoxes.h"
 
 #include "app/boxes/CommandBar.h"
+#include "app/dialogs/UserPrompts.h"
 #include "app/window/GridServices.h"
 #include "grid/MainTableView.h"
 #include "grid/WaitCursor.h"
+
+#include <spdlog/spdlog.h>
 
 #include <QMainWindow>
 
@@ -13,6 +16,15 @@ namespace {
 QString statementOf(const QString& condition)
 {
     return QStringLiteral("if ") + condition;
+}
+
+/// What stands behind the "if" of a dataset filter's text.
+QString conditionOf(const QString& datasetFilterText)
+{
+    const QString keyword = statementOf(QString());
+    return datasetFilterText.startsWith(keyword, Qt::CaseInsensitive)
+        ? datasetFilterText.mid(keyword.size())
+        : datasetFilterText;
 }
 
 }  // namespace
@@ -113,6 +125,26 @@ CommandOutcome CommandBoxes::run(const BoxLine& line)
     return outcome;
 }
 
+void CommandBoxes::editDataFilter(UserPrompts& prompts)
+{
+    if (m_grid == nullptr) {
+        return;
+    }
+    QString text = conditionOf(m_grid->opened()->datasetFilterText());
+    bool isApplied = false;
+    while (!isApplied) {
+        const std::optional<QString> edited = prompts.editDataFilter(text);
+        if (!edited) {
+            spdlog::info("Filter canceled");
+            return;
+        }
+        text = *edited;
+        isApplied = applyDataFilter(text);
+    }
+}
+
+/// Puts a condition in the place of the grid's dataset filter.
+/// @return  whether nothing went wrong, which has been told
 bool CommandBoxes::applyDataFilter(const QString& condition)
 {
     if (m_grid == nullptr
@@ -132,14 +164,6 @@ bool CommandBoxes::applyDataFilter(const QString& condition)
     }
     m_datasetFilter->remember(statementOf(plain));
     return true;
-}
-
-QString CommandBoxes::conditionOf(const QString& datasetFilterText)
-{
-    const QString keyword = statementOf(QString());
-    return datasetFilterText.startsWith(keyword, Qt::CaseInsensitive)
-        ? datasetFilterText.mid(keyword.size())
-        : datasetFilterText;
 }
 
 /// Goes back to the grid. The boxes show what is in force there, whatever was typed.

@@ -10,6 +10,7 @@ class CommandBar;
 class GridServices;
 class MainTableView;
 class QMainWindow;
+class UserPrompts;
 
 /// The three boxes in which commands, the library filter and the BY variables of the active grid
 /// are typed, and what happens to what is typed there.
@@ -31,11 +32,9 @@ public:
     void showLibraryFilter(const QString& text);
     void showByVariables();
 
-    /// Puts a condition in the place of the grid's dataset filter; an empty one clears it.
-    /// @return  whether nothing went wrong, which has been told
-    [[nodiscard]] bool applyDataFilter(const QString& condition);
-    /// What stands behind the "if" of a dataset filter's text.
-    [[nodiscard]] static QString conditionOf(const QString& datasetFilterText);
+    /// Lets the user edit the condition of the grid's dataset filter. An empty one clears it, and a
+    /// wrong one can be mended.
+    void editDataFilter(UserPrompts& prompts);
 
 signals:
     /// The library filter may have changed without a grid that would tell.
@@ -47,6 +46,7 @@ private:
     void submit(BoxLine::Box box, const QString& line, bool isEdited);
     [[nodiscard]] CommandOutcome run(const BoxLine& line);
     [[nodiscard]] CommandBar& barOf(BoxLine::Box box) const;
+    [[nodiscard]] bool applyDataFilter(const QString& condition);
     void leaveBoxes();
 
     QMainWindow& m_window;

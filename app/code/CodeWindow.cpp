@@ -108,9 +108,8 @@ void CodeWindow::submit()
         m_services.showMessage(
             tr("Nothing has been run. Line %1: %2").arg(wrong->statement.line).arg(wrong->message));
     } else if (!report.marks.empty()) {
-        m_services.showMessage(
-            tr("Run on %1, with %n statement(s) passed over.", "", int(report.marks.size()))
-                .arg(m_datasetName));
+        m_services.showMessage(tr("Run on %1. Statements passed over: %2")
+                                   .arg(m_datasetName, QString::number(report.marks.size())));
     } else {
         m_services.showMessage(tr("Run on %1.").arg(m_datasetName));
     }
@@ -220,7 +219,7 @@ bool CodeWindow::mayGo()
     return true;
 }
 
-/// A program that is wanted no longer is asked for once.
+/// A program that is given up stays one that is not saved: another may keep the window open.
 bool CodeWindow::mayGo(int tab)
 {
     ProgramEditor& editor = editorAt(tab);
@@ -232,11 +231,8 @@ bool CodeWindow::mayGo(int tab)
         m_prompts.askToSave(tr("Save SAS Program"),
                             tr("The program %1 is not saved.\nDo you want to save it?")
                                 .arg(editor.property(nameProperty).toString()));
-    if (answer == UserPrompts::Unsaved::Discard) {
-        editor.document()->setModified(false);
-        return true;
-    }
-    return answer == UserPrompts::Unsaved::Save && save();
+    return answer == UserPrompts::Unsaved::Discard
+        || (answer == UserPrompts::Unsaved::Save && save());
 }
 
 void CodeWindow::close(int tab)

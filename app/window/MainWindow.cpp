@@ -543,23 +543,9 @@ void MainWindow::on_actionOptions_triggered()
     }
 }
 
-/// A condition that is wrong can be mended.
 void MainWindow::editDataFilter()
 {
-    if (m_activeView == nullptr) {
-        return;
-    }
-    QString text = CommandBoxes::conditionOf(m_activeView->opened()->datasetFilterText());
-    bool isApplied = false;
-    while (!isApplied) {
-        const std::optional<QString> edited = m_prompts->editDataFilter(text);
-        if (!edited) {
-            spdlog::info("Filter canceled");
-            return;
-        }
-        text = *edited;
-        isApplied = m_boxes->applyDataFilter(text);
-    }
+    m_boxes->editDataFilter(*m_prompts);
 }
 
 void MainWindow::submitProgram()

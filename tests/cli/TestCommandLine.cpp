@@ -187,6 +187,8 @@ TEST_F(CommandLine, problemsNameTheFileOrVariable)
     EXPECT_EQ(condition.code, 2);
     EXPECT_EQ(condition.out, "");
     EXPECT_NE(condition.err.find("expect value"), std::string::npos) << condition.err;
+    EXPECT_NE(run("rows", "--where \"AVLA > 1\"").err.find("did you mean AVAL?"),
+              std::string::npos);
     EXPECT_EQ(run("contents", "", "ae.txt").code, 2);
     EXPECT_EQ(run("rows", "--member DM").code, 2);
     EXPECT_EQ(run("rows", "--format xml").code, 2);
