@@ -111,9 +111,9 @@ TEST(SpssFormat, showsNumbersAsSpssPrintsThem)
 
 TEST(SpssFormat, tellsItsDecimals)
 {
-    for (const auto& [format, decimals] : {std::pair("F9.2", 2), std::pair("DATETIME23.2", 2),
-                                           std::pair("IB4.1", 1), std::pair("DATE11", 0),
-                                           std::pair("F40.16", 16), std::pair("", 0)}) {
+    for (const auto& [format, decimals] :
+         {std::pair("F9.2", 2), std::pair("DATETIME23.2", 2), std::pair("IB4.1", 1),
+          std::pair("DATE11", 0), std::pair("F40.16", 16), std::pair("", 0)}) {
         EXPECT_EQ(spss::decimalsOf(format), decimals) << format;
     }
 }
