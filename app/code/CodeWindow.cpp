@@ -4,6 +4,7 @@
 #include "app/code/ProgramWindow.h"
 #include "app/dialogs/UserPrompts.h"
 #include "app/start/Settings.h"
+#include "app/window/DatasetWindow.h"
 #include "app/window/GridServices.h"
 #include "app/window/PlainTitle.h"
 #include "grid/MainTableView.h"
@@ -50,15 +51,16 @@ CodeWindow::CodeWindow(GridServices& services, UserPrompts& prompts, Settings& s
 
 // The program of the grid
 
-void CodeWindow::follow(MainTableView* grid, const QString& filePath, const QString& datasetName)
+void CodeWindow::follow(MainTableView* grid)
 {
     if (m_grid != nullptr) {
         disconnect(m_grid->opened(), nullptr, this, nullptr);
     }
     m_grid = grid;
-    m_filePath = filePath;
-    m_datasetName = datasetName;
     if (grid != nullptr) {
+        const auto* window = qobject_cast<DatasetWindow*>(grid->parentWidget());
+        m_filePath = window->property("filePath").toString();
+        m_datasetName = window->datasetName();
         const OpenDataset* opened = grid->opened();
         connect(opened, &OpenDataset::signalFiltersChanged, this, &CodeWindow::generate);
         connect(opened, &OpenDataset::signalVariablesChanged, this, &CodeWindow::generate);

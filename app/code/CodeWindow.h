@@ -23,7 +23,7 @@ public:
                QWidget* parent = nullptr);
 
     /// Shows the program of what a grid shows from now on; null for none.
-    void follow(MainTableView* grid, const QString& filePath, const QString& datasetName);
+    void follow(MainTableView* grid);
 
     void addProgram();
     void openPrograms();

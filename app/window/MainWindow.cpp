@@ -225,7 +225,7 @@ void MainWindow::connectActions()
     run(m_actions->checkForUpdates, &MainWindow::on_actionCheckForUpdates_triggered);
     run(m_actions->documentation, &MainWindow::on_actionDocumentation_triggered);
     run(m_actions->options, &MainWindow::on_actionOptions_triggered);
-    run(m_actions->submit, &MainWindow::submitProgram);
+    connect(m_actions->submit, &QAction::triggered, m_code, &CodeWindow::submit);
     run(m_actions->toggleDarkMode, &MainWindow::toggleDarkMode);
     run(m_actions->editDataFilter, &MainWindow::editDataFilter);
     run(m_actions->nextDataset, &MainWindow::onSwitchWindow);
@@ -548,22 +548,10 @@ void MainWindow::editDataFilter()
     m_boxes->editDataFilter(*m_prompts);
 }
 
-void MainWindow::submitProgram()
-{
-    m_code->submit();
-}
-
 /// Writes the program of a grid, or of the active one.
 void MainWindow::generateSasCode(MainTableView* view)
 {
-    MainTableView* grid = view == nullptr ? activeView() : view;
-    const auto* shown =
-        grid == nullptr ? nullptr : qobject_cast<DatasetWindow*>(grid->parentWidget());
-    if (shown == nullptr) {
-        m_code->follow(nullptr, {}, {});
-    } else {
-        m_code->follow(grid, shown->property("filePath").toString(), shown->datasetName());
-    }
+    m_code->follow(view == nullptr ? activeView() : view);
 }
 
 // Window

@@ -105,7 +105,6 @@ public slots:  // NOLINT(readability-redundant-access-specifiers): moc reads it
     void showDockVar();
     void updateStatus();
     void editDataFilter();
-    void submitProgram();
     void generateSasCode(MainTableView* view = nullptr);
     void toggleDarkMode();
 
