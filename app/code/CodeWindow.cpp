@@ -56,9 +56,10 @@ void CodeWindow::follow(MainTableView* grid)
     if (m_grid != nullptr) {
         disconnect(m_grid->opened(), nullptr, this, nullptr);
     }
-    m_grid = grid;
-    if (grid != nullptr) {
-        const auto* window = qobject_cast<DatasetWindow*>(grid->parentWidget());
+    const auto* window =
+        grid == nullptr ? nullptr : qobject_cast<DatasetWindow*>(grid->parentWidget());
+    m_grid = window == nullptr ? nullptr : grid;
+    if (window != nullptr) {
         m_filePath = window->property("filePath").toString();
         m_datasetName = window->datasetName();
         const OpenDataset* opened = grid->opened();
