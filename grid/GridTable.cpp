@@ -378,6 +378,8 @@ void GridTable::makeCurrent(int variable)
     }
     if (row >= 0) {
         setCurrentIndex(model()->index(row, variable));
+    } else {
+        showCurrentCell();
     }
 }
 

@@ -114,6 +114,10 @@ void TestMainTableView::titlesStandAsTheirCellsAndMarkTheCurrentOne()
     grid.view->cmdHideColumn();
     (void)grid.view->grab();
     QCOMPARE(style.titles.value("SITE"), "left bold");
+    grid.view->cmdRunCommand("if AGE > 90");
+    grid.view->onHeaderClicked(GridFixture::Sex);
+    (void)grid.view->grab();
+    QCOMPARE(style.titles.value("SEX"), "left bold");
     grid.view.reset();
 }
 
