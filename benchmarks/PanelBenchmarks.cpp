@@ -28,6 +28,7 @@ FreqTableView& listOf(ShownGrid& grid, const StatDataset& dataset, const wchar_t
     grid.view().showFrequencyOfSelected(false);
     panel.resize(400, 800);
     panel.show();
+    QCoreApplication::processEvents();  // nothing is painted before the window is exposed
     paint(panel.table());
     return panel.table();
 }
@@ -83,6 +84,7 @@ void toggleVariables(benchmark::State& state)
     ShownGrid grid(*dataset);
     VariableTableView& variables = *grid.view().panels().variables();
     variables.show();
+    QCoreApplication::processEvents();
     auto& header = *qobject_cast<CheckBoxHeader*>(variables.horizontalHeader());
     for (auto _ : state) {
         header.setCheckState(header.checkState() == Qt::Unchecked ? Qt::Checked : Qt::Unchecked);
@@ -97,6 +99,7 @@ void openWideGrid(benchmark::State& state)
     for (auto _ : state) {
         ShownGrid grid(*dataset);
         grid.view().panels().variables()->show();
+        QCoreApplication::processEvents();
         paint(*grid.view().panels().variables());
     }
 }

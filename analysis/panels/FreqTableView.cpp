@@ -244,6 +244,7 @@ void FreqTableView::addFilters(QMenu& menu)
               &FreqTableView::filterByLibrary);
 }
 
+// What it connects changes the view. NOLINTNEXTLINE(readability-make-member-function-const)
 void FreqTableView::addFilter(QMenu& menu, const Result<QString>& condition, const char* key,
                               void (FreqTableView::*act)())
 {
