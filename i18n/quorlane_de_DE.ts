@@ -2,10 +2,123 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>CellPane</name>
+    <message>
+        <source>Cell</source>
+        <translation>Zelle</translation>
+    </message>
+    <message>
+        <source>No cell is current.</source>
+        <translation>Keine Zelle ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>%1, observation %2</source>
+        <translation>%1, Beobachtung %2</translation>
+    </message>
+    <message>
+        <source>The text is empty.</source>
+        <translation>Der Text ist leer.</translation>
+    </message>
+</context>
+<context>
+    <name>CellText</name>
+    <message>
+        <source>Character</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Numeric</source>
+        <translation>Numerisch</translation>
+    </message>
+    <message>
+        <source>Stored value: %1</source>
+        <translation>Gespeicherter Wert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CheckBoxHeader</name>
+    <message>
+        <source>Show all variables</source>
+        <translation>Alle Variablen zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>ChooseDatasetsDialog</name>
+    <message>
+        <source>Open Datasets</source>
+        <translation>Datasets öffnen</translation>
+    </message>
+    <message>
+        <source>%1 holds several &amp;datasets. Which are to be opened?</source>
+        <translation>%1 enthält mehrere &amp;Datasets. Welche sollen geöffnet werden?</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>CodeWindow</name>
+    <message>
+        <source>SAS Programs (*.sas);; All Files (*)</source>
+        <translation>SAS-Programme (*.sas);; Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Nothing has been run. Line %1: %2</source>
+        <translation>Nichts wurde ausgeführt. Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Run on %1. Statements passed over: %2</source>
+        <translation>Ausgeführt auf %1. Übergangene Anweisungen: %2</translation>
+    </message>
+    <message>
+        <source>Run on %1.</source>
+        <translation>Ausgeführt auf %1.</translation>
+    </message>
+    <message>
+        <source>Untitled %1</source>
+        <translation>Unbenannt %1</translation>
+    </message>
+    <message>
+        <source>Open SAS Program</source>
+        <translation>SAS-Programm öffnen</translation>
+    </message>
+    <message>
+        <source>Failed to open the file: %1</source>
+        <translation>Die Datei konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>Save SAS Program</source>
+        <translation>SAS-Programm speichern</translation>
+    </message>
+    <message>
+        <source>Failed to save the file: %1</source>
+        <translation>Die Datei konnte nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>The program %1 is not saved.
+Do you want to save it?</source>
+        <translation>Das Programm %1 ist nicht gespeichert.
+Möchten Sie es speichern?</translation>
+    </message>
+</context>
+<context>
     <name>CommandBoxes</name>
     <message>
         <source>Dataset Filter</source>
-        <translation>Datensatzfilter</translation>
+        <translation>Dataset-Filter</translation>
     </message>
     <message>
         <source>Library Filter</source>
@@ -52,11 +165,11 @@
         <source>&quot;%1&quot; is already open.
 Do you want to reload it?</source>
         <translation>„%1“ ist bereits geöffnet.
-Möchten Sie den Datensatz neu laden?</translation>
+Möchten Sie das Dataset neu laden?</translation>
     </message>
     <message>
         <source>Reload Dataset</source>
-        <translation>Datensatz neu laden</translation>
+        <translation>Dataset neu laden</translation>
     </message>
     <message>
         <source>Open File</source>
@@ -65,6 +178,72 @@ Möchten Sie den Datensatz neu laden?</translation>
     <message>
         <source>Failed to open the file: %1</source>
         <translation>Die Datei konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>Failed to open dataset &apos;%1&apos; in %2.</source>
+        <translation>Das Dataset &apos;%1&apos; in %2 konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The filter could not be kept: %1</source>
+        <translation>Der Filter konnte nicht beibehalten werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DatasetWindow</name>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>%1 - %2 - Quorlane</source>
+        <translation>%1 – %2 – Quorlane</translation>
+    </message>
+    <message>
+        <source>%1 (in %2)</source>
+        <translation>%1 (in %2)</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>changed on disk</source>
+        <translation>auf dem Datenträger geändert</translation>
+    </message>
+    <message>
+        <source>gone from disk</source>
+        <translation>nicht mehr vorhanden</translation>
+    </message>
+    <message>
+        <source>The file has changed since it was read; what is shown here is what it held before.</source>
+        <translation>Die Datei hat sich geändert, seit sie gelesen wurde; hier ist zu sehen, was sie vorher enthielt.</translation>
+    </message>
+    <message>
+        <source>The file is no longer there; what is shown here is what it held.</source>
+        <translation>Die Datei ist nicht mehr vorhanden; hier ist zu sehen, was sie enthielt.</translation>
+    </message>
+</context>
+<context>
+    <name>DistributionChart</name>
+    <message>
+        <source>Distribution</source>
+        <translation>Verteilung</translation>
+    </message>
+    <message>
+        <source>The first %1 of %2 groups.</source>
+        <translation>Die ersten %1 von %2 Gruppen.</translation>
+    </message>
+    <message>
+        <source>Missing, not drawn: %1</source>
+        <translation>Fehlend, nicht gezeichnet: %1</translation>
+    </message>
+    <message>
+        <source>%1: minimum %2, quartiles %3 and %5, median %4, maximum %6</source>
+        <translation>%1: Minimum %2, Quartile %3 und %5, Median %4, Maximum %6</translation>
+    </message>
+    <message>
+        <source>From %1 to below %2: %3</source>
+        <translation>Von %1 bis unter %2: %3</translation>
     </message>
 </context>
 <context>
@@ -121,6 +300,14 @@ Möchten Sie den Datensatz neu laden?</translation>
         <source>Univariate - %1</source>
         <translation>Univariat - %1</translation>
     </message>
+    <message>
+        <source>Cell</source>
+        <translation>Zelle</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation>Zeile</translation>
+    </message>
 </context>
 <context>
     <name>EmptyState</name>
@@ -138,7 +325,7 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
     <message>
         <source>No dataset is open. Choose what to open:</source>
-        <translation>Es ist kein Datensatz geöffnet. Was soll geöffnet werden?</translation>
+        <translation>Es ist kein Dataset geöffnet. Was soll geöffnet werden?</translation>
     </message>
     <message>
         <source>Opened recently</source>
@@ -150,14 +337,340 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
 </context>
 <context>
+    <name>EngineMessages</name>
+    <message>
+        <source>unknown command</source>
+        <translation>unbekannter Befehl</translation>
+    </message>
+    <message>
+        <source>command must start with identifier</source>
+        <translation>ein Befehl muss mit einem Wort beginnen</translation>
+    </message>
+    <message>
+        <source>table needs variable(s)</source>
+        <translation>table braucht Variablen</translation>
+    </message>
+    <message>
+        <source>clear must follow library|dataset</source>
+        <translation>auf clear muss library oder dataset folgen</translation>
+    </message>
+    <message>
+        <source>expect &apos;filter&apos;</source>
+        <translation>&apos;filter&apos; erwartet</translation>
+    </message>
+    <message>
+        <source>expect variable name</source>
+        <translation>Variablenname erwartet</translation>
+    </message>
+    <message>
+        <source>expect variable</source>
+        <translation>Variable erwartet</translation>
+    </message>
+    <message>
+        <source>expect &apos;)&apos;</source>
+        <translation>&apos;)&apos; erwartet</translation>
+    </message>
+    <message>
+        <source>expect &apos;,&apos;</source>
+        <translation>&apos;,&apos; erwartet</translation>
+    </message>
+    <message>
+        <source>expect &apos;(&apos; after in</source>
+        <translation>&apos;(&apos; nach in erwartet</translation>
+    </message>
+    <message>
+        <source>expect variable name or a function</source>
+        <translation>Variablenname oder Funktion erwartet</translation>
+    </message>
+    <message>
+        <source>expect string literal</source>
+        <translation>Text in Anführungszeichen erwartet</translation>
+    </message>
+    <message>
+        <source>expect operator</source>
+        <translation>Operator erwartet</translation>
+    </message>
+    <message>
+        <source>expect value</source>
+        <translation>Wert erwartet</translation>
+    </message>
+    <message>
+        <source>expect null</source>
+        <translation>null erwartet</translation>
+    </message>
+    <message>
+        <source>too many parentheses</source>
+        <translation>zu viele Klammern</translation>
+    </message>
+    <message>
+        <source>unexpected trailing text</source>
+        <translation>unerwarteter Text am Ende</translation>
+    </message>
+    <message>
+        <source>unknown character in input</source>
+        <translation>unbekanntes Zeichen in der Eingabe</translation>
+    </message>
+    <message>
+        <source>unterminated string literal</source>
+        <translation>Text ohne schließendes Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>The variable types do not match.</source>
+        <translation>Die Typen der Variablen passen nicht zueinander.</translation>
+    </message>
+    <message>
+        <source>There is no variable named %1</source>
+        <translation>Es gibt keine Variable namens %1</translation>
+    </message>
+    <message>
+        <source>The number %1 is out of range</source>
+        <translation>Die Zahl %1 liegt außerhalb des zulässigen Bereichs</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid date</source>
+        <translation>%1 ist kein gültiges Datum</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid time</source>
+        <translation>%1 ist keine gültige Uhrzeit</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid date-time</source>
+        <translation>%1 ist kein gültiger Zeitpunkt</translation>
+    </message>
+    <message>
+        <source>%1 does not count days or seconds and cannot be compared with a date or time</source>
+        <translation>%1 zählt weder Tage noch Sekunden und kann nicht mit einem Datum oder einer Uhrzeit verglichen werden</translation>
+    </message>
+    <message>
+        <source>This is no such filter: %1</source>
+        <translation>Das ist kein solcher Filter: %1</translation>
+    </message>
+    <message>
+        <source>Library Filter supports one level only. Please clear library filter first.</source>
+        <translation>Der Bibliotheksfilter hat nur eine Stufe. Bitte zuerst den Bibliotheksfilter aufheben.</translation>
+    </message>
+    <message>
+        <source>No dataset is open that this could act on.</source>
+        <translation>Es ist kein Dataset geöffnet, auf das dies wirken könnte.</translation>
+    </message>
+    <message>
+        <source>A text with both kinds of quotes cannot be written in a filter: %1</source>
+        <translation>Ein Text mit beiden Arten von Anführungszeichen kann in keinem Filter stehen: %1</translation>
+    </message>
+    <message>
+        <source>A text with invalid characters cannot be written in a filter</source>
+        <translation>Ein Text mit ungültigen Zeichen kann in keinem Filter stehen</translation>
+    </message>
+    <message>
+        <source>There is no value to filter by</source>
+        <translation>Es gibt keinen Wert, nach dem gefiltert werden könnte</translation>
+    </message>
+    <message>
+        <source>%1 holds numbers, which contain no text</source>
+        <translation>%1 enthält Zahlen, in denen kein Text vorkommt</translation>
+    </message>
+    <message>
+        <source>The variable %1 cannot be filtered: its name is more than letters, digits and _</source>
+        <translation>Die Variable %1 kann nicht gefiltert werden: Ihr Name besteht nicht nur aus Buchstaben, Ziffern und _</translation>
+    </message>
+    <message>
+        <source>An infinite number cannot be written in a filter</source>
+        <translation>Eine unendliche Zahl kann in keinem Filter stehen</translation>
+    </message>
+    <message>
+        <source>Not a regular file</source>
+        <translation>Keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>Its suffix belongs to no kind of data file that can be opened</source>
+        <translation>Ihre Endung gehört zu keiner Art von Datendatei, die geöffnet werden kann</translation>
+    </message>
+    <message>
+        <source>A file of this kind holds one dataset only; it has none named %1</source>
+        <translation>Eine Datei dieser Art enthält nur ein Dataset; sie hat keines namens %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to hold it</source>
+        <translation>Der Arbeitsspeicher reicht für sie nicht aus</translation>
+    </message>
+    <message>
+        <source>Its header promises %1 observations, but it is too short to hold them</source>
+        <translation>Ihr Kopf verspricht %1 Beobachtungen, doch dafür ist sie zu kurz</translation>
+    </message>
+    <message>
+        <source>It has %1 observations; at most %2 can be shown</source>
+        <translation>Sie hat %1 Beobachtungen; höchstens %2 können gezeigt werden</translation>
+    </message>
+    <message>
+        <source>The counts in its header are damaged</source>
+        <translation>Die Anzahlen in ihrem Kopf sind beschädigt</translation>
+    </message>
+    <message>
+        <source>It describes more variables than its header counts</source>
+        <translation>Sie beschreibt mehr Variablen, als ihr Kopf zählt</translation>
+    </message>
+    <message>
+        <source>Its header is damaged</source>
+        <translation>Ihr Kopf ist beschädigt</translation>
+    </message>
+    <message>
+        <source>Its long strings are damaged</source>
+        <translation>Ihre langen Texte sind beschädigt</translation>
+    </message>
+    <message>
+        <source>Its header names an unknown compression (%1); it was read as uncompressed</source>
+        <translation>Ihr Kopf nennt eine unbekannte Komprimierung (%1); sie wurde als unkomprimiert gelesen</translation>
+    </message>
+    <message>
+        <source>It is no SAS transport file</source>
+        <translation>Sie ist keine SAS-Transportdatei</translation>
+    </message>
+    <message>
+        <source>It holds no data set</source>
+        <translation>Sie enthält kein Dataset</translation>
+    </message>
+    <message>
+        <source>It has no data set named %1; it has %2</source>
+        <translation>Sie enthält kein Dataset namens %1, sondern %2</translation>
+    </message>
+    <message>
+        <source>It promises %1 variables, but it is too short to describe them</source>
+        <translation>Sie verspricht %1 Variablen, ist aber zu kurz, um sie zu beschreiben</translation>
+    </message>
+    <message>
+        <source>The record that starts a data set is damaged</source>
+        <translation>Der Eintrag am Beginn eines Datasets ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The record that counts the variables is damaged</source>
+        <translation>Der Eintrag, der die Variablen zählt, ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The record that starts the observations is missing</source>
+        <translation>Der Eintrag am Beginn der Beobachtungen fehlt</translation>
+    </message>
+    <message>
+        <source>The record that counts the long labels is damaged</source>
+        <translation>Der Eintrag, der die langen Labels zählt, ist beschädigt</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>Sie ist leer</translation>
+    </message>
+    <message>
+        <source>It is cut short, or the sizes in its header are damaged</source>
+        <translation>Sie ist abgeschnitten, oder die Größen in ihrem Kopf sind beschädigt</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for what its header promises</source>
+        <translation>Der Arbeitsspeicher reicht nicht für das, was ihr Kopf verspricht</translation>
+    </message>
+    <message>
+        <source>Its header promises %1 pages, but it is too short to hold them</source>
+        <translation>Ihr Kopf verspricht %1 Seiten, doch dafür ist sie zu kurz</translation>
+    </message>
+    <message>
+        <source>The description of its variables is missing</source>
+        <translation>Die Beschreibung ihrer Variablen fehlt</translation>
+    </message>
+    <message>
+        <source>It counts %1 variables, but describes %2</source>
+        <translation>Sie zählt %1 Variablen, beschreibt aber %2</translation>
+    </message>
+    <message>
+        <source>It counts %1 deleted observations, but marks %2</source>
+        <translation>Sie zählt %1 gelöschte Beobachtungen, kennzeichnet aber %2</translation>
+    </message>
+    <message>
+        <source>It is cut short within an observation</source>
+        <translation>Sie ist innerhalb einer Beobachtung abgeschnitten</translation>
+    </message>
+    <message>
+        <source>It is cut short within observation %1</source>
+        <translation>Sie ist innerhalb der Beobachtung %1 abgeschnitten</translation>
+    </message>
+    <message>
+        <source>Its header counts %1 observations, but it holds %2</source>
+        <translation>Ihr Kopf zählt %1 Beobachtungen, doch sie enthält %2</translation>
+    </message>
+    <message>
+        <source>It does not end with a whole record: observations at its end may be missing</source>
+        <translation>Sie endet nicht mit einem ganzen Eintrag: Am Ende können Beobachtungen fehlen</translation>
+    </message>
+    <message>
+        <source>Variable %1 has an impossible length, %2</source>
+        <translation>Die Variable %1 hat eine unmögliche Länge, %2</translation>
+    </message>
+    <message>
+        <source>It has no variables</source>
+        <translation>Sie hat keine Variablen</translation>
+    </message>
+    <message>
+        <source>%1 of its long texts are missing; their cells are empty</source>
+        <translation>%1 ihrer langen Texte fehlen; deren Zellen sind leer</translation>
+    </message>
+    <message>
+        <source>Unable to read from file</source>
+        <translation>Die Datei konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Unable to allocate memory</source>
+        <translation>Der Arbeitsspeicher reicht nicht aus</translation>
+    </message>
+    <message>
+        <source>Unable to seek within file</source>
+        <translation>In der Datei konnte keine Stelle gesucht werden</translation>
+    </message>
+    <message>
+        <source>Invalid file, or file has unsupported features</source>
+        <translation>Die Datei ist ungültig oder nutzt etwas, das nicht unterstützt wird</translation>
+    </message>
+    <message>
+        <source>File has unsupported compression scheme</source>
+        <translation>Die Komprimierung der Datei wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>File has an unsupported character set</source>
+        <translation>Der Zeichensatz der Datei wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>File did not contain the expected number of columns</source>
+        <translation>Die Datei enthält nicht die erwartete Anzahl von Spalten</translation>
+    </message>
+    <message>
+        <source>File did not contain the expected number of rows</source>
+        <translation>Die Datei enthält nicht die erwartete Anzahl von Zeilen</translation>
+    </message>
+    <message>
+        <source>A row in the file was not the expected length</source>
+        <translation>Eine Zeile der Datei hat nicht die erwartete Länge</translation>
+    </message>
+    <message>
+        <source>Unable to convert string to the requested encoding</source>
+        <translation>Ein Text konnte nicht in den gewünschten Zeichensatz umgewandelt werden</translation>
+    </message>
+    <message>
+        <source>The file&apos;s timestamp string is invalid</source>
+        <translation>Der Zeitstempel der Datei ist ungültig</translation>
+    </message>
+</context>
+<context>
+    <name>FailureNote</name>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>Meinten Sie %1?</translation>
+    </message>
+</context>
+<context>
     <name>FileKinds</name>
     <message>
         <source>Open SAS Datasets</source>
-        <translation>SAS-Datensätze öffnen</translation>
+        <translation>SAS-Datasets öffnen</translation>
     </message>
     <message>
         <source>SAS Data Files (*.sas7bdat);; SAS Transport Files (*.xpt)</source>
-        <translation>SAS-Datensätze (*.sas7bdat);; SAS-Transportdateien (*.xpt)</translation>
+        <translation>SAS-Datasets (*.sas7bdat);; SAS-Transportdateien (*.xpt)</translation>
     </message>
     <message>
         <source>Open Dataset-JSON Files</source>
@@ -169,7 +682,7 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
     <message>
         <source>Open R Datasets</source>
-        <translation>R-Datensätze öffnen</translation>
+        <translation>R-Datasets öffnen</translation>
     </message>
     <message>
         <source>R Data Files (*.rds);; R Data Files (*.rdata);; R Data Files (*.rda)</source>
@@ -177,7 +690,7 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
     <message>
         <source>Open SPSS Datasets</source>
-        <translation>SPSS-Datensätze öffnen</translation>
+        <translation>SPSS-Datasets öffnen</translation>
     </message>
     <message>
         <source>SPSS Data Files (*.sav)</source>
@@ -185,7 +698,7 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
     <message>
         <source>Open Stata Datasets</source>
-        <translation>Stata-Datensätze öffnen</translation>
+        <translation>Stata-Datasets öffnen</translation>
     </message>
     <message>
         <source>Stata Data Files (*.dta)</source>
@@ -240,6 +753,75 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
 </context>
 <context>
+    <name>FreqTableModel</name>
+    <message>
+        <source>Freq (%1)</source>
+        <translation>Häuf. (%1)</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Häufigkeit</translation>
+    </message>
+</context>
+<context>
+    <name>FreqTableView</name>
+    <message>
+        <source>Frequency</source>
+        <translation>Häufigkeit</translation>
+    </message>
+    <message>
+        <source>Choose a value of a variable to filter by.</source>
+        <translation>Wählen Sie den Wert einer Variablen, nach dem gefiltert werden soll.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Clear Library Filter</source>
+        <translation>Bibliotheksfilter aufheben</translation>
+    </message>
+    <message>
+        <source>Undo Dataset Filter</source>
+        <translation>Dataset-Filter zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Clear Dataset Filter</source>
+        <translation>Dataset-Filter aufheben</translation>
+    </message>
+</context>
+<context>
+    <name>FrequencyPanel</name>
+    <message>
+        <source>Rows: %1</source>
+        <translation>Zeilen: %1</translation>
+    </message>
+    <message>
+        <source>Sum: %1</source>
+        <translation>Summe: %1</translation>
+    </message>
+    <message>
+        <source>Subjects: %1</source>
+        <translation>Personen: %1</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Ausgewählt: %1</translation>
+    </message>
+    <message>
+        <source>Selected: %1 (%2 %)</source>
+        <translation>Ausgewählt: %1 (%2 %)</translation>
+    </message>
+    <message>
+        <source>There is no variable %1: observations are counted.</source>
+        <translation>Es gibt keine Variable %1: gezählt werden Beobachtungen.</translation>
+    </message>
+    <message>
+        <source>Counted under other filters than those in force now.</source>
+        <translation>Gezählt unter anderen Filtern als den jetzt geltenden.</translation>
+    </message>
+</context>
+<context>
     <name>GridContextMenu</name>
     <message>
         <source>Copy</source>
@@ -283,11 +865,11 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
     <message>
         <source>Clear Dataset Filter	C</source>
-        <translation>Datensatzfilter aufheben	C</translation>
+        <translation>Dataset-Filter aufheben	C</translation>
     </message>
     <message>
         <source>Undo Dataset Filter	Z</source>
-        <translation>Letzten Datensatzfilter zurücknehmen	Z</translation>
+        <translation>Letzten Dataset-Filter zurücknehmen	Z</translation>
     </message>
     <message>
         <source>Frequency	F</source>
@@ -322,10 +904,46 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
 </context>
 <context>
+    <name>GridEmptiness</name>
+    <message>
+        <source>No row meets the filters.</source>
+        <translation>Keine Zeile erfüllt die Filter.</translation>
+    </message>
+    <message>
+        <source>%1 takes the last step of the dataset filter back, %2 clears it.</source>
+        <translation>%1 nimmt den letzten Schritt des Dataset-Filters zurück, %2 hebt ihn auf.</translation>
+    </message>
+    <message>
+        <source>%1 clears the library filter.</source>
+        <translation>%1 hebt den Bibliotheksfilter auf.</translation>
+    </message>
+    <message>
+        <source>This dataset has no variables.</source>
+        <translation>Dieses Dataset hat keine Variablen.</translation>
+    </message>
+    <message>
+        <source>This dataset has no observations.</source>
+        <translation>Dieses Dataset hat keine Beobachtungen.</translation>
+    </message>
+    <message>
+        <source>All variables are hidden.
+%1 shows them again.</source>
+        <translation>Alle Variablen sind ausgeblendet.
+%1 blendet sie wieder ein.</translation>
+    </message>
+</context>
+<context>
     <name>GridServices</name>
     <message>
         <source>Command</source>
         <translation>Befehl</translation>
+    </message>
+</context>
+<context>
+    <name>LoadProgress</name>
+    <message>
+        <source>Opening %1 …</source>
+        <translation>%1 wird geöffnet …</translation>
     </message>
 </context>
 <context>
@@ -407,10 +1025,17 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
 </context>
 <context>
+    <name>LongLineEdit</name>
+    <message>
+        <source>This is not in force yet. Return runs it, Escape puts back what is.</source>
+        <translation>Dies gilt noch nicht. Eingabe führt es aus, Escape stellt das Geltende wieder her.</translation>
+    </message>
+</context>
+<context>
     <name>MainActions</name>
     <message>
         <source>Open SAS Datasets</source>
-        <translation>SAS-Datensätze öffnen</translation>
+        <translation>SAS-Datasets öffnen</translation>
     </message>
     <message>
         <source>Open Dataset-JSON Files</source>
@@ -430,15 +1055,15 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
     <message>
         <source>Open R Datasets</source>
-        <translation>R-Datensätze öffnen</translation>
+        <translation>R-Datasets öffnen</translation>
     </message>
     <message>
         <source>Open SPSS Datasets</source>
-        <translation>SPSS-Datensätze öffnen</translation>
+        <translation>SPSS-Datasets öffnen</translation>
     </message>
     <message>
         <source>Open Stata Datasets</source>
-        <translation>Stata-Datensätze öffnen</translation>
+        <translation>Stata-Datasets öffnen</translation>
     </message>
     <message>
         <source>Open CSV Files</source>
@@ -482,7 +1107,7 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
     <message>
         <source>Compare Datasets</source>
-        <translation>Datensätze vergleichen</translation>
+        <translation>Datasets vergleichen</translation>
     </message>
     <message>
         <source>Submit</source>
@@ -506,7 +1131,7 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
     <message>
         <source>Next Dataset Tab</source>
-        <translation>Nächster Datensatz-Tab</translation>
+        <translation>Nächster Dataset-Tab</translation>
     </message>
     <message>
         <source>Show left dock window and main window</source>
@@ -530,7 +1155,7 @@ Möchten Sie den Datensatz neu laden?</translation>
     </message>
     <message>
         <source>Go to Dataset Filter</source>
-        <translation>Zum Datensatzfilter</translation>
+        <translation>Zum Dataset-Filter</translation>
     </message>
     <message>
         <source>Find Next</source>
@@ -547,6 +1172,34 @@ Möchten Sie den Datensatz neu laden?</translation>
     <message>
         <source>Put docks and toolbars where they stood at first</source>
         <translation>Stellt Andockfenster und Werkzeugleisten an ihren ersten Platz</translation>
+    </message>
+    <message>
+        <source>Open SAS Program</source>
+        <translation>SAS-Programm öffnen</translation>
+    </message>
+    <message>
+        <source>Save SAS Program</source>
+        <translation>SAS-Programm speichern</translation>
+    </message>
+    <message>
+        <source>Save SAS Program As</source>
+        <translation>SAS-Programm speichern unter</translation>
+    </message>
+    <message>
+        <source>Reload Dataset</source>
+        <translation>Dataset neu laden</translation>
+    </message>
+    <message>
+        <source>Read the file anew and keep filters, columns, order and place</source>
+        <translation>Die Datei neu lesen und Filter, Spalten, Reihenfolge und Stelle beibehalten</translation>
+    </message>
+    <message>
+        <source>Copy Stored Values</source>
+        <translation>Gespeicherte Werte kopieren</translation>
+    </message>
+    <message>
+        <source>Copy with Names</source>
+        <translation>Mit Namen kopieren</translation>
     </message>
 </context>
 <context>
@@ -641,14 +1294,6 @@ Möchten Sie den Datensatz neu laden?</translation>
         <translation>Das Programm wird jetzt beendet.</translation>
     </message>
     <message>
-        <source>New SAS Program</source>
-        <translation>Neues SAS-Programm</translation>
-    </message>
-    <message>
-        <source>The program in the Code window will be cleared. Go on?</source>
-        <translation>Das Programm im Code-Fenster wird gelöscht. Fortfahren?</translation>
-    </message>
-    <message>
         <source>About Quorlane</source>
         <translation>Über Quorlane</translation>
     </message>
@@ -657,8 +1302,23 @@ Möchten Sie den Datensatz neu laden?</translation>
 A viewer for statistical and clinical-trial datasets.
 Data files are only ever read.</source>
         <translation>Quorlane %1
-Ein Betrachter für Datensätze aus Statistik und klinischen Studien.
+Ein Betrachter für Datasets aus Statistik und klinischen Studien.
 Datendateien werden ausschließlich gelesen.</translation>
+    </message>
+    <message>
+        <source>No browser could show %1</source>
+        <translation>Kein Browser konnte %1 anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>OperatorLabel</name>
+    <message>
+        <source>The keys d and = filter by the current cell with this operator</source>
+        <translation>Die Tasten d und = filtern mit diesem Operator nach der aktuellen Zelle</translation>
+    </message>
+    <message>
+        <source>Key d: %1</source>
+        <translation>Taste d: %1</translation>
     </message>
 </context>
 <context>
@@ -688,14 +1348,29 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Statements for the active dataset: where, if, keep, drop, by</source>
-        <translation>Anweisungen für den aktiven Datensatz: where, if, keep, drop, by</translation>
+        <translation>Anweisungen für das aktive Dataset: where, if, keep, drop, by</translation>
     </message>
 </context>
 <context>
     <name>ProgramRunner</name>
     <message>
-        <source>Not all of these are variables.</source>
-        <translation>Nicht alle dieser Namen sind Variablen.</translation>
+        <source>This statement is passed over.</source>
+        <translation>Diese Anweisung wird übergangen.</translation>
+    </message>
+    <message>
+        <source>A quote or comment is not closed.</source>
+        <translation>Ein Anführungszeichen oder Kommentar ist nicht geschlossen.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWindow</name>
+    <message>
+        <source>SAS program of the active dataset</source>
+        <translation>SAS-Programm der aktiven Datei</translation>
+    </message>
+    <message>
+        <source>The program of what the active dataset shows</source>
+        <translation>Das Programm zu dem, was die aktive Datei zeigt</translation>
     </message>
 </context>
 <context>
@@ -726,6 +1401,32 @@ Datendateien werden ausschließlich gelesen.</translation>
     <message>
         <source>%1 (in %2)</source>
         <translation>%1 (in %2)</translation>
+    </message>
+</context>
+<context>
+    <name>RowModel</name>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Value in observation %1</source>
+        <translation>Wert in Beobachtung %1</translation>
+    </message>
+</context>
+<context>
+    <name>RowPane</name>
+    <message>
+        <source>Row</source>
+        <translation>Zeile</translation>
     </message>
 </context>
 <context>
@@ -791,11 +1492,11 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Open SAS Datasets</source>
-        <translation>SAS-Datensätze öffnen</translation>
+        <translation>SAS-Datasets öffnen</translation>
     </message>
     <message>
         <source>Open a SAS dataset.</source>
-        <translation>Öffnet einen SAS-Datensatz.</translation>
+        <translation>Öffnet ein SAS-Dataset.</translation>
     </message>
     <message>
         <source>Toggle Dark Mode</source>
@@ -807,11 +1508,11 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Next Dataset Tab</source>
-        <translation>Nächster Datensatz-Tab</translation>
+        <translation>Nächster Dataset-Tab</translation>
     </message>
     <message>
         <source>Switch to the next dataset window.</source>
-        <translation>Wechselt zum nächsten Datensatzfenster.</translation>
+        <translation>Wechselt zum nächsten Dataset-Fenster.</translation>
     </message>
     <message>
         <source>Exit Application</source>
@@ -831,7 +1532,7 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Dataset Filter, In operator</source>
-        <translation>Datensatzfilter: in</translation>
+        <translation>Dataset-Filter: in</translation>
     </message>
     <message>
         <source>Filter data with operator &apos;in&apos;.</source>
@@ -839,7 +1540,7 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Dataset Filter, Equal</source>
-        <translation>Datensatzfilter: gleich</translation>
+        <translation>Dataset-Filter: gleich</translation>
     </message>
     <message>
         <source>Filter data with operator =.</source>
@@ -847,7 +1548,7 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Dataset Filter, Uneuqal</source>
-        <translation>Datensatzfilter: ungleich</translation>
+        <translation>Dataset-Filter: ungleich</translation>
     </message>
     <message>
         <source>Filter data with operator ^= or ~=.</source>
@@ -855,7 +1556,7 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Dataset Filter, Greater</source>
-        <translation>Datensatzfilter: größer</translation>
+        <translation>Dataset-Filter: größer</translation>
     </message>
     <message>
         <source>Filter data with operator &gt;.</source>
@@ -863,7 +1564,7 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Dataset Filter, Less</source>
-        <translation>Datensatzfilter: kleiner</translation>
+        <translation>Dataset-Filter: kleiner</translation>
     </message>
     <message>
         <source>Filter data with operator &lt;.</source>
@@ -871,7 +1572,7 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Dataset Filter, Greater or Equal</source>
-        <translation>Datensatzfilter: &gt;=</translation>
+        <translation>Dataset-Filter: &gt;=</translation>
     </message>
     <message>
         <source>Filter data with operator &gt;=.</source>
@@ -879,7 +1580,7 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Dataset Filter, Less or Equal</source>
-        <translation>Datensatzfilter: &lt;=</translation>
+        <translation>Dataset-Filter: &lt;=</translation>
     </message>
     <message>
         <source>Filter data with operator &lt;=.</source>
@@ -887,19 +1588,19 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Dataset Filter, Undo</source>
-        <translation>Datensatzfilter: zurück</translation>
+        <translation>Dataset-Filter: zurück</translation>
     </message>
     <message>
         <source>Undo one step of dataset filter.</source>
-        <translation>Nimmt einen Schritt des Datensatzfilters zurück.</translation>
+        <translation>Nimmt einen Schritt des Dataset-Filters zurück.</translation>
     </message>
     <message>
         <source>Clear Dataset Filter</source>
-        <translation>Datensatzfilter aufheben</translation>
+        <translation>Dataset-Filter aufheben</translation>
     </message>
     <message>
         <source>Clear dataset level filter.</source>
-        <translation>Hebt den Filter des Datensatzes auf.</translation>
+        <translation>Hebt den Filter des Datasets auf.</translation>
     </message>
     <message>
         <source>Library Filter</source>
@@ -923,7 +1624,7 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Get the frequency of the selected variable(s). Select multiple variables by holding down the Ctrl key.</source>
-        <translation>Zählt die Häufigkeiten der ausgewählten Variablen. Mehrere Variablen werden mit gedrückter Ctrl-Taste ausgewählt.</translation>
+        <translation>Zählt die Häufigkeiten der ausgewählten Variablen. Mehrere Variablen werden mit gedrückter Strg-Taste ausgewählt.</translation>
     </message>
     <message>
         <source>Freq (UniqueID)</source>
@@ -931,7 +1632,7 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Count distinct UniqueID of the selected variable(s). Select multiple variables by holding down the Ctrl key.</source>
-        <translation>Zählt die verschiedenen eindeutigen IDs (UniqueID) zu den ausgewählten Variablen. Mehrere Variablen werden mit gedrückter Ctrl-Taste ausgewählt.</translation>
+        <translation>Zählt die verschiedenen eindeutigen IDs (UniqueID) zu den ausgewählten Variablen. Mehrere Variablen werden mit gedrückter Strg-Taste ausgewählt.</translation>
     </message>
     <message>
         <source>Hide Variable</source>
@@ -999,19 +1700,19 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Close Dataset</source>
-        <translation>Datensatz schließen</translation>
+        <translation>Dataset schließen</translation>
     </message>
     <message>
         <source>Close the current dataset.</source>
-        <translation>Schließt den aktuellen Datensatz.</translation>
+        <translation>Schließt das aktuelle Dataset.</translation>
     </message>
     <message>
         <source>Close All Datasets</source>
-        <translation>Alle Datensätze schließen</translation>
+        <translation>Alle Datasets schließen</translation>
     </message>
     <message>
         <source>Close all the opened datasets</source>
-        <translation>Schließt alle geöffneten Datensätze.</translation>
+        <translation>Schließt alle geöffneten Datasets.</translation>
     </message>
     <message>
         <source>Increase the Font Size</source>
@@ -1031,7 +1732,7 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Jump to the focused variable in Dataset Window.</source>
-        <translation>Springt im Datensatzfenster zur Variablen mit dem Fokus.</translation>
+        <translation>Springt im Dataset-Fenster zur Variablen mit dem Fokus.</translation>
     </message>
     <message>
         <source>Global</source>
@@ -1039,7 +1740,7 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
     <message>
         <source>Dataset Window</source>
-        <translation>Datensatzfenster</translation>
+        <translation>Dataset-Fenster</translation>
     </message>
     <message>
         <source>Frequency Window</source>
@@ -1048,6 +1749,37 @@ Datendateien werden ausschließlich gelesen.</translation>
     <message>
         <source>Variables Window</source>
         <translation>Variablenfenster</translation>
+    </message>
+    <message>
+        <source>Show Cell</source>
+        <translation>Zelle zeigen</translation>
+    </message>
+    <message>
+        <source>Show the whole text of the current cell.</source>
+        <translation>Zeigt den ganzen Text der aktuellen Zelle.</translation>
+    </message>
+    <message>
+        <source>Show Row</source>
+        <translation>Zeile zeigen</translation>
+    </message>
+    <message>
+        <source>Show all variables of the current row.</source>
+        <translation>Zeigt alle Variablen der aktuellen Zeile.</translation>
+    </message>
+</context>
+<context>
+    <name>SidePanels</name>
+    <message>
+        <source>Open a dataset to see its variables.</source>
+        <translation>Öffnen Sie ein Dataset, um seine Variablen zu sehen.</translation>
+    </message>
+    <message>
+        <source>Press F in a grid to count the values of the selected variables, or N to count distinct subjects.</source>
+        <translation>Drücken Sie in einer Tabelle F, um die Werte der ausgewählten Variablen zu zählen, oder N, um verschiedene Personen zu zählen.</translation>
+    </message>
+    <message>
+        <source>Select a numeric variable in a grid and press S for its statistics. B adds the current variable to those that they are grouped by.</source>
+        <translation>Wählen Sie in einer Tabelle eine numerische Variable und drücken Sie S für ihre Statistik. B nimmt die aktuelle Variable in die auf, nach denen gruppiert wird.</translation>
     </message>
 </context>
 <context>
@@ -1074,7 +1806,11 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
 </context>
 <context>
-    <name>StatisticsTable</name>
+    <name>StatisticsPanel</name>
+    <message>
+        <source>Made under other filters or BY variables than those in force now.</source>
+        <translation>Entstanden unter anderen Filtern oder BY-Variablen als den jetzt geltenden.</translation>
+    </message>
     <message>
         <source>Descriptive Statistics</source>
         <translation>Deskriptive Statistik</translation>
@@ -1134,7 +1870,7 @@ Datendateien werden ausschließlich gelesen.</translation>
         <source>%1
 This dataset is not filtered by it: %2</source>
         <translation>%1
-Dieser Datensatz wird damit nicht gefiltert: %2</translation>
+Dieses Dataset wird damit nicht gefiltert: %2</translation>
     </message>
     <message>
         <source>DF: %1</source>
@@ -1166,6 +1902,68 @@ Mit „Öffnen“ erhalten Sie die neueste Version:
     <message>
         <source>Update Available</source>
         <translation>Update verfügbar</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>keine rechtzeitige Antwort</translation>
+    </message>
+    <message>
+        <source>the answer is too large</source>
+        <translation>die Antwort ist zu groß</translation>
+    </message>
+    <message>
+        <source>The check for updates has failed: %1</source>
+        <translation>Die Suche nach Aktualisierungen ist fehlgeschlagen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTableModel</name>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Informat</source>
+        <translation>Informat</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTableView</name>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Go to Variable</source>
+        <translation>Gehe zu Variable</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Häufigkeit</translation>
+    </message>
+    <message>
+        <source>Frequency (%1)</source>
+        <translation>Häufigkeit (%1)</translation>
     </message>
 </context>
 <context>

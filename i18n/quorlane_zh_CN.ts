@@ -2,6 +2,119 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>CellPane</name>
+    <message>
+        <source>Cell</source>
+        <translation>单元格</translation>
+    </message>
+    <message>
+        <source>No cell is current.</source>
+        <translation>没有当前单元格。</translation>
+    </message>
+    <message>
+        <source>%1, observation %2</source>
+        <translation>%1，观测 %2</translation>
+    </message>
+    <message>
+        <source>The text is empty.</source>
+        <translation>文本为空。</translation>
+    </message>
+</context>
+<context>
+    <name>CellText</name>
+    <message>
+        <source>Character</source>
+        <translation>字符</translation>
+    </message>
+    <message>
+        <source>Numeric</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>Stored value: %1</source>
+        <translation>存储的值：%1</translation>
+    </message>
+</context>
+<context>
+    <name>CheckBoxHeader</name>
+    <message>
+        <source>Show all variables</source>
+        <translation>显示所有变量</translation>
+    </message>
+</context>
+<context>
+    <name>ChooseDatasetsDialog</name>
+    <message>
+        <source>Open Datasets</source>
+        <translation>打开数据集</translation>
+    </message>
+    <message>
+        <source>%1 holds several &amp;datasets. Which are to be opened?</source>
+        <translation>%1 包含多个数据集(&amp;D)。要打开哪些？</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>CodeWindow</name>
+    <message>
+        <source>SAS Programs (*.sas);; All Files (*)</source>
+        <translation>SAS 程序 (*.sas);; 所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>Nothing has been run. Line %1: %2</source>
+        <translation>未执行任何语句。第 %1 行:%2</translation>
+    </message>
+    <message>
+        <source>Run on %1. Statements passed over: %2</source>
+        <translation>已在 %1 上执行。跳过的语句:%2</translation>
+    </message>
+    <message>
+        <source>Run on %1.</source>
+        <translation>已在 %1 上执行。</translation>
+    </message>
+    <message>
+        <source>Untitled %1</source>
+        <translation>未命名 %1</translation>
+    </message>
+    <message>
+        <source>Open SAS Program</source>
+        <translation>打开 SAS 程序</translation>
+    </message>
+    <message>
+        <source>Failed to open the file: %1</source>
+        <translation>无法打开文件:%1</translation>
+    </message>
+    <message>
+        <source>Save SAS Program</source>
+        <translation>保存 SAS 程序</translation>
+    </message>
+    <message>
+        <source>Failed to save the file: %1</source>
+        <translation>无法保存文件:%1</translation>
+    </message>
+    <message>
+        <source>The program %1 is not saved.
+Do you want to save it?</source>
+        <translation>程序 %1 尚未保存。
+要保存吗?</translation>
+    </message>
+</context>
+<context>
     <name>CommandBoxes</name>
     <message>
         <source>Dataset Filter</source>
@@ -66,6 +179,72 @@ Do you want to reload it?</source>
         <source>Failed to open the file: %1</source>
         <translation>无法打开文件：%1</translation>
     </message>
+    <message>
+        <source>Failed to open dataset &apos;%1&apos; in %2.</source>
+        <translation>无法打开 %2 中的数据集 &apos;%1&apos;。</translation>
+    </message>
+    <message>
+        <source>The filter could not be kept: %1</source>
+        <translation>无法保留筛选：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DatasetWindow</name>
+    <message>
+        <source>Reload</source>
+        <translation>重新加载</translation>
+    </message>
+    <message>
+        <source>%1 - %2 - Quorlane</source>
+        <translation>%1 – %2 – Quorlane</translation>
+    </message>
+    <message>
+        <source>%1 (in %2)</source>
+        <translation>%1（位于 %2）</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>changed on disk</source>
+        <translation>磁盘上已更改</translation>
+    </message>
+    <message>
+        <source>gone from disk</source>
+        <translation>磁盘上已不存在</translation>
+    </message>
+    <message>
+        <source>The file has changed since it was read; what is shown here is what it held before.</source>
+        <translation>该文件在读取后已更改；此处显示的是更改前的内容。</translation>
+    </message>
+    <message>
+        <source>The file is no longer there; what is shown here is what it held.</source>
+        <translation>该文件已不存在；此处显示的是其原有内容。</translation>
+    </message>
+</context>
+<context>
+    <name>DistributionChart</name>
+    <message>
+        <source>Distribution</source>
+        <translation>分布</translation>
+    </message>
+    <message>
+        <source>The first %1 of %2 groups.</source>
+        <translation>共 %2 组，显示前 %1 组。</translation>
+    </message>
+    <message>
+        <source>Missing, not drawn: %1</source>
+        <translation>缺失，未绘出：%1</translation>
+    </message>
+    <message>
+        <source>%1: minimum %2, quartiles %3 and %5, median %4, maximum %6</source>
+        <translation>%1：最小值 %2，四分位数 %3 和 %5，中位数 %4，最大值 %6</translation>
+    </message>
+    <message>
+        <source>From %1 to below %2: %3</source>
+        <translation>从 %1 到小于 %2：%3</translation>
+    </message>
 </context>
 <context>
     <name>DockWindows</name>
@@ -121,6 +300,14 @@ Do you want to reload it?</source>
         <source>Univariate - %1</source>
         <translation>单变量统计 - %1</translation>
     </message>
+    <message>
+        <source>Cell</source>
+        <translation>单元格</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation>行</translation>
+    </message>
 </context>
 <context>
     <name>EmptyState</name>
@@ -147,6 +334,332 @@ Do you want to reload it?</source>
     <message>
         <source>%1 (in %2)</source>
         <translation>%1（位于 %2）</translation>
+    </message>
+</context>
+<context>
+    <name>EngineMessages</name>
+    <message>
+        <source>unknown command</source>
+        <translation>未知命令</translation>
+    </message>
+    <message>
+        <source>command must start with identifier</source>
+        <translation>命令必须以单词开头</translation>
+    </message>
+    <message>
+        <source>table needs variable(s)</source>
+        <translation>table 需要变量</translation>
+    </message>
+    <message>
+        <source>clear must follow library|dataset</source>
+        <translation>clear 后必须是 library 或 dataset</translation>
+    </message>
+    <message>
+        <source>expect &apos;filter&apos;</source>
+        <translation>此处应为 &apos;filter&apos;</translation>
+    </message>
+    <message>
+        <source>expect variable name</source>
+        <translation>此处应为变量名</translation>
+    </message>
+    <message>
+        <source>expect variable</source>
+        <translation>此处应为变量</translation>
+    </message>
+    <message>
+        <source>expect &apos;)&apos;</source>
+        <translation>此处应为 &apos;)&apos;</translation>
+    </message>
+    <message>
+        <source>expect &apos;,&apos;</source>
+        <translation>此处应为 &apos;,&apos;</translation>
+    </message>
+    <message>
+        <source>expect &apos;(&apos; after in</source>
+        <translation>in 后应为 &apos;(&apos;</translation>
+    </message>
+    <message>
+        <source>expect variable name or a function</source>
+        <translation>此处应为变量名或函数</translation>
+    </message>
+    <message>
+        <source>expect string literal</source>
+        <translation>此处应为字符串</translation>
+    </message>
+    <message>
+        <source>expect operator</source>
+        <translation>此处应为运算符</translation>
+    </message>
+    <message>
+        <source>expect value</source>
+        <translation>此处应为值</translation>
+    </message>
+    <message>
+        <source>expect null</source>
+        <translation>此处应为 null</translation>
+    </message>
+    <message>
+        <source>too many parentheses</source>
+        <translation>括号过多</translation>
+    </message>
+    <message>
+        <source>unexpected trailing text</source>
+        <translation>末尾有多余文本</translation>
+    </message>
+    <message>
+        <source>unknown character in input</source>
+        <translation>输入中有未知字符</translation>
+    </message>
+    <message>
+        <source>unterminated string literal</source>
+        <translation>字符串缺少结束引号</translation>
+    </message>
+    <message>
+        <source>The variable types do not match.</source>
+        <translation>变量类型不匹配。</translation>
+    </message>
+    <message>
+        <source>There is no variable named %1</source>
+        <translation>没有名为 %1 的变量</translation>
+    </message>
+    <message>
+        <source>The number %1 is out of range</source>
+        <translation>数值 %1 超出范围</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid date</source>
+        <translation>%1 不是有效日期</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid time</source>
+        <translation>%1 不是有效时间</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid date-time</source>
+        <translation>%1 不是有效的日期时间</translation>
+    </message>
+    <message>
+        <source>%1 does not count days or seconds and cannot be compared with a date or time</source>
+        <translation>%1 既不按天也不按秒计数，无法与日期或时间比较</translation>
+    </message>
+    <message>
+        <source>This is no such filter: %1</source>
+        <translation>这不是此类筛选：%1</translation>
+    </message>
+    <message>
+        <source>Library Filter supports one level only. Please clear library filter first.</source>
+        <translation>库筛选仅支持一级。请先清除库筛选。</translation>
+    </message>
+    <message>
+        <source>No dataset is open that this could act on.</source>
+        <translation>没有打开的数据集可供此命令作用。</translation>
+    </message>
+    <message>
+        <source>A text with both kinds of quotes cannot be written in a filter: %1</source>
+        <translation>同时含有两种引号的文本不能写入筛选：%1</translation>
+    </message>
+    <message>
+        <source>A text with invalid characters cannot be written in a filter</source>
+        <translation>含有无效字符的文本不能写入筛选</translation>
+    </message>
+    <message>
+        <source>There is no value to filter by</source>
+        <translation>没有可用于筛选的值</translation>
+    </message>
+    <message>
+        <source>%1 holds numbers, which contain no text</source>
+        <translation>%1 存放的是数值，其中没有文本</translation>
+    </message>
+    <message>
+        <source>The variable %1 cannot be filtered: its name is more than letters, digits and _</source>
+        <translation>无法按变量 %1 筛选：其名称含有字母、数字和 _ 以外的字符</translation>
+    </message>
+    <message>
+        <source>An infinite number cannot be written in a filter</source>
+        <translation>无穷大数值不能写入筛选</translation>
+    </message>
+    <message>
+        <source>Not a regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>Its suffix belongs to no kind of data file that can be opened</source>
+        <translation>其后缀不属于任何可打开的数据文件类型</translation>
+    </message>
+    <message>
+        <source>A file of this kind holds one dataset only; it has none named %1</source>
+        <translation>此类文件只含一个数据集；其中没有名为 %1 的数据集</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to hold it</source>
+        <translation>内存不足，无法容纳该文件</translation>
+    </message>
+    <message>
+        <source>Its header promises %1 observations, but it is too short to hold them</source>
+        <translation>其文件头声明有 %1 个观测，但文件过短，无法容纳</translation>
+    </message>
+    <message>
+        <source>It has %1 observations; at most %2 can be shown</source>
+        <translation>它有 %1 个观测；最多可显示 %2 个</translation>
+    </message>
+    <message>
+        <source>The counts in its header are damaged</source>
+        <translation>其文件头中的计数已损坏</translation>
+    </message>
+    <message>
+        <source>It describes more variables than its header counts</source>
+        <translation>它描述的变量多于文件头中的计数</translation>
+    </message>
+    <message>
+        <source>Its header is damaged</source>
+        <translation>其文件头已损坏</translation>
+    </message>
+    <message>
+        <source>Its long strings are damaged</source>
+        <translation>其长字符串已损坏</translation>
+    </message>
+    <message>
+        <source>Its header names an unknown compression (%1); it was read as uncompressed</source>
+        <translation>其文件头注明了未知的压缩方式 (%1)；已按未压缩读取</translation>
+    </message>
+    <message>
+        <source>It is no SAS transport file</source>
+        <translation>它不是 SAS 传输文件</translation>
+    </message>
+    <message>
+        <source>It holds no data set</source>
+        <translation>它不含数据集</translation>
+    </message>
+    <message>
+        <source>It has no data set named %1; it has %2</source>
+        <translation>它没有名为 %1 的数据集，而有 %2</translation>
+    </message>
+    <message>
+        <source>It promises %1 variables, but it is too short to describe them</source>
+        <translation>它声明有 %1 个变量，但文件过短，无法描述它们</translation>
+    </message>
+    <message>
+        <source>The record that starts a data set is damaged</source>
+        <translation>数据集的起始记录已损坏</translation>
+    </message>
+    <message>
+        <source>The record that counts the variables is damaged</source>
+        <translation>变量计数记录已损坏</translation>
+    </message>
+    <message>
+        <source>The record that starts the observations is missing</source>
+        <translation>缺少观测的起始记录</translation>
+    </message>
+    <message>
+        <source>The record that counts the long labels is damaged</source>
+        <translation>长标签计数记录已损坏</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>它是空的</translation>
+    </message>
+    <message>
+        <source>It is cut short, or the sizes in its header are damaged</source>
+        <translation>它不完整，或其文件头中的大小已损坏</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for what its header promises</source>
+        <translation>内存不足，无法容纳其文件头所声明的内容</translation>
+    </message>
+    <message>
+        <source>Its header promises %1 pages, but it is too short to hold them</source>
+        <translation>其文件头声明有 %1 页，但文件过短，无法容纳</translation>
+    </message>
+    <message>
+        <source>The description of its variables is missing</source>
+        <translation>缺少对其变量的描述</translation>
+    </message>
+    <message>
+        <source>It counts %1 variables, but describes %2</source>
+        <translation>它计有 %1 个变量，但描述了 %2 个</translation>
+    </message>
+    <message>
+        <source>It counts %1 deleted observations, but marks %2</source>
+        <translation>它计有 %1 个已删除观测，但标记了 %2 个</translation>
+    </message>
+    <message>
+        <source>It is cut short within an observation</source>
+        <translation>它在某个观测中间被截断</translation>
+    </message>
+    <message>
+        <source>It is cut short within observation %1</source>
+        <translation>它在第 %1 个观测中间被截断</translation>
+    </message>
+    <message>
+        <source>Its header counts %1 observations, but it holds %2</source>
+        <translation>其文件头计有 %1 个观测，但它含有 %2 个</translation>
+    </message>
+    <message>
+        <source>It does not end with a whole record: observations at its end may be missing</source>
+        <translation>它没有以完整的记录结束：末尾可能缺少观测</translation>
+    </message>
+    <message>
+        <source>Variable %1 has an impossible length, %2</source>
+        <translation>变量 %1 的长度不可能为 %2</translation>
+    </message>
+    <message>
+        <source>It has no variables</source>
+        <translation>它没有变量</translation>
+    </message>
+    <message>
+        <source>%1 of its long texts are missing; their cells are empty</source>
+        <translation>其 %1 个长文本缺失；相应单元格为空</translation>
+    </message>
+    <message>
+        <source>Unable to read from file</source>
+        <translation>无法读取文件</translation>
+    </message>
+    <message>
+        <source>Unable to allocate memory</source>
+        <translation>无法分配内存</translation>
+    </message>
+    <message>
+        <source>Unable to seek within file</source>
+        <translation>无法在文件中定位</translation>
+    </message>
+    <message>
+        <source>Invalid file, or file has unsupported features</source>
+        <translation>文件无效，或包含不支持的特性</translation>
+    </message>
+    <message>
+        <source>File has unsupported compression scheme</source>
+        <translation>不支持文件的压缩方式</translation>
+    </message>
+    <message>
+        <source>File has an unsupported character set</source>
+        <translation>不支持文件的字符集</translation>
+    </message>
+    <message>
+        <source>File did not contain the expected number of columns</source>
+        <translation>文件的列数与预期不符</translation>
+    </message>
+    <message>
+        <source>File did not contain the expected number of rows</source>
+        <translation>文件的行数与预期不符</translation>
+    </message>
+    <message>
+        <source>A row in the file was not the expected length</source>
+        <translation>文件中某行的长度与预期不符</translation>
+    </message>
+    <message>
+        <source>Unable to convert string to the requested encoding</source>
+        <translation>无法将文本转换为所需编码</translation>
+    </message>
+    <message>
+        <source>The file&apos;s timestamp string is invalid</source>
+        <translation>文件的时间戳无效</translation>
+    </message>
+</context>
+<context>
+    <name>FailureNote</name>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>您是否想输入 %1？</translation>
     </message>
 </context>
 <context>
@@ -240,6 +753,75 @@ Do you want to reload it?</source>
     </message>
 </context>
 <context>
+    <name>FreqTableModel</name>
+    <message>
+        <source>Freq (%1)</source>
+        <translation>频数 (%1)</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>频数</translation>
+    </message>
+</context>
+<context>
+    <name>FreqTableView</name>
+    <message>
+        <source>Frequency</source>
+        <translation>频数</translation>
+    </message>
+    <message>
+        <source>Choose a value of a variable to filter by.</source>
+        <translation>请选择用于筛选的变量值。</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Clear Library Filter</source>
+        <translation>清除库筛选器</translation>
+    </message>
+    <message>
+        <source>Undo Dataset Filter</source>
+        <translation>撤销数据集筛选器</translation>
+    </message>
+    <message>
+        <source>Clear Dataset Filter</source>
+        <translation>清除数据集筛选器</translation>
+    </message>
+</context>
+<context>
+    <name>FrequencyPanel</name>
+    <message>
+        <source>Rows: %1</source>
+        <translation>行：%1</translation>
+    </message>
+    <message>
+        <source>Sum: %1</source>
+        <translation>合计：%1</translation>
+    </message>
+    <message>
+        <source>Subjects: %1</source>
+        <translation>受试者：%1</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>已选：%1</translation>
+    </message>
+    <message>
+        <source>Selected: %1 (%2 %)</source>
+        <translation>已选：%1 (%2 %)</translation>
+    </message>
+    <message>
+        <source>There is no variable %1: observations are counted.</source>
+        <translation>没有变量 %1：统计的是观测数。</translation>
+    </message>
+    <message>
+        <source>Counted under other filters than those in force now.</source>
+        <translation>统计时的筛选器与当前生效的不同。</translation>
+    </message>
+</context>
+<context>
     <name>GridContextMenu</name>
     <message>
         <source>Copy</source>
@@ -322,10 +904,46 @@ Do you want to reload it?</source>
     </message>
 </context>
 <context>
+    <name>GridEmptiness</name>
+    <message>
+        <source>No row meets the filters.</source>
+        <translation>没有符合筛选条件的行。</translation>
+    </message>
+    <message>
+        <source>%1 takes the last step of the dataset filter back, %2 clears it.</source>
+        <translation>%1 撤销数据集筛选的最后一步，%2 清除数据集筛选。</translation>
+    </message>
+    <message>
+        <source>%1 clears the library filter.</source>
+        <translation>%1 清除逻辑库筛选。</translation>
+    </message>
+    <message>
+        <source>This dataset has no variables.</source>
+        <translation>此数据集没有变量。</translation>
+    </message>
+    <message>
+        <source>This dataset has no observations.</source>
+        <translation>此数据集没有观测。</translation>
+    </message>
+    <message>
+        <source>All variables are hidden.
+%1 shows them again.</source>
+        <translation>所有变量均已隐藏。
+%1 可重新显示它们。</translation>
+    </message>
+</context>
+<context>
     <name>GridServices</name>
     <message>
         <source>Command</source>
         <translation>命令</translation>
+    </message>
+</context>
+<context>
+    <name>LoadProgress</name>
+    <message>
+        <source>Opening %1 …</source>
+        <translation>正在打开 %1 …</translation>
     </message>
 </context>
 <context>
@@ -404,6 +1022,13 @@ Do you want to reload it?</source>
     <message>
         <source>C&amp;lear</source>
         <translation>清除(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>LongLineEdit</name>
+    <message>
+        <source>This is not in force yet. Return runs it, Escape puts back what is.</source>
+        <translation>尚未生效。按回车执行，按 Esc 恢复当前生效的内容。</translation>
     </message>
 </context>
 <context>
@@ -548,6 +1173,34 @@ Do you want to reload it?</source>
         <source>Put docks and toolbars where they stood at first</source>
         <translation>将停靠窗口和工具栏恢复到最初的位置</translation>
     </message>
+    <message>
+        <source>Open SAS Program</source>
+        <translation>打开 SAS 程序</translation>
+    </message>
+    <message>
+        <source>Save SAS Program</source>
+        <translation>保存 SAS 程序</translation>
+    </message>
+    <message>
+        <source>Save SAS Program As</source>
+        <translation>SAS 程序另存为</translation>
+    </message>
+    <message>
+        <source>Reload Dataset</source>
+        <translation>重新加载数据集</translation>
+    </message>
+    <message>
+        <source>Read the file anew and keep filters, columns, order and place</source>
+        <translation>重新读取文件，并保留筛选、列、顺序和位置</translation>
+    </message>
+    <message>
+        <source>Copy Stored Values</source>
+        <translation>复制存储的值</translation>
+    </message>
+    <message>
+        <source>Copy with Names</source>
+        <translation>复制（含变量名）</translation>
+    </message>
 </context>
 <context>
     <name>MainMenus</name>
@@ -641,14 +1294,6 @@ Do you want to reload it?</source>
         <translation>应用程序即将退出。</translation>
     </message>
     <message>
-        <source>New SAS Program</source>
-        <translation>新建 SAS 程序</translation>
-    </message>
-    <message>
-        <source>The program in the Code window will be cleared. Go on?</source>
-        <translation>“代码”窗口中的程序将被清除。是否继续？</translation>
-    </message>
-    <message>
         <source>About Quorlane</source>
         <translation>关于 Quorlane</translation>
     </message>
@@ -659,6 +1304,21 @@ Data files are only ever read.</source>
         <translation>Quorlane %1
 统计与临床试验数据集查看器。
 数据文件始终以只读方式打开。</translation>
+    </message>
+    <message>
+        <source>No browser could show %1</source>
+        <translation>没有浏览器可以显示 %1</translation>
+    </message>
+</context>
+<context>
+    <name>OperatorLabel</name>
+    <message>
+        <source>The keys d and = filter by the current cell with this operator</source>
+        <translation>按键 d 和 = 用此运算符按当前单元格筛选</translation>
+    </message>
+    <message>
+        <source>Key d: %1</source>
+        <translation>按键 d:%1</translation>
     </message>
 </context>
 <context>
@@ -694,8 +1354,23 @@ Data files are only ever read.</source>
 <context>
     <name>ProgramRunner</name>
     <message>
-        <source>Not all of these are variables.</source>
-        <translation>其中有些名称不是变量。</translation>
+        <source>This statement is passed over.</source>
+        <translation>此语句被跳过。</translation>
+    </message>
+    <message>
+        <source>A quote or comment is not closed.</source>
+        <translation>引号或注释未结束。</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWindow</name>
+    <message>
+        <source>SAS program of the active dataset</source>
+        <translation>当前数据集的 SAS 程序</translation>
+    </message>
+    <message>
+        <source>The program of what the active dataset shows</source>
+        <translation>当前数据集所显示内容的程序</translation>
     </message>
 </context>
 <context>
@@ -726,6 +1401,32 @@ Data files are only ever read.</source>
     <message>
         <source>%1 (in %2)</source>
         <translation>%1（位于 %2）</translation>
+    </message>
+</context>
+<context>
+    <name>RowModel</name>
+    <message>
+        <source>Variable</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Value in observation %1</source>
+        <translation>观测 %1 的值</translation>
+    </message>
+</context>
+<context>
+    <name>RowPane</name>
+    <message>
+        <source>Row</source>
+        <translation>行</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1750,37 @@ Data files are only ever read.</source>
         <source>Variables Window</source>
         <translation>变量窗口</translation>
     </message>
+    <message>
+        <source>Show Cell</source>
+        <translation>显示单元格</translation>
+    </message>
+    <message>
+        <source>Show the whole text of the current cell.</source>
+        <translation>显示当前单元格的完整文本。</translation>
+    </message>
+    <message>
+        <source>Show Row</source>
+        <translation>显示行</translation>
+    </message>
+    <message>
+        <source>Show all variables of the current row.</source>
+        <translation>显示当前行的所有变量。</translation>
+    </message>
+</context>
+<context>
+    <name>SidePanels</name>
+    <message>
+        <source>Open a dataset to see its variables.</source>
+        <translation>打开数据集以查看其变量。</translation>
+    </message>
+    <message>
+        <source>Press F in a grid to count the values of the selected variables, or N to count distinct subjects.</source>
+        <translation>在表格中按 F 统计所选变量的取值，按 N 统计不同受试者数。</translation>
+    </message>
+    <message>
+        <source>Select a numeric variable in a grid and press S for its statistics. B adds the current variable to those that they are grouped by.</source>
+        <translation>在表格中选择一个数值变量并按 S 查看其统计量。按 B 将当前变量加入分组变量。</translation>
+    </message>
 </context>
 <context>
     <name>Startup</name>
@@ -1074,7 +1806,11 @@ Data files are only ever read.</source>
     </message>
 </context>
 <context>
-    <name>StatisticsTable</name>
+    <name>StatisticsPanel</name>
+    <message>
+        <source>Made under other filters or BY variables than those in force now.</source>
+        <translation>生成时的筛选器或 BY 变量与当前生效的不同。</translation>
+    </message>
     <message>
         <source>Descriptive Statistics</source>
         <translation>描述性统计</translation>
@@ -1089,11 +1825,11 @@ Data files are only ever read.</source>
     </message>
     <message>
         <source>Selected variable is not numeric.</source>
-        <translation>所选变量不是数值型变量。</translation>
+        <translation>所选变量不是数值型。</translation>
     </message>
     <message>
         <source>No data available under current filters.</source>
-        <translation>当前筛选条件下没有可用数据。</translation>
+        <translation>在当前筛选条件下没有可用数据。</translation>
     </message>
 </context>
 <context>
@@ -1166,6 +1902,68 @@ Click &apos;Open&apos; to get the latest version:
     <message>
         <source>Update Available</source>
         <translation>有可用更新</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>未及时收到响应</translation>
+    </message>
+    <message>
+        <source>the answer is too large</source>
+        <translation>响应过大</translation>
+    </message>
+    <message>
+        <source>The check for updates has failed: %1</source>
+        <translation>检查更新失败：%1</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTableModel</name>
+    <message>
+        <source>Variable</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Informat</source>
+        <translation>输入格式</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>标签</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTableView</name>
+    <message>
+        <source>Variables</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Go to Variable</source>
+        <translation>转到变量</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>频数</translation>
+    </message>
+    <message>
+        <source>Frequency (%1)</source>
+        <translation>频数 (%1)</translation>
     </message>
 </context>
 <context>
