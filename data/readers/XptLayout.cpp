@@ -297,7 +297,14 @@ void XptReader::countRows(XptMember& member, std::optional<std::int64_t> declare
     const std::int64_t length = member.rowLength;
     const std::int64_t whole = length > 0 ? space / length : 0;
     const std::int64_t used = usedBytes(member.observations, space);
-    const std::int64_t usedRows = length > 0 ? (used + length - 1) / length : 0;
+    const std::vector<char> rest =
+        m_file.bytesAt(member.observations + whole * length, used - whole * length);
+    // Some programs fill up with NUL bytes, which a cut row may start with, too.
+    const bool isUnclear = !rest.empty()
+        && std::ranges::all_of(rest, [](char byte) { return byte == '\0' || byte == ' '; });
+    const std::int64_t usedRows = length <= 0 ? 0
+        : isUnclear                           ? whole
+                                              : (used + length - 1) / length;
     if (declared && *declared > whole) {
         member.damage = fmt::format(
             "Its header promises {} observations, but it is too short to hold them", *declared);
@@ -306,7 +313,7 @@ void XptReader::countRows(XptMember& member, std::optional<std::int64_t> declare
     } else if (declared && *declared < usedRows) {
         member.notes.push_back(
             fmt::format("Its header counts {} observations, but it holds {}", *declared, usedRows));
-    } else if (!declared && member.end % card != 0) {
+    } else if (isUnclear || (!declared && member.end % card != 0)) {
         member.notes.emplace_back(
             "It does not end with a whole record: observations at its end may be missing");
     }

@@ -84,6 +84,13 @@ auto textBehind(std::string_view mark, std::size_t offset, std::string_view text
         [=](std::string& bytes) { bytes.replace(behind(bytes, mark) + offset, text.size(), text); };
 }
 
+/// A transport file whose padding has no blanks, for less than a row.
+void withNuls(std::string& bytes)
+{
+    bytes.resize(behind(bytes, "*OBS     ") + 52 + healthyRows * rowLength);
+    bytes.resize(bytes.size() + rowLength - 1, '\0');
+}
+
 /// A transport file whose only data set has neither variables nor rows.
 void withoutVariables(std::string& bytes)
 {
@@ -134,6 +141,7 @@ const Malformed cases[] = {
      "cut short within observation 4"},
     {"xptCutBehindItsThirdRow", xpt, cutBehind("*OBS     ", 52 + 3 * rowLength), 3,
      "does not end with a whole record"},
+    {"xptFilledUpWithNuls", xpt, withNuls, healthyRows, "does not end with a whole record"},
     {"savCutInHeader", sav, cutTo(100), refused},
     {"savCutInDictionary", sav, cutTo(200), refused, "cut short"},
     {"savCutInRows", sav, cutOff(5), rowsRefused},
