@@ -302,7 +302,7 @@ void DatasetOpener::lookAtFiles(const QString& changed)
     followWindows();
 }
 
-void DatasetOpener::lookAtActiveFile(Qt::ApplicationState state)
+void DatasetOpener::lookAtActiveFile(Qt::ApplicationState state) const
 {
     auto* window = qobject_cast<DatasetWindow*>(m_surroundings.area.currentSubWindow());
     if (state == Qt::ApplicationActive && window != nullptr) {

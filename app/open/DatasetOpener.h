@@ -95,7 +95,7 @@ private:
     [[nodiscard]] QList<DatasetWindow*> windows() const;
     void followWindows();
     void lookAtFiles(const QString& changed);
-    void lookAtActiveFile(Qt::ApplicationState state);
+    void lookAtActiveFile(Qt::ApplicationState state) const;
 
     Surroundings m_surroundings;
     OpenFilesMap m_openFiles;

@@ -22,6 +22,8 @@
 #include <QTest>
 #include <QTreeView>
 
+#include <algorithm>
+
 /// The main window in the languages that come with the program.
 class TestTranslatedWindow : public QObject
 {
@@ -31,6 +33,7 @@ private slots:
     void cleanup();
     void noTextStaysEnglish_data();
     void noTextStaysEnglish();
+    void keysAndEnginesSpeakTheLanguage();
     void mnemonicsAreDistinctAndLeaveTheGridItsKeys_data() { noTextStaysEnglish_data(); }
     void mnemonicsAreDistinctAndLeaveTheGridItsKeys();
 
@@ -201,6 +204,32 @@ void TestTranslatedWindow::noTextStaysEnglish()
     same.removeDuplicates();
     same.sort();
     QTEST(same, "same");
+}
+
+void TestTranslatedWindow::keysAndEnginesSpeakTheLanguage()
+{
+    install("de-DE");
+    const auto toolkit = translations::loadToolkit(*m_translator);
+    QVERIFY(toolkit != nullptr && QCoreApplication::installTranslator(toolkit.get()));
+    const LogCapture log;
+    const QTemporaryDir folder;
+    ScriptedPrompts::Script script;
+    const auto window = createWindow(folder, script);
+    QVERIFY(window->findChild<QAction*>("actionClose")->text().endsWith("\tStrg+W"));
+    QCOMPARE(gridcommands::entryOf(GridCommand::ShiftLeft).menuEntry().section('\t', 1),
+             "Alt+Links");
+
+    QVERIFY(window->openDatasetFile("/d/ae.xpt"));
+    auto* box = window->findChild<QComboBox*>("comboBoxLf");
+    box->setEditText("where A >");
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    const auto labels = window->findChildren<QLabel*>("failureMessage");
+    QVERIFY(std::ranges::any_of(labels, [](auto* it) { return it->text() == "Wert erwartet"; }));
+    QCOMPARE(enginemessages::translated("'01FOO'd is not a valid date"),
+             "'01FOO'd ist kein gültiges Datum");
+    QCOMPARE(enginemessages::translated("a: b.xpt: It has no data set named %2; it has A, B"),
+             "a: b.xpt: Sie enthält kein Dataset namens %2, sondern A, B");
+    QCOMPARE(enginemessages::translated("It has something else"), "It has something else");
 }
 
 void TestTranslatedWindow::mnemonicsAreDistinctAndLeaveTheGridItsKeys()
