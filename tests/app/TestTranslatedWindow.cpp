@@ -70,7 +70,9 @@ Texts visibleTexts(const QWidget& window)
     }
     for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
         add(texts, "button", *button, button->text());
-        add(texts, "button's tip", *button, button->toolTip());
+        if (qobject_cast<QTabBar*>(button->parent()) == nullptr) {  // whose tips are Qt's
+            add(texts, "button's tip", *button, button->toolTip());
+        }
     }
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
         add(texts, "title", *widget, widget->windowTitle());
