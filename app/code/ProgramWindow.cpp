@@ -15,8 +15,8 @@ ProgramWindow::ProgramWindow(QWidget* parent)
 void ProgramWindow::showProgram(const QString& program)
 {
     // A list of tens of thousands of values takes a while to be laid out.
-    constexpr qsizetype long_ = 50'000;
-    const bool isAwaited = program.size() > long_ && !isVisible();
+    constexpr qsizetype longProgram = 50'000;
+    const bool isAwaited = program.size() > longProgram && !isVisible();
     m_awaited = isAwaited ? program : QString();
     if (isAwaited) {
         clear();
