@@ -12,8 +12,9 @@ RowPane::RowPane(QWidget* parent)
     setSelectionMode(QAbstractItemView::SingleSelection);
     setTabKeyNavigation(false);
     setWordWrap(false);
-    horizontalHeader()->setStretchLastSection(true);
-    horizontalHeader()->resizeSection(1, 160);
+    // In a narrow dock, too, the value is in sight.
+    horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    horizontalHeader()->setSectionResizeMode(2, QHeaderView::Stretch);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setHighlightSections(false);
     verticalHeader()->hide();

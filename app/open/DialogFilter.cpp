@@ -30,7 +30,7 @@ QString filterOfLast(const QStringList& filters, const QStringList& recent)
 QString firstOf(const QString& filters, const QStringList& recent, const QString& folder)
 {
     const QStringList all = filters.split(QStringLiteral(";;"));
-    const QString last = filterOfLast(all, recent);
+    QString last = filterOfLast(all, recent);
     if (folder.isEmpty()) {
         return last;
     }

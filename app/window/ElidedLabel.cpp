@@ -33,7 +33,8 @@ QSize ElidedLabel::sizeHint() const
     const QMargins margins = contentsMargins();
     constexpr int rounding = 2;  // an advance is rounded, what is elided is not
     const int whole =
-        fontMetrics().horizontalAdvance(beginning(text(), 4 * widestInLetters)) + rounding;
+        fontMetrics().horizontalAdvance(beginning(text(), qsizetype{4} * widestInLetters))
+        + rounding;
     return {std::min(whole + margins.left() + margins.right(),
                      widestInLetters * fontMetrics().averageCharWidth()),
             fontMetrics().height() + margins.top() + margins.bottom()};

@@ -4,10 +4,10 @@
 #include <QPointer>
 
 class FindDialog;
-class MainActions;
 class MainTableView;
 class QAbstractItemModel;
 class QWidget;
+struct MainActions;
 
 /// The ways to a cell of the active grid, or to a dataset, by what the user types: find and quick
 /// open.

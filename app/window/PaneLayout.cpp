@@ -67,24 +67,24 @@ QList<QDockWidget*> PaneLayout::docksAt(Qt::DockWidgetArea area) const
     return docks;
 }
 
-QString PaneLayout::text(const Shares& shares)
+QString PaneLayout::text(const Shares& wanted)
 {
-    return QStringLiteral("%1:%2:%3").arg(shares[0]).arg(shares[1]).arg(shares[2]);
+    return QStringLiteral("%1:%2:%3").arg(wanted[0]).arg(wanted[1]).arg(wanted[2]);
 }
 
 std::optional<PaneLayout::Shares> PaneLayout::fromText(const QString& text)
 {
     const QStringList parts = text.split(u':');
-    Shares shares{};
-    if (parts.size() != static_cast<qsizetype>(shares.size())) {
+    Shares read{};
+    if (parts.size() != static_cast<qsizetype>(read.size())) {
         return std::nullopt;
     }
-    for (std::size_t i = 0; i < shares.size(); ++i) {
+    for (std::size_t i = 0; i < read.size(); ++i) {
         bool isNumber = false;
-        shares[i] = parts[static_cast<qsizetype>(i)].toInt(&isNumber);
-        if (!isNumber || shares[i] < 0 || shares[i] > 100) {
+        read[i] = parts[static_cast<qsizetype>(i)].toInt(&isNumber);
+        if (!isNumber || read[i] < 0 || read[i] > 100) {
             return std::nullopt;
         }
     }
-    return shares;
+    return read;
 }

@@ -32,7 +32,7 @@ public:
     void makeRoomFor(QDockWidget& dock);
 
     /// "30:70:0", as the setting holds it.
-    [[nodiscard]] static QString text(const Shares& shares);
+    [[nodiscard]] static QString text(const Shares& wanted);
     /// The shares of such a text; nothing for a text that holds no three percentages.
     [[nodiscard]] static std::optional<Shares> fromText(const QString& text);
 

@@ -20,7 +20,7 @@ QString placeOf(const QString& path, const QStringList& alike)
 {
     const auto depth = static_cast<int>(path.count(u'/'));
     for (int count = 1; count < depth; ++count) {
-        const QString place = lastFolders(path, count);
+        QString place = lastFolders(path, count);
         const bool isItsOwn = std::none_of(alike.begin(), alike.end(), [&](const QString& other) {
             return lastFolders(other, count) == place;
         });
