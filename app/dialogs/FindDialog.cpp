@@ -86,6 +86,11 @@ bool FindDialog::hasText() const
     return !m_text->text().isEmpty();
 }
 
+bool FindDialog::hasStatus() const
+{
+    return !m_status->text().isEmpty();
+}
+
 void FindDialog::bringUp()
 {
     if (isHidden() && m_view != nullptr) {

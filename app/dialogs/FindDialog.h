@@ -26,6 +26,8 @@ public:
     /// The table to search, null for none. Another one is searched from its first cell.
     void setView(QTableView* view);
     [[nodiscard]] bool hasText() const;
+    /// Whether the dialog tells more of the last search than the current cell does.
+    [[nodiscard]] bool hasStatus() const;
     /// Goes to the next cell that holds the text, hidden or not, and round the ends of the table.
     /// @return  whether there is one
     bool find(CellWalk::Direction direction);

@@ -33,10 +33,9 @@ void Navigation::findAgain(bool isForward)
         m_find->bringUp();
         return;
     }
-    const bool isFound =
-        m_find->find(isForward ? CellWalk::Direction::Forward : CellWalk::Direction::Backward);
-    if (!isFound && !m_find->isVisible()) {
-        m_find->bringUp();  // which says so
+    (void)m_find->find(isForward ? CellWalk::Direction::Forward : CellWalk::Direction::Backward);
+    if (m_find->hasStatus() && !m_find->isVisible()) {
+        m_find->bringUp();  // nothing was found, or what is hidden
     }
 }
 

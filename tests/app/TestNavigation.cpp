@@ -53,8 +53,11 @@ void TestNavigation::findGoesFromHitToHitInTheGrid()
     trigger("actionFind");
     text->setText("0");
     dialog->findChildren<QRadioButton*>().at(1)->setChecked(true);
+    dialog->close();
     trigger("actionFindNext");
+    QVERIFY(!dialog->isVisible());
     trigger("actionFindNext");
+    QVERIFY(dialog->isVisible());
     QCOMPARE(status->text(), "Found, but not visible");
     QCOMPARE(view().currentIndex(), view().model()->index(1, 1));
     trigger("actionFindNext");
