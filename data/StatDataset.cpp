@@ -179,6 +179,8 @@ void StatDataset::reset()
     }
     m_textPool.clear();
     m_damageNotes.clear();
+    m_fileAttributes.clear();
+    m_keyVariables.clear();
 }
 
 void StatDataset::resizeVariables(int count)

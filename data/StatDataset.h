@@ -91,6 +91,9 @@ struct DatasetHeader
     std::int64_t deletedObservations = 0;  ///< still in the file, but not in the dataset
 };
 
+/// A name and a text.
+using FileAttribute = std::pair<std::string, std::string>;
+
 /// A rectangle of observations by variables, held in memory as a whole.
 ///
 /// Subclasses fill it, one for each kind of file; everyone else reads it through the ten virtual
@@ -155,6 +158,16 @@ public:
     /// empty where nothing is. What is certainly damaged is not read at all.
     [[nodiscard]] const std::vector<std::string>& damageNotes() const { return m_damageNotes; }
     void addDamageNote(std::string note) { m_damageNotes.push_back(std::move(note)); }
+
+    /// What else the file says about the dataset, by the file's own words and in its order: what
+    /// has no place in the header.
+    [[nodiscard]] const std::vector<FileAttribute>& fileAttributes() const
+    {
+        return m_fileAttributes;
+    }
+    /// The variables that identify an observation, the most important first; empty where the file
+    /// tells none.
+    [[nodiscard]] const std::vector<int>& keyVariables() const { return m_keyVariables; }
 
     [[nodiscard]] int observationCount() const { return m_observationCount; }
     [[nodiscard]] int variableCount() const { return m_variableCount; }
@@ -238,4 +251,6 @@ protected:
     SourceKind m_sourceKind = SourceKind::Sas;
     std::string m_fallbackName;
     std::vector<std::string> m_damageNotes;
+    std::vector<FileAttribute> m_fileAttributes;
+    std::vector<int> m_keyVariables;
 };
