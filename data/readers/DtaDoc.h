@@ -1,9 +1,9 @@
 #pragma once
 
-#include "data/readers/ReadStatDoc.h"
+#include "data/readers/FileDataset.h"
 
 /// A Stata data file (.dta), releases 104 to 119.
-class DtaDoc : public ReadStatDoc
+class DtaDoc : public FileDataset
 {
 public:
     [[nodiscard]] int load(const QString& path) override;

@@ -1,12 +1,10 @@
 #include "data/readers/ReadStatLoad.h"
 
 #include "data/FilePath.h"
-#include "data/readers/DistinctNames.h"
 #include "data/values/MissingTag.h"
 #include "data/values/Texts.h"
 
 #include <fmt/format.h>
-#include <spdlog/spdlog.h>
 
 #include <cstdio>
 #include <exception>
@@ -73,15 +71,14 @@ std::string reasonOf(readstat_error_t code)
 
 }  // namespace
 
-ReadStatLoad::ReadStatLoad(ReadStatDoc& dataset)
+ReadStatLoad::ReadStatLoad(FileDataset& dataset)
     : m_dataset(dataset)
     , m_cells(dataset)
 { }
 
 int ReadStatLoad::run(const QString& path)
 {
-    m_dataset.reset();
-    m_dataset.m_loadError.clear();
+    m_dataset.beginLoad();
     readstat_error_t code = READSTAT_OK;
     try {
         code = read(path);
@@ -147,22 +144,12 @@ int ReadStatLoad::finish(const QString& path, readstat_error_t code)
 {
     if (code != READSTAT_OK) {
         const std::string why = m_refusal.empty() ? reasonOf(code) : m_refusal;
-        m_dataset.m_loadError = fmt::format("{}: {}", filepath::displayName(path), why);
         std::printf("Error processing %s: %d\n", filepath::toBytes(path).c_str(),
                     static_cast<int>(code));
-        return code;
+        return m_dataset.failLoad(path, code, why);
     }
-    makeNamesDistinct(path);
-    m_dataset.resizeBits();
+    m_dataset.completeLoad(path);
     return 0;
-}
-
-void ReadStatLoad::makeNamesDistinct(const QString& path)
-{
-    for (const std::size_t variable : makeDistinct(m_dataset.m_names)) {
-        spdlog::warn("{}: variable {} has the name of an earlier one and is called {}",
-                     filepath::displayName(path), variable + 1, m_dataset.m_names[variable]);
-    }
 }
 
 int ReadStatLoad::refuse(std::string reason)
@@ -240,7 +227,7 @@ int ReadStatLoad::onVariable(int index, readstat_variable_t* variable, const cha
 {
     auto* self = static_cast<ReadStatLoad*>(context);
     try {
-        const ReadStatDoc& dataset = self->m_dataset;
+        const FileDataset& dataset = self->m_dataset;
         if (!dataset.isColumn(index)) {
             return self->refuse("It describes more variables than its header counts");
         }

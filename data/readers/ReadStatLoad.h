@@ -3,7 +3,7 @@
 #include "data/cells/CellLoader.h"
 #include "data/readers/FileReader.h"
 #include "data/readers/ParserInput.h"
-#include "data/readers/ReadStatDoc.h"
+#include "data/readers/FileDataset.h"
 #include "data/readers/SkippedRows.h"
 
 #include <readstat.h>
@@ -20,12 +20,12 @@ class ReadStatLoad
 {
 public:
     /// The dataset outlives the load.
-    explicit ReadStatLoad(ReadStatDoc& dataset);
+    explicit ReadStatLoad(FileDataset& dataset);
     virtual ~ReadStatLoad() = default;
     ReadStatLoad(const ReadStatLoad&) = delete;
     ReadStatLoad& operator=(const ReadStatLoad&) = delete;
 
-    /// Reads the file; see ReadStatDoc::load().
+    /// Reads the file; see FileDataset::load().
     [[nodiscard]] int run(const QString& path);
 
 protected:
@@ -75,12 +75,11 @@ private:
     readstat_error_t read(const QString& path);
     readstat_error_t runParser(const std::string& path, ParserInput& input);
     int finish(const QString& path, readstat_error_t code);
-    void makeNamesDistinct(const QString& path);
     bool resizeVariables(std::int64_t count);
     void acceptVariable(int index, const readstat_variable_t& variable);
     void acceptValue(int row, const readstat_variable_t& variable, const readstat_value_t& value);
 
-    ReadStatDoc& m_dataset;
+    FileDataset& m_dataset;
     CellLoader m_cells;
     SkippedRows m_skippedRows;
     std::int64_t m_fileSize = 0;  ///< bytes

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "data/readers/ReadStatDoc.h"
+#include "data/readers/FileDataset.h"
 #include "data/values/SasFormat.h"
 
 /// What SAS data sets and SAS transport files share: values shown by SAS formats, and attribute
 /// texts as SAS writes them.
-class SasDataset : public ReadStatDoc
+class SasDataset : public FileDataset
 {
 public:
     [[nodiscard]] std::string cellText(int row, int column) const override;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "data/readers/ReadStatDoc.h"
+#include "data/readers/FileDataset.h"
 
 /// An SPSS data file (.sav), plain, row-compressed or zlib-compressed.
-class SavDoc : public ReadStatDoc
+class SavDoc : public FileDataset
 {
 public:
     [[nodiscard]] int load(const QString& path) override;
