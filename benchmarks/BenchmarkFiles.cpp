@@ -1,11 +1,13 @@
 #include "benchmarks/BenchmarkFiles.h"
 
+#include "benchmarks/BareParses.h"
 #include "samples/BigTable.h"
 
 #include <cstdlib>
 
 namespace {
 
+using bareparses::readStat;
 using samples::Compression;
 using samples::TextEncoding;
 
@@ -29,16 +31,18 @@ samples::WriteOptions release(int number)
 const std::vector<BenchmarkFile>& benchmarkFiles()
 {
     static const std::vector<BenchmarkFile> files{
-        {"transport5", ".xpt", release(5), readstat_parse_xport, 1.3},
-        {"transport8", ".xpt", release(8), readstat_parse_xport, 1.3},
-        {"sas7bdat-utf8", ".sas7bdat", {}, readstat_parse_sas7bdat, 2.9},
+        {"transport5", ".xpt", release(5), readStat(readstat_parse_xport), 1.3},
+        {"transport8", ".xpt", release(8), readStat(readstat_parse_xport), 1.3},
+        {"sas7bdat-utf8", ".sas7bdat", {}, readStat(readstat_parse_sas7bdat), 2.9},
         {"sas7bdat-windows1252", ".sas7bdat", options(Compression::None, TextEncoding::Windows1252),
-         readstat_parse_sas7bdat, 1.0},
-        {"sas7bdat-rows", ".sas7bdat", options(Compression::Rows), readstat_parse_sas7bdat, 1.8},
-        {"spss", ".sav", {}, readstat_parse_sav, 1.0},
-        {"spss-rows", ".sav", options(Compression::Rows), readstat_parse_sav, 1.2},
-        {"spss-zlib", ".sav", options(Compression::Zlib), readstat_parse_sav, 1.15},
-        {"stata118", ".dta", release(118), readstat_parse_dta, 1.7},
+         readStat(readstat_parse_sas7bdat), 1.0},
+        {"sas7bdat-rows", ".sas7bdat", options(Compression::Rows),
+         readStat(readstat_parse_sas7bdat), 1.8},
+        {"spss", ".sav", {}, readStat(readstat_parse_sav), 1.0},
+        {"spss-rows", ".sav", options(Compression::Rows), readStat(readstat_parse_sav), 1.2},
+        {"spss-zlib", ".sav", options(Compression::Zlib), readStat(readstat_parse_sav), 1.15},
+        {"stata118", ".dta", release(118), readStat(readstat_parse_dta), 1.7},
+        {"csv", ".csv", {}, bareparses::csv, 1.8},
     };
     return files;
 }

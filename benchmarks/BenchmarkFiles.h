@@ -2,9 +2,8 @@
 
 #include "samples/WriteOptions.h"
 
-#include <readstat.h>
-
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,7 +13,7 @@ struct BenchmarkFile
     std::string name;  ///< of the benchmark: "sas7bdat-utf8"
     std::string suffix;
     samples::WriteOptions options;
-    readstat_error_t (*parse)(readstat_parser_t*, const char*, void*);
+    std::function<bool(const std::string& path)> bareParse;  ///< false when it fails
     double goal;  ///< load time as a multiple of the bare parse
 };
 

@@ -18,26 +18,11 @@
 
 namespace {
 
-int ignoreValue(int, readstat_variable_t*, readstat_value_t, void*)
-{
-    return READSTAT_HANDLER_OK;
-}
-
-/// The parser of SPSS files (ReadStat 1.1.8) crashes without a variable handler.
-int ignoreVariable(int, readstat_variable_t*, const char*, void*)
-{
-    return READSTAT_HANDLER_OK;
-}
-
 void bareParse(benchmark::State& state, const BenchmarkFile& file)
 {
     const std::string path = pathOf(file).string();
     for (auto _ : state) {
-        const std::unique_ptr<readstat_parser_t, decltype(&readstat_parser_free)> parser(
-            readstat_parser_init(), readstat_parser_free);
-        readstat_set_variable_handler(parser.get(), ignoreVariable);
-        readstat_set_value_handler(parser.get(), ignoreValue);
-        if (file.parse(parser.get(), path.c_str(), nullptr) != READSTAT_OK) {
+        if (!file.bareParse(path)) {
             state.SkipWithError("the bare parse failed");
             return;
         }

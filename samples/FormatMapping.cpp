@@ -87,6 +87,8 @@ std::string fileFormat(const Column& column, FileKind kind)
         return spssFormat(column);
     case FileKind::Stata:
         return stataFormat(column);
+    case FileKind::Csv:
+        break;
     }
     return {};
 }

@@ -9,8 +9,8 @@
 
 namespace samples {
 
-/// Writes the table as SAS transport, SAS7BDAT, SPSS or Stata file, as the suffix says. The same
-/// table and options give the same bytes, whatever the clock and the time zone.
+/// Writes the table as SAS transport, SAS7BDAT, SPSS, Stata or CSV file, as the suffix says. The
+/// same table and options give the same bytes, whatever the clock and the time zone.
 /// @throws std::runtime_error with the file's name; a half-written file is removed
 void writeTable(const std::filesystem::path& path, const Table& table,
                 const WriteOptions& options = {});

@@ -34,6 +34,8 @@ bool isPossible(FileKind kind, const WriteOptions& options)
     case FileKind::Stata:
         return options.release >= 111 && options.release <= 119 && options.release != 116
             && (isUtf8 || options.release < 118);
+    case FileKind::Csv:
+        return options.release == 0 && options.compression == Compression::None && isUtf8;
     }
     return false;
 }
@@ -42,15 +44,13 @@ bool isPossible(FileKind kind, const WriteOptions& options)
 
 FileKind kindOfFile(const std::filesystem::path& path)
 {
-    static const std::map<std::string, FileKind> kinds{{".xpt", FileKind::Transport},
-                                                       {".sas7bdat", FileKind::Sas},
-                                                       {".sav", FileKind::Spss},
-                                                       {".zsav", FileKind::Spss},
-                                                       {".dta", FileKind::Stata}};
+    static const std::map<std::string, FileKind> kinds{
+        {".xpt", FileKind::Transport}, {".sas7bdat", FileKind::Sas}, {".sav", FileKind::Spss},
+        {".zsav", FileKind::Spss},     {".dta", FileKind::Stata},    {".csv", FileKind::Csv}};
     const auto found = kinds.find(lowerSuffix(path));
     if (found == kinds.end()) {
-        throw std::runtime_error(path.string()
-                                 + ": the suffix is none of .xpt, .sas7bdat, .sav, .zsav, .dta");
+        throw std::runtime_error(
+            path.string() + ": the suffix is none of .xpt, .sas7bdat, .sav, .zsav, .dta, .csv");
     }
     return found->second;
 }

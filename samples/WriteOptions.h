@@ -9,7 +9,8 @@ enum class FileKind
     Transport,
     Sas,
     Spss,
-    Stata
+    Stata,
+    Csv
 };
 
 enum class Compression
@@ -33,7 +34,7 @@ struct WriteOptions
     bool layout64 = true;  ///< SAS7BDAT: 64-bit layout instead of 32-bit
 };
 
-/// Told by the suffix: .xpt, .sas7bdat, .sav, .zsav, .dta in any letter case.
+/// Told by the suffix: .xpt, .sas7bdat, .sav, .zsav, .dta, .csv in any letter case.
 /// @throws std::runtime_error naming the file for any other suffix
 [[nodiscard]] FileKind kindOfFile(const std::filesystem::path& path);
 

@@ -1,6 +1,7 @@
 #include "data/readers/FileKinds.h"
 
 #include "data/FilePath.h"
+#include "data/readers/CsvDoc.h"
 #include "data/readers/DtaDoc.h"
 #include "data/readers/SasDoc.h"
 #include "data/readers/SavDoc.h"
@@ -74,7 +75,7 @@ constexpr std::array stataSuffixes{
     Suffix{"dta", "type-dta", readSingle<DtaDoc, SourceKind::Stata>},
 };
 constexpr std::array csvSuffixes{
-    Suffix{"csv", "type-csv"},
+    Suffix{"csv", "type-csv", readSingle<CsvDoc, SourceKind::Csv>},
 };
 
 constexpr std::array entries{

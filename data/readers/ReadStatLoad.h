@@ -1,9 +1,9 @@
 #pragma once
 
 #include "data/cells/CellLoader.h"
+#include "data/readers/FileDataset.h"
 #include "data/readers/FileReader.h"
 #include "data/readers/ParserInput.h"
-#include "data/readers/FileDataset.h"
 #include "data/readers/SkippedRows.h"
 
 #include <readstat.h>

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <readstat.h>
+
+#include <functional>
+#include <string>
+
+/// The format libraries' own parses of whole files, with handlers that do nothing: what a load is
+/// measured by. Each returns whether the file could be read.
+namespace bareparses {
+
+using ReadStatParse = readstat_error_t (*)(readstat_parser_t*, const char*, void*);
+
+[[nodiscard]] std::function<bool(const std::string& path)> readStat(ReadStatParse parse);
+[[nodiscard]] bool csv(const std::string& path);
+
+}  // namespace bareparses
