@@ -26,11 +26,12 @@ void CellLoader::begin(int rows)
     }
 }
 
-void CellLoader::beginUncounted()
+void CellLoader::beginUncounted(int expectedRows)
 {
     prepareColumns();
     m_dataset.m_observationCount = 0;
-    m_dataset.m_cells = CellVector();
+    m_room = m_dataset.m_valuesWanted ? static_cast<std::size_t>(expectedRows) : 0;
+    m_dataset.m_cells = CellVector(m_room * m_columns);
     m_rowsAreCounted = true;
 }
 

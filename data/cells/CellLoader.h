@@ -30,8 +30,9 @@ public:
     /// Makes room for that many rows, which are the observations, and more may not come. Throws
     /// std::bad_alloc.
     void begin(int rows);
-    /// Counts the rows that come, up to the last one that got a cell.
-    void beginUncounted();
+    /// Counts the rows that come, up to the last one that got a cell. Room for as many as are
+    /// expected costs nothing until they come, and saves moving them.
+    void beginUncounted(int expectedRows = 0);
 
     // Putting a cell throws std::out_of_range where there is none, and std::bad_alloc. The column
     // is of that kind: whether it is, the reader knows, or asks the dataset before.

@@ -109,6 +109,7 @@ private:
     [[nodiscard]] bool feed(CsvTokens& tokens, Extent extent);
     void beginReading(Extent extent);
     void keepNames();
+    [[nodiscard]] int expectedRows() const;
     void resizeVariables();
     void addValue(std::string_view value);
     void putMissing(std::string_view value);
@@ -131,6 +132,7 @@ private:
     bool m_isKept = false;  ///< whether this reading fills the cells
     int m_field = 0;  ///< of the current record
     int m_row = 0;
+    double m_rowsPerByte = 0;  ///< in the first part
     bool m_hasSurplus = false;
     std::int64_t m_unsaidCells = 0;
     Lines m_shortLines;
@@ -149,6 +151,7 @@ std::string CsvDoc::Load::run()
     if (!read(Extent::Beginning)) {
         m_quotes = CsvTokens::Quotes::Lenient;
     }
+    m_rowsPerByte = m_row / static_cast<double>(std::max<std::int64_t>(m_text.position(), 1));
     do {
         if (!read(Extent::Whole) && m_refusal.empty()) {
             m_quotes = CsvTokens::Quotes::Lenient;
@@ -291,8 +294,16 @@ void CsvDoc::Load::keepNames()
     resizeVariables();
     if (m_isKept) {
         m_cells = std::make_unique<CellLoader>(m_dataset);
-        m_cells->beginUncounted();
+        m_cells->beginUncounted(expectedRows());
     }
+}
+
+/// A little more than there are if all of the file is like its first part.
+int CsvDoc::Load::expectedRows() const
+{
+    constexpr double margin = 1.05;
+    const double expected = static_cast<double>(m_file.size()) * m_rowsPerByte * margin;
+    return static_cast<int>(std::min<double>(expected, mostObservations));
 }
 
 void CsvDoc::Load::resizeVariables()
