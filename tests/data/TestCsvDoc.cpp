@@ -47,7 +47,7 @@ TEST_F(CsvDoc, takesTheTextApart)
         {"a;b\n1,5;x\n2,5;y\n", "a|b; 1,5|x; 2,5|y"},
         {"a\tb,c\n1\t2\n", "#a|#b,c; 1|2"},
         {"a|b\nx,y|z\n", "a|b; x,y|z"},
-        {"a, b;c\nx,y\n", "a|b;c; x|y"},
+        {"a,b;c\nx,y;z\n", "a|b;c; x|y;z"},
         {"name\nx\ny\n", "name; x; y"},
         // Names
         {" a ,,a,A\n1,2,3,4\n", "#a|#VAR2|#a_2|#A; 1|2|3|4"},
@@ -55,6 +55,7 @@ TEST_F(CsvDoc, takesTheTextApart)
         {"a,b", "a|b"},
         {"", ""},
         // Quotes that end early belong to nobody else
+        {"a,b\n\"x\"y,\"z\"", "a|b; xy|z"},
         {"a,b\n\"x\"y,z\nit\"s,6\" pipe\n\"p\" \"q\",r\n", "a|b; xy|z; it\"s|6\" pipe; p \"q\"|r"},
         // Character sets
         {"\xEF\xBB\xBF\"a\",b\n\xC3\xA9,1\n", "a|#b; \xC3\xA9|1"},
@@ -121,11 +122,11 @@ TEST_F(CsvDoc, saysWhatMayBeWrong)
     const auto notesOf = [this](const std::string& bytes) {
         return read("a.csv", bytes)->damageNotes();
     };
-    const auto ragged = read("a.csv", "a,b\n\"1\n\",2\n3\n\n4,5,6\n7,8,,\n\"9\r\nx\"\n");
+    const auto ragged = read("a.csv", "a,b\n\"1\n\n\",2\n3\n\n4,5,6\n7,8,,\n\"9\r\nx\"\n");
     EXPECT_EQ(shown(*ragged), "a|#b; 1|2; 3|.; 4|5; 7|8; 9\r\nx|.");
     EXPECT_EQ(ragged->damageNotes(),
-              (Notes{"There are fewer values than variables in line 4, 8; the rest is missing",
-                     "There are more values than variables in line 6; the rest is left out"}));
+              (Notes{"There are fewer values than variables in line 5, 9; the rest is missing",
+                     "There are more values than variables in line 7; the rest is left out"}));
     EXPECT_EQ(notesOf("a,b\r\n1\r\n2\r\n3\r\n\r\n4\r\n5\r\n6\r\n7\r\n"),
               Notes{"There are fewer values than variables in line 2, 3, 4, 6, 7 and 2 more; the "
                     "rest is missing"});
@@ -155,7 +156,7 @@ TEST_F(CsvDoc, keepsToWhatItsTextsAre)
     EXPECT_EQ(dataset->stringValue(0, 0), "two words");
     EXPECT_EQ(dataset->lengths(), (std::vector{9, 2}));
     EXPECT_EQ(dataset->header().encoding, "UTF-8");
-    EXPECT_EQ(read("b.csv", "a\n\xE9\n")->header().encoding, "WINDOWS-1252");
+    EXPECT_EQ(read("b.csv", "a\nx\xC3")->header().encoding, "WINDOWS-1252");
     // One character in two parts of the file
     const std::string cut =
         "a\n" + std::string((std::size_t{256} << 10) - 3, 'x') + "\xC3\xA9" + "\n";
