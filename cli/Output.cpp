@@ -2,7 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <nlohmann/json.hpp>
@@ -12,39 +11,6 @@ namespace cli {
 namespace {
 
 constexpr std::size_t linesAlignedTogether = 1000;
-
-std::string escaped(std::string_view text)
-{
-    std::string out;
-    out.reserve(text.size());
-    for (const char letter : text) {
-        switch (letter) {
-        case '\t':
-            out += "\\t";
-            break;
-        case '\n':
-            out += "\\n";
-            break;
-        case '\r':
-            out += "\\r";
-            break;
-        case '\\':
-            out += "\\\\";
-            break;
-        default:
-            out += letter;
-        }
-    }
-    return out;
-}
-
-/// How many columns of a terminal a UTF-8 text takes, counting a character as one.
-std::size_t characterCount(std::string_view text)
-{
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-    }));
-}
 
 }  // namespace
 
@@ -81,42 +47,23 @@ void print(std::string_view text)
 
 void TableWriter::add(const std::vector<std::string>& line)
 {
-    std::vector<std::string> cells;
-    m_widths.resize(std::max(m_widths.size(), line.size()));
-    for (const std::string& cell : line) {
-        std::size_t& width = m_widths[cells.size()];
-        cells.push_back(escaped(cell));
-        width = std::max(width, characterCount(cells.back()));
-    }
     if (m_format == OutputFormat::Tsv) {
-        print(fmt::format("{}\n", fmt::join(cells, "\t")));
+        std::string out;
+        for (const std::string& cell : line) {
+            out += (&cell == line.data() ? "" : "\t") + onOneLine(cell);
+        }
+        print(out + '\n');
         return;
     }
-    m_waiting.push_back(std::move(cells));
-    if (m_waiting.size() > linesAlignedTogether) {
+    m_lines.add(line);
+    if (m_lines.lineCount() > linesAlignedTogether) {
         finish();
     }
 }
 
 void TableWriter::finish()
 {
-    for (const auto& line : m_waiting) {
-        print(aligned(line));
-    }
-    m_waiting.clear();
-}
-
-std::string TableWriter::aligned(const std::vector<std::string>& line) const
-{
-    std::string out;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        const std::string padding(m_widths[i] - characterCount(line[i]), ' ');
-        const bool right = i < m_alignRight.size() && m_alignRight[i];
-        out += i == 0 ? "" : "  ";
-        out += right ? padding + line[i] : line[i] + padding;
-    }
-    out.erase(out.find_last_not_of(' ') + 1);
-    return out + '\n';
+    print(m_lines.take());
 }
 
 }  // namespace cli

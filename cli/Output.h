@@ -1,5 +1,7 @@
 #pragma once
 
+#include "data/values/AlignedText.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,7 +37,7 @@ public:
     ///                    beyond its end hold none
     explicit TableWriter(OutputFormat format, std::vector<bool> alignRight = {})
         : m_format(format)
-        , m_alignRight(std::move(alignRight))
+        , m_lines(std::move(alignRight))
     { }
     /// Text waits for others that it is aligned with, but not for so many that nothing flows.
     void add(const std::vector<std::string>& line);
@@ -43,12 +45,8 @@ public:
     void finish();
 
 private:
-    [[nodiscard]] std::string aligned(const std::vector<std::string>& line) const;
-
     OutputFormat m_format;
-    std::vector<bool> m_alignRight;
-    std::vector<std::vector<std::string>> m_waiting;
-    std::vector<std::size_t> m_widths;
+    AlignedText m_lines;
 };
 
 }  // namespace cli
