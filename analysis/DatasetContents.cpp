@@ -98,8 +98,8 @@ Section fileSection(const StatDataset& dataset, const QString& path)
                   std::string(nameOf(header.compression)), maybeCompressed),
             field("byteOrder", QT_TRANSLATE_NOOP("DatasetContents", "Byte Order"),
                   std::string(nameOf(header.byteOrder))),
-            field("is64Bit", QT_TRANSLATE_NOOP("DatasetContents", "64-bit Layout"),
-                  std::int64_t{header.is64Bit}, hasPages),
+            field("layout", QT_TRANSLATE_NOOP("DatasetContents", "Layout"),
+                  std::string(header.is64Bit ? "64-bit" : "32-bit"), hasPages),
             field("pageSize", QT_TRANSLATE_NOOP("DatasetContents", "Data Set Page Size"),
                   static_cast<std::int64_t>(header.pageSize), hasPages),
             field("pageCount", QT_TRANSLATE_NOOP("DatasetContents", "Number of Data Set Pages"),
@@ -125,14 +125,9 @@ Section noteSection(const StatDataset& dataset)
     for (const std::string& note : dataset.damageNotes()) {
         section.fields.push_back(
             field("", QT_TRANSLATE_NOOP("DatasetContents", "May Be Damaged"), note));
+        section.fields.back().isMessage = true;
     }
     return section;
-}
-
-bool isTold(const Field& field)
-{
-    const auto* text = std::get_if<std::string>(&field.value);
-    return field.isTold && (text == nullptr || !text->empty());
 }
 
 std::string quoted(const std::string& text)
@@ -155,6 +150,12 @@ std::string csvLine(const std::vector<std::string>& cells)
 }
 
 }  // namespace
+
+bool isTold(const Field& field)
+{
+    const auto* text = std::get_if<std::string>(&field.value);
+    return field.isTold && (text == nullptr || !text->empty());
+}
 
 std::vector<Section> sections(const StatDataset& dataset, const QString& path)
 {

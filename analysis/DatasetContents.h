@@ -19,6 +19,7 @@ struct Field
     std::string title;  ///< in the user's language
     Value value;
     bool isTold = true;  ///< whether this kind of file knows it; an empty text is not told either
+    bool isMessage = false;  ///< whether the value is a sentence of the program's own
 };
 
 /// The fields of one heading.
@@ -41,7 +42,7 @@ struct Variable
 };
 
 /// The dataset, its file (by the path that is given), what else the file says, and what may be
-/// wrong with it. A section without a field that is told is left out.
+/// wrong with it.
 [[nodiscard]] std::vector<Section> sections(const StatDataset& dataset, const QString& path);
 [[nodiscard]] std::vector<Variable> variables(const StatDataset& dataset);
 
@@ -52,8 +53,9 @@ struct Variable
 [[nodiscard]] std::vector<std::vector<std::string>> variableRows(const StatDataset& dataset);
 
 [[nodiscard]] std::string valueText(const Value& value);
+[[nodiscard]] bool isTold(const Field& field);
 
-/// The sections as text in columns.
+/// The sections that have something to tell, as text in columns.
 [[nodiscard]] std::string fieldsText(const StatDataset& dataset, const QString& path);
 /// Everything as text in columns, and as CSV with one line a field or variable.
 [[nodiscard]] std::string asText(const StatDataset& dataset, const QString& path);

@@ -52,6 +52,7 @@ void printJson(const OpenedDataset& opened, const QString& path)
             }
         }
     }
+    out += fmt::format("\"is64Bit\":{},", dataset.header().is64Bit ? 1 : 0);
     out += fmt::format(R"("attributes":{},"keyVariables":[{}],"notes":[{}],"members":[{}],)",
                        attributesJson(dataset), keyVariablesJson(dataset),
                        jsonTexts(dataset.damageNotes()), jsonTexts(opened.members));

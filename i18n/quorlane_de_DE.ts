@@ -160,6 +160,141 @@ Möchten Sie es speichern?</translation>
     </message>
 </context>
 <context>
+    <name>DatasetContents</name>
+    <message>
+        <source>Data Set</source>
+        <translation>Dataset</translation>
+    </message>
+    <message>
+        <source>Data Set Name</source>
+        <translation>Name des Datasets</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Bezeichnung</translation>
+    </message>
+    <message>
+        <source>Member Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Observations</source>
+        <translation>Beobachtungen</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>Key Variables</source>
+        <translation>Schlüsselvariablen</translation>
+    </message>
+    <message>
+        <source>Observation Length</source>
+        <translation>Länge einer Beobachtung</translation>
+    </message>
+    <message>
+        <source>Deleted Observations</source>
+        <translation>Gelöschte Beobachtungen</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>Erstellt</translation>
+    </message>
+    <message>
+        <source>Last Modified</source>
+        <translation>Zuletzt geändert</translation>
+    </message>
+    <message>
+        <source>Engine and File</source>
+        <translation>Format und Datei</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>File Size (bytes)</source>
+        <translation>Dateigröße (Bytes)</translation>
+    </message>
+    <message>
+        <source>File Last Modified</source>
+        <translation>Datei zuletzt geändert</translation>
+    </message>
+    <message>
+        <source>Format Version</source>
+        <translation>Version des Formats</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>Zeichensatz</translation>
+    </message>
+    <message>
+        <source>Compressed</source>
+        <translation>Komprimiert</translation>
+    </message>
+    <message>
+        <source>Byte Order</source>
+        <translation>Bytefolge</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Aufbau</translation>
+    </message>
+    <message>
+        <source>Data Set Page Size</source>
+        <translation>Seitengröße</translation>
+    </message>
+    <message>
+        <source>Number of Data Set Pages</source>
+        <translation>Anzahl der Seiten</translation>
+    </message>
+    <message>
+        <source>Release Created</source>
+        <translation>Erstellt mit Version</translation>
+    </message>
+    <message>
+        <source>Host Created</source>
+        <translation>Erstellt auf</translation>
+    </message>
+    <message>
+        <source>Further Attributes</source>
+        <translation>Weitere Angaben</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Hinweise</translation>
+    </message>
+    <message>
+        <source>May Be Damaged</source>
+        <translation>Vielleicht beschädigt</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Len</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Informat</source>
+        <translation>Informat</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+</context>
+<context>
     <name>DatasetOpener</name>
     <message>
         <source>&quot;%1&quot; is already open.
@@ -186,6 +321,53 @@ Möchten Sie das Dataset neu laden?</translation>
     <message>
         <source>The filter could not be kept: %1</source>
         <translation>Der Filter konnte nicht beibehalten werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DatasetPropertiesDialog</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Eigenschaften von %1</translation>
+    </message>
+    <message>
+        <source>Dataset</source>
+        <translation>Dataset</translation>
+    </message>
+    <message>
+        <source>Name or label</source>
+        <translation>Name oder Bezeichnung</translation>
+    </message>
+    <message>
+        <source>&amp;Search:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Save Properties</source>
+        <translation>Eigenschaften speichern</translation>
+    </message>
+    <message>
+        <source>Text Files (*.txt);;CSV Files (*.csv)</source>
+        <translation>Textdateien (*.txt);;CSV-Dateien (*.csv)</translation>
+    </message>
+    <message>
+        <source>The file could not be written: %1</source>
+        <translation>Die Datei konnte nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>
@@ -653,6 +835,50 @@ Möchten Sie das Dataset neu laden?</translation>
     <message>
         <source>The file&apos;s timestamp string is invalid</source>
         <translation>Der Zeitstempel der Datei ist ungültig</translation>
+    </message>
+    <message>
+        <source>It cannot be read to its end</source>
+        <translation>Sie lässt sich nicht bis zum Ende lesen</translation>
+    </message>
+    <message>
+        <source>It is no text file</source>
+        <translation>Sie ist keine Textdatei</translation>
+    </message>
+    <message>
+        <source>The quote that begins a value in line %1 is never closed</source>
+        <translation>Das Anführungszeichen, mit dem in Zeile %1 ein Wert beginnt, wird nie geschlossen</translation>
+    </message>
+    <message>
+        <source>Its first line names more than %1 variables</source>
+        <translation>Ihre erste Zeile nennt mehr als %1 Variablen</translation>
+    </message>
+    <message>
+        <source>It has more than %1 rows, the most that can be shown</source>
+        <translation>Sie hat mehr als %1 Zeilen; mehr können nicht angezeigt werden</translation>
+    </message>
+    <message>
+        <source>Far more values are missing in its lines than there are</source>
+        <translation>In ihren Zeilen fehlen weit mehr Werte, als da sind</translation>
+    </message>
+    <message>
+        <source>The file is empty</source>
+        <translation>Die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>There are letters behind the closing quote of a value; they are taken for a part of it</source>
+        <translation>Hinter dem schließenden Anführungszeichen eines Wertes stehen Zeichen; sie gelten als Teil davon</translation>
+    </message>
+    <message>
+        <source>There are NUL bytes in the file, which are left out</source>
+        <translation>In der Datei stehen NUL-Bytes, die weggelassen sind</translation>
+    </message>
+    <message>
+        <source>Lines with fewer values than variables, filled up with missing ones: %1</source>
+        <translation>Zeilen mit weniger Werten als Variablen, mit fehlenden aufgefüllt: %1</translation>
+    </message>
+    <message>
+        <source>Lines with more values than variables, whose last values are left out: %1</source>
+        <translation>Zeilen mit mehr Werten als Variablen, deren letzte Werte weggelassen sind: %1</translation>
     </message>
 </context>
 <context>
@@ -1201,6 +1427,10 @@ Möchten Sie das Dataset neu laden?</translation>
         <source>Copy with Names</source>
         <translation>Mit Namen kopieren</translation>
     </message>
+    <message>
+        <source>Dataset Properties</source>
+        <translation>Eigenschaften des Datasets</translation>
+    </message>
 </context>
 <context>
     <name>MainMenus</name>
@@ -1371,6 +1601,17 @@ Datendateien werden ausschließlich gelesen.</translation>
     <message>
         <source>The program of what the active dataset shows</source>
         <translation>Das Programm zu dem, was die aktive Datei zeigt</translation>
+    </message>
+</context>
+<context>
+    <name>PropertiesWindows</name>
+    <message>
+        <source>Dataset Properties</source>
+        <translation>Eigenschaften des Datasets</translation>
+    </message>
+    <message>
+        <source>Failed to open the file: %1</source>
+        <translation>Die Datei konnte nicht geöffnet werden: %1</translation>
     </message>
 </context>
 <context>

@@ -160,6 +160,141 @@ Do you want to save it?</source>
     </message>
 </context>
 <context>
+    <name>DatasetContents</name>
+    <message>
+        <source>Data Set</source>
+        <translation>数据集</translation>
+    </message>
+    <message>
+        <source>Data Set Name</source>
+        <translation>数据集名称</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Member Type</source>
+        <translation>成员类型</translation>
+    </message>
+    <message>
+        <source>Observations</source>
+        <translation>观测数</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Key Variables</source>
+        <translation>关键变量</translation>
+    </message>
+    <message>
+        <source>Observation Length</source>
+        <translation>观测长度</translation>
+    </message>
+    <message>
+        <source>Deleted Observations</source>
+        <translation>已删除的观测</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Last Modified</source>
+        <translation>最后修改时间</translation>
+    </message>
+    <message>
+        <source>Engine and File</source>
+        <translation>引擎与文件</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>文件名</translation>
+    </message>
+    <message>
+        <source>File Size (bytes)</source>
+        <translation>文件大小（字节）</translation>
+    </message>
+    <message>
+        <source>File Last Modified</source>
+        <translation>文件最后修改时间</translation>
+    </message>
+    <message>
+        <source>Format Version</source>
+        <translation>格式版本</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>编码</translation>
+    </message>
+    <message>
+        <source>Compressed</source>
+        <translation>压缩</translation>
+    </message>
+    <message>
+        <source>Byte Order</source>
+        <translation>字节序</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>布局</translation>
+    </message>
+    <message>
+        <source>Data Set Page Size</source>
+        <translation>数据集页大小</translation>
+    </message>
+    <message>
+        <source>Number of Data Set Pages</source>
+        <translation>数据集页数</translation>
+    </message>
+    <message>
+        <source>Release Created</source>
+        <translation>创建版本</translation>
+    </message>
+    <message>
+        <source>Host Created</source>
+        <translation>创建主机</translation>
+    </message>
+    <message>
+        <source>Further Attributes</source>
+        <translation>其他属性</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>May Be Damaged</source>
+        <translation>可能已损坏</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Len</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Informat</source>
+        <translation>输入格式</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+</context>
+<context>
     <name>DatasetOpener</name>
     <message>
         <source>&quot;%1&quot; is already open.
@@ -186,6 +321,53 @@ Do you want to reload it?</source>
     <message>
         <source>The filter could not be kept: %1</source>
         <translation>无法保留筛选：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DatasetPropertiesDialog</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>%1 的属性</translation>
+    </message>
+    <message>
+        <source>Dataset</source>
+        <translation>数据集</translation>
+    </message>
+    <message>
+        <source>Name or label</source>
+        <translation>名称或标签</translation>
+    </message>
+    <message>
+        <source>&amp;Search:</source>
+        <translation>搜索(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>另存为(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Save Properties</source>
+        <translation>保存属性</translation>
+    </message>
+    <message>
+        <source>Text Files (*.txt);;CSV Files (*.csv)</source>
+        <translation>文本文件 (*.txt);;CSV 文件 (*.csv)</translation>
+    </message>
+    <message>
+        <source>The file could not be written: %1</source>
+        <translation>无法写入文件：%1</translation>
     </message>
 </context>
 <context>
@@ -653,6 +835,50 @@ Do you want to reload it?</source>
     <message>
         <source>The file&apos;s timestamp string is invalid</source>
         <translation>文件的时间戳无效</translation>
+    </message>
+    <message>
+        <source>It cannot be read to its end</source>
+        <translation>无法读到文件末尾</translation>
+    </message>
+    <message>
+        <source>It is no text file</source>
+        <translation>它不是文本文件</translation>
+    </message>
+    <message>
+        <source>The quote that begins a value in line %1 is never closed</source>
+        <translation>第 %1 行中值开头的引号没有闭合</translation>
+    </message>
+    <message>
+        <source>Its first line names more than %1 variables</source>
+        <translation>第一行中的变量超过 %1 个</translation>
+    </message>
+    <message>
+        <source>It has more than %1 rows, the most that can be shown</source>
+        <translation>行数超过可显示的上限 %1</translation>
+    </message>
+    <message>
+        <source>Far more values are missing in its lines than there are</source>
+        <translation>各行中缺少的值远多于已有的值</translation>
+    </message>
+    <message>
+        <source>The file is empty</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>There are letters behind the closing quote of a value; they are taken for a part of it</source>
+        <translation>某个值的右引号之后还有字符；它们被视为该值的一部分</translation>
+    </message>
+    <message>
+        <source>There are NUL bytes in the file, which are left out</source>
+        <translation>文件中有 NUL 字节，已忽略</translation>
+    </message>
+    <message>
+        <source>Lines with fewer values than variables, filled up with missing ones: %1</source>
+        <translation>值少于变量数的行，已用缺失值补齐：%1</translation>
+    </message>
+    <message>
+        <source>Lines with more values than variables, whose last values are left out: %1</source>
+        <translation>值多于变量数的行，多余的值已省略：%1</translation>
     </message>
 </context>
 <context>
@@ -1201,6 +1427,10 @@ Do you want to reload it?</source>
         <source>Copy with Names</source>
         <translation>复制（含变量名）</translation>
     </message>
+    <message>
+        <source>Dataset Properties</source>
+        <translation>数据集属性</translation>
+    </message>
 </context>
 <context>
     <name>MainMenus</name>
@@ -1371,6 +1601,17 @@ Data files are only ever read.</source>
     <message>
         <source>The program of what the active dataset shows</source>
         <translation>当前数据集所显示内容的程序</translation>
+    </message>
+</context>
+<context>
+    <name>PropertiesWindows</name>
+    <message>
+        <source>Dataset Properties</source>
+        <translation>数据集属性</translation>
+    </message>
+    <message>
+        <source>Failed to open the file: %1</source>
+        <translation>打开文件失败：%1</translation>
     </message>
 </context>
 <context>

@@ -98,6 +98,22 @@ constexpr std::array messages{
     QT_TRANSLATE_NOOP("EngineMessages", "Variable %1 has an impossible length, %2"),
     QT_TRANSLATE_NOOP("EngineMessages", "It has no variables"),
     QT_TRANSLATE_NOOP("EngineMessages", "%1 of its long texts are missing; their cells are empty"),
+    // CSV files
+    QT_TRANSLATE_NOOP("EngineMessages", "It cannot be read to its end"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It is no text file"),
+    QT_TRANSLATE_NOOP("EngineMessages", "The quote that begins a value in line %1 is never closed"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Its first line names more than %1 variables"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It has more than %1 rows, the most that can be shown"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Far more values are missing in its lines than there are"),
+    QT_TRANSLATE_NOOP("EngineMessages", "The file is empty"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "Lines with fewer values than variables, filled up with missing ones: %1"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "Lines with more values than variables, whose last values are left out: %1"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "There are letters behind the closing quote of a value; "
+                      "they are taken for a part of it"),
+    QT_TRANSLATE_NOOP("EngineMessages", "There are NUL bytes in the file, which are left out"),
     // The format library, ReadStat 1.1
     QT_TRANSLATE_NOOP("EngineMessages", "Unable to read from file"),
     QT_TRANSLATE_NOOP("EngineMessages", "Unable to allocate memory"),

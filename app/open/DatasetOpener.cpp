@@ -160,6 +160,17 @@ void DatasetOpener::openLater(const QStringList& paths)
     }
 }
 
+void DatasetOpener::openDropped(const QList<QUrl>& urls)
+{
+    QStringList paths;
+    for (const QUrl& url : urls) {
+        if (url.isLocalFile()) {
+            paths << filepath::fromUrl(url);
+        }
+    }
+    openLater(paths);
+}
+
 void DatasetOpener::openWaiting()
 {
     const bool isStarting = !m_isPainted && !m_start.hasExpired();

@@ -10,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTimer>
+#include <QUrl>
 
 #include <functional>
 #include <memory>
@@ -55,6 +56,8 @@ public:
     /// Opens files once the window can be seen, nobody is asked anything and the event in hand is
     /// done: what comes from outside must not change what a question is about.
     void openLater(const QStringList& paths);
+    /// The same for those of what was dropped that are files of this machine.
+    void openDropped(const QList<QUrl>& urls);
     /// Reads the active dataset anew, and keeps what its user has made of it. Where the file cannot
     /// be read the old one stays.
     void reloadActive();

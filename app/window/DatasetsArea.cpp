@@ -1,5 +1,7 @@
 #include "app/window/DatasetsArea.h"
 
+#include "app/window/DatasetWindow.h"
+
 #include <QMdiArea>
 #include <QStackedLayout>
 #include <QTabBar>
@@ -51,5 +53,17 @@ void DatasetsArea::showDatasets(bool areOpen)
         m_pages->setCurrentWidget(m_mdiArea);
     } else {
         m_pages->setCurrentIndex(0);
+    }
+}
+
+DatasetWindow* DatasetsArea::currentDataset() const
+{
+    return qobject_cast<DatasetWindow*>(m_mdiArea->currentSubWindow());
+}
+
+void DatasetsArea::closeCurrent()
+{
+    if (QMdiSubWindow* window = m_mdiArea->currentSubWindow()) {
+        window->close();
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class DatasetWindow;
 class QMdiArea;
 class QStackedLayout;
 
@@ -18,6 +19,9 @@ public:
     /// Takes over what is shown while no dataset is open.
     void setEmptyState(QWidget* widget);
     void showDatasets(bool areOpen);
+    /// The dataset in front, or null.
+    [[nodiscard]] DatasetWindow* currentDataset() const;
+    void closeCurrent();
 
     [[nodiscard]] QSize minimumSizeHint() const override;
 

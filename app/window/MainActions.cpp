@@ -75,6 +75,9 @@ void MainActions::createFileActions()
     reload = add("actionReload", tr("Reload Dataset"));
     reload->setShortcut(Qt::Key_F5);
     reload->setStatusTip(tr("Read the file anew and keep filters, columns, order and place"));
+    properties = add("actionDatasetProperties", tr("Dataset Properties"));
+    properties->setShortcuts(
+        {QKeySequence(Qt::ALT | Qt::Key_Return), QKeySequence(Qt::ALT | Qt::Key_Enter)});
     exit = add("actionExit", tr("Exit"));
     exit->setShortcut(Qt::CTRL | Qt::Key_Q);
     exit->setMenuRole(QAction::QuitRole);
@@ -178,7 +181,7 @@ void MainActions::drawIcons()
 void MainActions::setDatasetOpen(bool isOpen)
 {
     for (QAction* action :
-         {reload, close, closeAll, find, findNext, findPrevious, submit, editDataFilter,
+         {reload, properties, close, closeAll, find, findNext, findPrevious, submit, editDataFilter,
           goToDatasetFilter, copyStoredValues, copyWithNames, nextDataset}) {
         action->setEnabled(isOpen);
     }

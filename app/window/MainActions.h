@@ -65,6 +65,7 @@ public:
     QAction* nextDataset = nullptr;
     QAction* resetArrangement = nullptr;
     QAction* reload = nullptr;
+    QAction* properties = nullptr;
     QActionGroup* layoutGroup = nullptr;
     std::array<QAction*, layoutCount> layouts{};
 

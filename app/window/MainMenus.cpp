@@ -30,7 +30,7 @@ void MainMenus::fillFileMenu(const MainActions& actions)
     m_file->addActions({actions.newSasProgram, actions.openSasProgram, actions.saveSasProgram,
                         actions.saveSasProgramAs});
     m_file->addSeparator();
-    m_file->addActions({actions.reload, actions.close, actions.closeAll});
+    m_file->addActions({actions.reload, actions.properties, actions.close, actions.closeAll});
     m_file->addSeparator();
     m_file->addAction(actions.exit);
 }

@@ -25,9 +25,9 @@
 #include "app/window/MainToolBars.h"
 #include "app/window/Navigation.h"
 #include "app/window/OperatorLabel.h"
+#include "app/window/PropertiesWindows.h"
 #include "app/window/StatusCounters.h"
 #include "app/window/WindowArrangement.h"
-#include "data/FilePath.h"
 #include "grid/MainTableView.h"
 #include "workspace/OptionsDialog.h"
 #include "workspace/WorkspaceStore.h"
@@ -176,6 +176,7 @@ void MainWindow::fillDocks()
     m_sidePanels = std::make_unique<SidePanels>(*m_docks);
     auto* workspace = new WorkspaceTree(m_docks->workspace());
     m_docks->workspace()->setWidget(workspace);
+    m_properties = new PropertiesWindows(*this, *m_prompts);
     m_navigation = new Navigation(*this, *m_actions, *workspace->model());
     connect(m_navigation, &Navigation::signalFileChosen, this, &MainWindow::openDatasetFile);
     m_code = new CodeWindow(*m_gridServices, *m_prompts, *m_settings, m_docks->code());
@@ -228,6 +229,7 @@ void MainWindow::connectActions()
     connect(m_actions->submit, &QAction::triggered, m_code, &CodeWindow::submit);
     run(m_actions->toggleDarkMode, &MainWindow::toggleDarkMode);
     run(m_actions->editDataFilter, &MainWindow::editDataFilter);
+    run(m_actions->properties, &MainWindow::datasetProperty);
     run(m_actions->nextDataset, &MainWindow::onSwitchWindow);
     connect(m_actions->reload, &QAction::triggered, m_opener, &DatasetOpener::reloadActive);
     connect(m_actions->resetArrangement, &QAction::triggered, this,
@@ -493,9 +495,7 @@ void MainWindow::on_actionNewSasProgram_triggered()
 
 void MainWindow::on_actionClose_triggered()
 {
-    if (QMdiSubWindow* window = m_area->mdiArea().currentSubWindow()) {
-        window->close();
-    }
+    m_area->closeCurrent();
 }
 
 void MainWindow::on_actionCloseAll_triggered()
@@ -543,6 +543,11 @@ void MainWindow::on_actionOptions_triggered()
     }
 }
 
+void MainWindow::datasetProperty()
+{
+    m_properties->showOf(m_area->currentDataset());
+}
+
 void MainWindow::editDataFilter()
 {
     m_boxes->editDataFilter(*m_prompts);
@@ -587,12 +592,6 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    QStringList paths;
-    for (const QUrl& url : event->mimeData()->urls()) {
-        if (url.isLocalFile()) {
-            paths << filepath::fromUrl(url);
-        }
-    }
-    m_opener->openLater(paths);
+    m_opener->openDropped(event->mimeData()->urls());
     event->acceptProposedAction();
 }

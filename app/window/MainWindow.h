@@ -29,6 +29,7 @@ class QMdiSubWindow;
 class QSettings;
 class QTableWidget;
 class QUrl;
+class PropertiesWindows;
 class RecentFiles;
 class Settings;
 class SidePanels;
@@ -103,6 +104,7 @@ public slots:  // NOLINT(readability-redundant-access-specifiers): moc reads it
     void showDockFreq();
     void showDockDesc(QTableWidget* tableWidget);
     void showDockVar();
+    void datasetProperty();
     void updateStatus();
     void editDataFilter();
     void generateSasCode(MainTableView* view = nullptr);
@@ -149,6 +151,7 @@ private:
     MainToolBars* m_toolBars = nullptr;
     CommandBoxes* m_boxes = nullptr;
     Navigation* m_navigation = nullptr;
+    PropertiesWindows* m_properties = nullptr;
     DatasetsArea* m_area = nullptr;
     DatasetOpener* m_opener = nullptr;
     CodeWindow* m_code = nullptr;

@@ -378,12 +378,12 @@ void CsvDoc::Load::addNotes()
     }
     if (!m_shortLines.empty()) {
         m_dataset.addDamageNote(
-            fmt::format("There are fewer values than variables in line {}; the rest is missing",
+            fmt::format("Lines with fewer values than variables, filled up with missing ones: {}",
                         m_shortLines.text()));
     }
     if (!m_longLines.empty()) {
         m_dataset.addDamageNote(
-            fmt::format("There are more values than variables in line {}; the rest is left out",
+            fmt::format("Lines with more values than variables, whose last values are left out: {}",
                         m_longLines.text()));
     }
     if (m_hadEarlyQuotes) {

@@ -125,11 +125,11 @@ TEST_F(CsvDoc, saysWhatMayBeWrong)
     const auto ragged = read("a.csv", "a,b\n\"1\n\n\",2\n3\n\n4,5,6\n7,8,,\n\"9\r\nx\"\n");
     EXPECT_EQ(shown(*ragged), "a|#b; 1|2; 3|.; 4|5; 7|8; 9\r\nx|.");
     EXPECT_EQ(ragged->damageNotes(),
-              (Notes{"There are fewer values than variables in line 5, 9; the rest is missing",
-                     "There are more values than variables in line 7; the rest is left out"}));
+              (Notes{"Lines with fewer values than variables, filled up with missing ones: 5, 9",
+                     "Lines with more values than variables, whose last values are left out: 7"}));
     EXPECT_EQ(notesOf("a,b\r\n1\r\n2\r\n3\r\n\r\n4\r\n5\r\n6\r\n7\r\n"),
-              Notes{"There are fewer values than variables in line 2, 3, 4, 6, 7 and 2 more; the "
-                    "rest is missing"});
+              Notes{"Lines with fewer values than variables, filled up with missing ones: 2, 3, 4, "
+                    "6, 7 and 2 more"});
     EXPECT_EQ(notesOf("a\nb\"c\n"), Notes{});
     EXPECT_EQ(notesOf("a\n\"b\"c\n").size(), 1);
     EXPECT_EQ(notesOf("a,b\nx\0\0,1\n"s).size(), 1);
