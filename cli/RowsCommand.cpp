@@ -74,6 +74,7 @@ public:
     void printTable(std::span<const std::uint32_t> observations, OutputFormat format) const;
 
 private:
+    [[nodiscard]] double storedNumber(int observation, int variable) const;
     [[nodiscard]] std::string plainCell(int observation, int variable) const;
     [[nodiscard]] std::string jsonCell(int observation, int variable) const;
 
@@ -82,22 +83,26 @@ private:
     bool m_raw;
 };
 
+/// NaN for every missing number, whatever stands for it in the cell.
+double RowPrinter::storedNumber(int observation, int variable) const
+{
+    return m_dataset.missingMark(variable).unified(m_dataset.numericValue(observation, variable));
+}
+
 std::string RowPrinter::plainCell(int observation, int variable) const
 {
     if (!m_raw) {
         return m_dataset.cellText(observation, variable);
     }
-    const std::string number = m_dataset.isNumeric(variable)
-        ? jsonNumber(m_dataset.numericValue(observation, variable))
-        : "null";
+    const std::string number =
+        m_dataset.isNumeric(variable) ? jsonNumber(storedNumber(observation, variable)) : "null";
     return number == "null" ? storedvalue::text(m_dataset, observation, variable) : number;
 }
 
 std::string RowPrinter::jsonCell(int observation, int variable) const
 {
-    return m_raw && m_dataset.isNumeric(variable)
-        ? jsonNumber(m_dataset.numericValue(observation, variable))
-        : jsonText(plainCell(observation, variable));
+    return m_raw && m_dataset.isNumeric(variable) ? jsonNumber(storedNumber(observation, variable))
+                                                  : jsonText(plainCell(observation, variable));
 }
 
 void RowPrinter::printJson(std::span<const std::uint32_t> observations) const

@@ -15,6 +15,12 @@ std::string_view nameOf(FileCompression compression)
         return "rows";
     case FileCompression::Binary:
         return "binary";
+    case FileCompression::Gzip:
+        return "gzip";
+    case FileCompression::Bzip2:
+        return "bzip2";
+    case FileCompression::Xz:
+        return "xz";
     case FileCompression::None:
         break;
     }

@@ -49,12 +49,16 @@ enum class VariableAttribute : int
     Label = 6,
 };
 
-/// How the values of a file are packed; the numbers are the format library's.
+/// How the values of a file are packed; the first numbers are the format library's.
 enum class FileCompression : std::int32_t
 {
     None = 0,
     Rows = 1,  ///< repeated bytes of a row
     Binary = 2,  ///< SAS's other way, or zlib in SPSS files
+    // The whole file, by one of these programs.
+    Gzip = 3,
+    Bzip2 = 4,
+    Xz = 5,
 };
 
 /// The order of the bytes of its numbers; the numbers here are the format library's.
@@ -65,7 +69,7 @@ enum class ByteOrder : std::int32_t
     Big = 2,
 };
 
-/// "none", "rows", "binary".
+/// "none", "rows", "binary", "gzip", "bzip2", "xz".
 [[nodiscard]] std::string_view nameOf(FileCompression compression);
 /// "little", "big"; empty where there is none.
 [[nodiscard]] std::string_view nameOf(ByteOrder order);

@@ -16,12 +16,16 @@ CellLoader::CellLoader(StatDataset& dataset)
     : m_dataset(dataset)
 { }
 
-void CellLoader::begin(int rows)
+void CellLoader::begin(int rows, Order order)
 {
     prepareColumns();
     m_dataset.m_observationCount = rows;
+    if (order == Order::ByColumn) {
+        m_rowStep = 1;
+        m_columnStep = static_cast<std::size_t>(rows);
+    }
     if (m_dataset.m_valuesWanted) {
-        m_dataset.m_cells = CellVector(placeOf(rows, 0));
+        m_dataset.m_cells = CellVector(static_cast<std::size_t>(rows) * m_columns);
         m_room = static_cast<std::size_t>(rows);
     }
 }
@@ -38,6 +42,8 @@ void CellLoader::beginUncounted(int expectedRows)
 void CellLoader::prepareColumns()
 {
     m_columns = static_cast<std::size_t>(m_dataset.m_variableCount);
+    m_rowStep = m_columns;
+    m_columnStep = 1;
     if (m_dataset.m_valuesWanted) {
         m_recentPlaces.assign(m_columns, noPlace);
     }

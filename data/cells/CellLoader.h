@@ -27,9 +27,15 @@ public:
     void setDecoder(TextDecoder decoder) { m_decoder = std::move(decoder); }
     [[nodiscard]] const TextDecoder& decoder() const { return m_decoder; }
 
+    /// How the cells lie in memory.
+    enum class Order
+    {
+        ByRow,
+        ByColumn,
+    };
     /// Makes room for that many rows, which are the observations, and more may not come. Throws
     /// std::bad_alloc.
-    void begin(int rows);
+    void begin(int rows, Order order = Order::ByRow);
     /// Counts the rows that come, up to the last one that got a cell. Room for as many as are
     /// expected costs nothing until they come, and saves moving them.
     void beginUncounted(int expectedRows = 0);
@@ -62,7 +68,8 @@ private:
     void prepareColumns();
     [[nodiscard]] std::size_t placeOf(int row, int column) const
     {
-        return static_cast<std::size_t>(row) * m_columns + static_cast<std::size_t>(column);
+        return static_cast<std::size_t>(row) * m_rowStep
+            + static_cast<std::size_t>(column) * m_columnStep;
     }
     CellValue* cellFor(int row, int column);
     bool makeRoom(int row, int column);
@@ -81,6 +88,8 @@ private:
     StatDataset& m_dataset;
     TextDecoder m_decoder;
     std::size_t m_columns = 0;
+    std::size_t m_rowStep = 0;  ///< cells from a row to the next
+    std::size_t m_columnStep = 1;
     std::size_t m_room = 0;  ///< rows that there are cells for
     bool m_rowsAreCounted = false;
     int m_rowsSeen = 0;

@@ -3,6 +3,7 @@
 #include "data/FilePath.h"
 #include "data/readers/CsvDoc.h"
 #include "data/readers/DtaDoc.h"
+#include "data/readers/RdsDoc.h"
 #include "data/readers/SasDoc.h"
 #include "data/readers/SavDoc.h"
 #include "data/readers/XptDoc.h"
@@ -28,7 +29,7 @@ Result<OpenedDataset> readWith(std::unique_ptr<Doc> doc, SourceKind kind, const 
         return Failure{doc->loadError()};
     }
     OpenedDataset opened;
-    if constexpr (std::is_same_v<Doc, XptDoc>) {
+    if constexpr (requires { doc->memberNames(); }) {
         opened.members = doc->memberNames();
     }
     opened.dataset = std::move(doc);
@@ -54,6 +55,13 @@ Result<OpenedDataset> readTransport(const QString& path, const OpenOptions& opti
     return readWith(std::move(doc), SourceKind::Sas, path, options);
 }
 
+Result<OpenedDataset> readR(const QString& path, const OpenOptions& options)
+{
+    auto doc = std::make_unique<RdsDoc>();
+    doc->setMember(options.member);
+    return readWith(std::move(doc), SourceKind::R, path, options);
+}
+
 constexpr std::array sasSuffixes{
     Suffix{"sas7bdat", "type-sas7bdat", readSingle<SasDoc, SourceKind::Sas>},
     Suffix{"xpt", "type-xpt", readTransport, XptDoc::memberNamesOf},
@@ -64,9 +72,9 @@ constexpr std::array jsonSuffixes{
     Suffix{"dsjc", "type-json"},
 };
 constexpr std::array rSuffixes{
-    Suffix{"rds", "type-r"},
-    Suffix{"rdata", "type-r"},
-    Suffix{"rda", "type-r"},
+    Suffix{"rds", "type-r", readR, RdsDoc::memberNamesOf},
+    Suffix{"rdata", "type-r", readR, RdsDoc::memberNamesOf},
+    Suffix{"rda", "type-r", readR, RdsDoc::memberNamesOf},
 };
 constexpr std::array spssSuffixes{
     Suffix{"sav", "type-sav", readSingle<SavDoc, SourceKind::Spss>},

@@ -1,0 +1,225 @@
+#include "data/readers/RStream.h"
+
+#include <limits>
+
+// Passing over items needs only to know how many more items belong to each, not which: a count
+// takes the place of recursion. Compiled code alone is laid out otherwise.
+
+namespace {
+
+constexpr const char* damaged = "The objects in it are damaged";
+constexpr std::size_t deepest = 1 << 20;  ///< levels of compiled code
+
+}  // namespace
+
+void RStream::skipItems(std::int64_t count)
+{
+    WaitingList waiting{{Waiting::What::Items, count}};
+    skip(waiting);
+}
+
+void RStream::skipRest(const RItem& item)
+{
+    WaitingList waiting{{Waiting::What::Items, 0}};
+    skipOne(item, waiting);
+    skip(waiting);
+}
+
+void RStream::skip(WaitingList& waiting)
+{
+    while (!waiting.empty()) {
+        if (waiting.back().count == 0) {
+            waiting.pop_back();
+            continue;
+        }
+        --waiting.back().count;
+        switch (waiting.back().what) {
+        case Waiting::What::Items:
+            skipOne(item(), waiting);
+            break;
+        case Waiting::What::Constants: {
+            const std::int32_t type = integer();
+            if (static_cast<RType>(type) == RType::Bytecode) {
+                skipCode(waiting);
+            } else {
+                skipCall(type, waiting);
+            }
+            break;
+        }
+        case Waiting::What::Code:
+            skipCall(integer(), waiting);
+            break;
+        }
+        if (waiting.size() > deepest) {
+            throw FileDamage(damaged);
+        }
+    }
+}
+
+void RStream::skipOne(const RItem& item, WaitingList& waiting)
+{
+    // Some read on before the items that belong to them, in the order of the file.
+    std::int64_t more = item.hasAttributes ? 1 : 0;
+    switch (item.type) {
+    case RType::Symbol: {
+        const RItem name = this->item();
+        m_references.emplace_back(text(name).value_or(std::string_view()));
+        more = 0;
+        break;
+    }
+    case RType::Persistent:
+    case RType::Package:
+    case RType::Namespace:
+        m_references.emplace_back();
+        (void)integer();
+        more = length(4);
+        break;
+    case RType::Environment:
+        m_references.emplace_back();
+        (void)integer();  // whether it is locked
+        more = 4;
+        break;
+    case RType::Pointer:
+        m_references.emplace_back();
+        more += 2;
+        break;
+    case RType::WeakReference:
+        m_references.emplace_back();
+        break;
+    case RType::Pairlist:
+    case RType::Call:
+    case RType::Closure:
+    case RType::Promise:
+    case RType::Dots:
+        more += item.hasTag ? 3 : 2;
+        break;
+    case RType::Special:
+    case RType::Builtin:
+        (void)view(static_cast<std::size_t>(length(1)));
+        break;
+    case RType::Char:
+        skipText(item);
+        return;
+    case RType::Logical:
+    case RType::Integer:
+        skipNumbers(length(4), 4);
+        break;
+    case RType::Real:
+        skipNumbers(length(8), 8);
+        break;
+    case RType::Complex:
+        skipNumbers(length(16) * 2, 8);
+        break;
+    case RType::Raw:
+        skipNumbers(length(1), 1);
+        break;
+    case RType::Text:
+        skipTexts(length(4));
+        break;
+    case RType::List:
+    case RType::Expression:
+        more += length(4);
+        break;
+    case RType::Bytecode:
+        waiting.back().count += more;
+        (void)integer();  // how many of its parts are shared
+        skipCode(waiting);
+        return;
+    case RType::Altrep:
+        more = 3;
+        break;
+    case RType::S4:
+        break;
+    case RType::Reference:
+        if (item.flags >> 8 == 0) {
+            (void)integer();
+        }
+        return;
+    case RType::BaseEnvironment:
+    case RType::EmptyEnvironment:
+    case RType::BaseNamespace:
+    case RType::MissingArgument:
+    case RType::UnboundValue:
+    case RType::GlobalEnvironment:
+    case RType::Null:
+        return;
+    default:
+        throw FileDamage(damaged);
+    }
+    if (waiting.back().count > std::numeric_limits<std::int64_t>::max() - more) {
+        throw FileDamage(damaged);
+    }
+    waiting.back().count += more;
+}
+
+/// The instructions, a vector of integers, and the constants behind them.
+void RStream::skipCode(WaitingList& waiting)
+{
+    const RItem code = item();
+    if (code.type != RType::Integer) {
+        throw FileDamage(damaged);
+    }
+    skipNumbers(length(4), 4);
+    waiting.push_back({Waiting::What::Constants, length(4)});
+}
+
+void RStream::skipCall(std::int32_t type, WaitingList& waiting)
+{
+    if (static_cast<RType>(type) == RType::BytecodeReference) {
+        (void)integer();
+        return;
+    }
+    if (static_cast<RType>(type) == RType::BytecodeDefinition) {
+        (void)integer();  // the number by which it is referred to
+        type = integer();
+    }
+    switch (static_cast<RType>(type)) {
+    case RType::AttributedPairlist:
+    case RType::AttributedCall:
+        waiting.push_back({Waiting::What::Code, 2});
+        waiting.push_back({Waiting::What::Items, 2});  // attributes and tag
+        return;
+    case RType::Pairlist:
+    case RType::Call:
+        waiting.push_back({Waiting::What::Code, 2});
+        waiting.push_back({Waiting::What::Items, 1});  // tag
+        return;
+    default:
+        waiting.push_back({Waiting::What::Items, 1});
+    }
+}
+
+void RStream::skipTexts(std::int64_t count)
+{
+    for (; count > 0; --count) {
+        const RItem one = item();
+        if (one.type != RType::Char) {
+            throw FileDamage(damaged);
+        }
+        skipText(one);
+    }
+}
+
+void RStream::skipText(const RItem& item)
+{
+    if (m_form == Form::Ascii || item.hasAttributes) {
+        (void)text(item);
+        return;
+    }
+    const std::int32_t size = integer();
+    if (size < -1) {
+        throw FileDamage(damaged);
+    }
+    skipBytes(size);
+}
+
+void RStream::skipNumbers(std::int64_t count, std::int64_t width)
+{
+    if (m_form != Form::Ascii) {
+        skipBytes(count * width);
+        return;
+    }
+    for (; count > 0; --count) {
+        (void)word();
+    }
+}
