@@ -1,10 +1,12 @@
 #include "benchmarks/BareParses.h"
 
 #include <csv.h>
+#include <rdata/rdata.h>
 
 #include <fstream>
 #include <memory>
 #include <vector>
+#include <zlib.h>
 
 namespace bareparses {
 namespace {
@@ -22,6 +24,36 @@ int ignoreVariable(int, readstat_variable_t*, const char*, void*)
 
 void ignoreField(void*, std::size_t, void*) { }
 void ignoreRecord(int, void*) { }
+
+int openPacked(const char*, void*)
+{
+    return 0;
+}
+int closePacked(void*)
+{
+    return 0;
+}
+rdata_off_t seekPacked(rdata_off_t offset, rdata_io_flags_t whence, void* file)
+{
+    return gzseek(static_cast<gzFile>(file), offset,
+                  whence == RDATA_SEEK_SET ? SEEK_SET : SEEK_CUR);
+}
+ssize_t readPacked(void* target, std::size_t size, void* file)
+{
+    return gzread(static_cast<gzFile>(file), target, static_cast<unsigned>(size));
+}
+rdata_error_t ignoreProgress(long, rdata_progress_handler, void*, void*)
+{
+    return RDATA_OK;
+}
+int ignoreColumn(const char*, rdata_type_t, void*, long, void*)
+{
+    return 0;
+}
+int ignoreText(const char*, int, void*)
+{
+    return 0;
+}
 
 }  // namespace
 
@@ -51,6 +83,23 @@ bool csv(const std::string& path)
     csv_fini(&parser, ignoreField, ignoreRecord, nullptr);
     csv_free(&parser);
     return isRead;
+}
+
+bool r(const std::string& path)
+{
+    const std::unique_ptr<gzFile_s, decltype(&gzclose)> file(gzopen(path.c_str(), "rb"), gzclose);
+    const std::unique_ptr<rdata_parser_t, decltype(&rdata_parser_free)> parser(rdata_parser_init(),
+                                                                               rdata_parser_free);
+    gzbuffer(file.get(), 1 << 18);
+    rdata_set_open_handler(parser.get(), openPacked);
+    rdata_set_close_handler(parser.get(), closePacked);
+    rdata_set_seek_handler(parser.get(), seekPacked);
+    rdata_set_read_handler(parser.get(), readPacked);
+    rdata_set_update_handler(parser.get(), ignoreProgress);
+    rdata_set_io_ctx(parser.get(), file.get());
+    rdata_set_column_handler(parser.get(), ignoreColumn);
+    rdata_set_text_value_handler(parser.get(), ignoreText);
+    return rdata_parse(parser.get(), path.c_str(), nullptr) == RDATA_OK;
 }
 
 }  // namespace bareparses

@@ -13,5 +13,7 @@ using ReadStatParse = readstat_error_t (*)(readstat_parser_t*, const char*, void
 
 [[nodiscard]] std::function<bool(const std::string& path)> readStat(ReadStatParse parse);
 [[nodiscard]] bool csv(const std::string& path);
+/// Of a file packed by gzip, which librdata itself cannot read.
+[[nodiscard]] bool r(const std::string& path);
 
 }  // namespace bareparses

@@ -43,6 +43,7 @@ const std::vector<BenchmarkFile>& benchmarkFiles()
         {"spss-zlib", ".sav", options(Compression::Zlib), readStat(readstat_parse_sav), 1.15},
         {"stata118", ".dta", release(118), readStat(readstat_parse_dta), 1.7},
         {"csv", ".csv", {}, bareparses::csv, 1.8},
+        {"r", ".rds", {}, bareparses::r, 1.6},
     };
     return files;
 }

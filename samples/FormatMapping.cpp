@@ -88,6 +88,7 @@ std::string fileFormat(const Column& column, FileKind kind)
     case FileKind::Stata:
         return stataFormat(column);
     case FileKind::Csv:
+    case FileKind::R:
         break;
     }
     return {};
@@ -103,6 +104,10 @@ NumberMapping numberMapping(const Column& column, FileKind kind)
     }
     if (kind == FileKind::Stata && (meaning == Meaning::DateTime || meaning == Meaning::Time)) {
         return {1000, 0};
+    }
+    if (kind == FileKind::R && (meaning == Meaning::Date || meaning == Meaning::DateTime)) {
+        constexpr double daysFrom1960To1970 = 3653;
+        return {1, -daysFrom1960To1970 * (meaning == Meaning::Date ? 1 : secondsADay)};
     }
     return {};
 }

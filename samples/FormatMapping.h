@@ -23,7 +23,8 @@ enum class Meaning
 [[nodiscard]] std::string fileFormat(const Column& column, FileKind kind);
 
 /// What turns a SAS number of the column into the file's: a date becomes seconds from 14 October
-/// 1582 for SPSS, a date-time milliseconds from 1960 for Stata. NaN stays NaN.
+/// 1582 for SPSS, a date-time milliseconds from 1960 for Stata; R counts both from 1970. NaN stays
+/// NaN.
 struct NumberMapping
 {
     double factor = 1;

@@ -146,6 +146,7 @@ void ReadStatWriter::begin(long rowCount)
         check(readstat_begin_writing_dta(writer, m_file, rowCount));
         break;
     case FileKind::Csv:
+    case FileKind::R:
         throw std::runtime_error("the library writes no such file");
     }
     check(readstat_validate_metadata(writer));

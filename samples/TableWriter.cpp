@@ -3,6 +3,7 @@
 #include "samples/CsvWriter.h"
 #include "samples/FilePatches.h"
 #include "samples/ReadStatWriter.h"
+#include "samples/RWriter.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -74,8 +75,14 @@ void patchFile(const std::filesystem::path& path, FileKind kind, const TableShap
 std::unique_ptr<RowWriter> makeWriter(std::FILE* file, const TableShape& shape, FileKind kind,
                                       const WriteOptions& options, long rowCount)
 {
-    return kind == FileKind::Csv ? makeCsvWriter(file, shape)
-                                 : makeReadStatWriter(file, shape, kind, options, rowCount);
+    switch (kind) {
+    case FileKind::Csv:
+        return makeCsvWriter(file, shape);
+    case FileKind::R:
+        return makeRWriter(file, shape);
+    default:
+        return makeReadStatWriter(file, shape, kind, options, rowCount);
+    }
 }
 
 /// Appends a transport file's member to another transport file.

@@ -35,6 +35,7 @@ bool isPossible(FileKind kind, const WriteOptions& options)
         return options.release >= 111 && options.release <= 119 && options.release != 116
             && (isUtf8 || options.release < 118);
     case FileKind::Csv:
+    case FileKind::R:
         return options.release == 0 && options.compression == Compression::None && isUtf8;
     }
     return false;
@@ -46,11 +47,13 @@ FileKind kindOfFile(const std::filesystem::path& path)
 {
     static const std::map<std::string, FileKind> kinds{
         {".xpt", FileKind::Transport}, {".sas7bdat", FileKind::Sas}, {".sav", FileKind::Spss},
-        {".zsav", FileKind::Spss},     {".dta", FileKind::Stata},    {".csv", FileKind::Csv}};
+        {".zsav", FileKind::Spss},     {".dta", FileKind::Stata},    {".csv", FileKind::Csv},
+        {".rds", FileKind::R}};
     const auto found = kinds.find(lowerSuffix(path));
     if (found == kinds.end()) {
         throw std::runtime_error(
-            path.string() + ": the suffix is none of .xpt, .sas7bdat, .sav, .zsav, .dta, .csv");
+            path.string()
+            + ": the suffix is none of .xpt, .sas7bdat, .sav, .zsav, .dta, .csv, .rds");
     }
     return found->second;
 }

@@ -10,7 +10,8 @@ enum class FileKind
     Sas,
     Spss,
     Stata,
-    Csv
+    Csv,
+    R
 };
 
 enum class Compression
@@ -34,7 +35,7 @@ struct WriteOptions
     bool layout64 = true;  ///< SAS7BDAT: 64-bit layout instead of 32-bit
 };
 
-/// Told by the suffix: .xpt, .sas7bdat, .sav, .zsav, .dta, .csv in any letter case.
+/// Told by the suffix: .xpt, .sas7bdat, .sav, .zsav, .dta, .csv, .rds in any letter case.
 /// @throws std::runtime_error naming the file for any other suffix
 [[nodiscard]] FileKind kindOfFile(const std::filesystem::path& path);
 

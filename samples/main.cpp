@@ -36,7 +36,7 @@ void defineOptions(CLI::App& app, Arguments& arguments)
         app.add_option("OUTDIR", arguments.directory, "Write the sample study into this folder");
     auto* const table = app.add_option("--table", arguments.tableFile,
                                        "Write the benchmark table; the suffix .xpt, .sas7bdat, "
-                                       ".sav, .zsav, .dta or .csv tells its kind");
+                                       ".sav, .zsav, .dta, .csv or .rds tells its kind");
     directory->excludes(table);
     app.add_option("--rows", arguments.rowCount, "Rows of the benchmark table")
         ->needs(table)
@@ -68,7 +68,7 @@ void writeStudy(const std::filesystem::path& directory)
     for (const auto& table : samples::studyTables()) {
         std::vector<std::string> suffixes{".xpt"};
         if (std::ranges::find(inEveryKind, table.name) != inEveryKind.end()) {
-            suffixes.insert(suffixes.end(), {".sas7bdat", ".sav", ".dta", ".csv"});
+            suffixes.insert(suffixes.end(), {".sas7bdat", ".sav", ".dta", ".csv", ".rds"});
         }
         const auto name = QString::fromStdString(table.name).toLower().toStdString();
         for (const auto& suffix : suffixes) {

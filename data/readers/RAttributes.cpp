@@ -65,7 +65,9 @@ void readAttribute(RStream& stream, const std::string& name, RAttributes& attrib
         attributes.names = filled(readTexts(vector));
     } else if (name == "levels") {
         attributes.levels = readTexts(vector);
-    } else if (name == "label") {
+    } else if (name == "var.labels") {
+        attributes.variableLabels = filled(readTexts(vector));
+    } else if (name == "label" || name == "datalabel") {
         attributes.label = firstOf(readTexts(vector));
     } else if (name == "units") {
         attributes.units = firstOf(readTexts(vector));

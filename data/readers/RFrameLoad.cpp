@@ -304,7 +304,7 @@ bool RFrameLoad::complete(const RAttributes& frame)
     describeVariables(frame);
     noteWhatIsLeftOut(frame);
     m_cells.finish();
-    m_dataset.m_header.fileLabel = frame.label;
+    m_dataset.m_header.fileLabel = texts::repaired(frame.label);
     return true;
 }
 
@@ -316,7 +316,10 @@ void RFrameLoad::describeVariables(const RAttributes& frame)
         const bool isNamed = i < frame.names.size() && !frame.names[i].empty();
         m_dataset.m_names[i] =
             texts::repaired(isNamed ? frame.names[i] : "V" + std::to_string(i + 1));
-        m_dataset.m_labels[i] = texts::repaired(column.attributes.label);
+        const bool isLabelledThere =
+            column.attributes.label.empty() && i < frame.variableLabels.size();
+        m_dataset.m_labels[i] =
+            texts::repaired(isLabelledThere ? frame.variableLabels[i] : column.attributes.label);
         Meaning meaning = meaningOf(column);
         m_dataset.m_typeCodes[i] = meaning.type;
         m_dataset.m_formats[i] = texts::repaired(meaning.format);

@@ -11,6 +11,7 @@ struct RAttributes
     std::vector<std::string> names;
     std::vector<std::optional<std::string>> levels;  ///< of a factor; a level may be missing
     std::string label;
+    std::vector<std::string> variableLabels;  ///< of a data frame whose columns have none
     std::string units;  ///< of a difftime: "days"
     std::int64_t rowCount = -1;  ///< of a data frame; -1 where nothing tells
     bool hasRowNames = false;  ///< that are more than numbers

@@ -94,7 +94,9 @@ double cellNumber(double number)
 std::string formatNumber(double number, std::string_view format)
 {
     if (std::isnan(number)) {
-        return std::bit_cast<std::uint64_t>(number) == notANumber ? "NaN" : std::string(missing);
+        const bool isPlain = format != date && format != dateTime && format != time;
+        return isPlain && std::bit_cast<std::uint64_t>(number) == notANumber ? "NaN"
+                                                                             : std::string(missing);
     }
     if (format == logical) {
         return number == 0 ? "FALSE" : "TRUE";

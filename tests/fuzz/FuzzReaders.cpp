@@ -19,6 +19,14 @@ const char* suffixOf(std::string_view bytes)
     if (bytes.starts_with("$FL")) {
         return ".sav";
     }
+    for (const char* const start : {"\x1F\x8B", "BZh",
+                                    "\xFD"
+                                    "7zXZ",
+                                    "RDX", "RDA", "RDB", "X\n", "A\n", "B\n"}) {
+        if (bytes.starts_with(start)) {
+            return ".rds";
+        }
+    }
     return bytes.starts_with(std::string_view("\0\0\0\0\0\0\0\0", 8)) ? ".sas7bdat" : ".dta";
 }
 
