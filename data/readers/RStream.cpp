@@ -18,6 +18,9 @@ constexpr const char* cutShort = "It is cut short";
 constexpr const char* damaged = "The objects in it are damaged";
 constexpr const char* noRFile = "It is no file that R's saveRDS or save wrote";
 
+/// What R calls latin1 is what Windows makes of it.
+const std::string latin1 = "WINDOWS-1252";
+
 constexpr std::uint32_t objectFlag = 1 << 8;
 constexpr std::uint32_t attributeFlag = 1 << 9;
 constexpr std::uint32_t tagFlag = 1 << 10;
@@ -83,7 +86,6 @@ double realOf(std::string_view word)
 RStream::RStream(UnpackedFile& file)
     : m_file(file)
     , m_buffer(bufferBytes)
-    , m_latin1("WINDOWS-1252")
 { }
 
 void RStream::begin()
@@ -105,7 +107,6 @@ void RStream::begin()
         m_encoding =
             texts::repaired(m_form == Form::Ascii ? asciiBytes(static_cast<std::size_t>(size))
                                                   : view(static_cast<std::size_t>(size)));
-        m_native = TextDecoder(m_encoding == "UTF-8" ? std::string() : m_encoding);
     }
 }
 
@@ -379,7 +380,12 @@ std::string_view RStream::inUtf8(std::string_view raw, std::uint32_t flags)
     if ((!isLatin1 && (m_encoding.empty() || m_encoding == "UTF-8")) || texts::isAscii(raw)) {
         return raw;
     }
-    m_converted = (isLatin1 ? m_latin1 : m_native).decode(raw);
+    const std::string& encoding = isLatin1 ? latin1 : m_encoding;
+    if (!m_decoder || m_decoderEncoding != encoding) {
+        m_decoder.emplace(encoding);
+        m_decoderEncoding = encoding;
+    }
+    m_converted = m_decoder->decode(raw);
     return m_converted;
 }
 

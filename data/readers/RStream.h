@@ -159,7 +159,7 @@ private:
     int m_version = 0;
     std::string m_release;
     std::string m_encoding;
-    TextDecoder m_latin1;
-    TextDecoder m_native;
+    std::optional<TextDecoder> m_decoder;  ///< made for the first text that needs it
+    std::string m_decoderEncoding;
     std::vector<std::string> m_references;  ///< names of symbols; empty for all else
 };

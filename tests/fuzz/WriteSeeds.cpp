@@ -1,9 +1,11 @@
 #include "samples/TableWriter.h"
+#include "tests/support/RFiles.h"
 
 #include <readstat.h>
 
 #include <cstdio>
 #include <exception>
+#include <fstream>
 #include <memory>
 #include <stdexcept>
 
@@ -34,6 +36,7 @@ const Target targets[] = {
     {"117.dta", {.release = 117}},
     {"118.dta", {.release = 118}},
     {"119.dta", {.release = 119}},
+    {"gzip.rds", {}},
 };
 
 /// All kinds of columns, with gaps and with texts that repeat, stay empty or are not ASCII.
@@ -109,8 +112,22 @@ void writeLabelled(const Path& path, std::uint8_t release, readstat_compress_t c
     }
 }
 
+void writeRSeeds(const Path& folder)
+{
+    const std::pair<const char*, const char*> files[] = {
+        {"types.rds", rfiles::types},         {"alternative.rds", rfiles::alternative},
+        {"workspace.rds", rfiles::workspace}, {"long.rds", rfiles::longIntegers},
+        {"ascii.rds", rfiles::ascii},         {"little.rds", rfiles::littleEndian},
+        {"matrix.rds", rfiles::matrixFirst},
+    };
+    for (const auto& [name, file] : files) {
+        std::ofstream(folder / name, std::ios::binary) << rfiles::bytesOf(file);
+    }
+}
+
 void writeSeeds(const Path& folder)
 {
+    writeRSeeds(folder);
     for (const Target& target : targets) {
         writeTable(folder / (std::string("mixed-") + target.name), mixedTable(12), target.options);
         writeTable(folder / (std::string("empty-") + target.name), mixedTable(0), target.options);
