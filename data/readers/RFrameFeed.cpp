@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstdlib>
 #include <exception>
 #include <limits>
 #include <utility>
@@ -71,6 +72,7 @@ void RFrameFeed::attachTo(rdata_parser_t* parser)
     rdata_set_read_handler(parser, onRead);
     rdata_set_update_handler(parser,
                              [](long, rdata_progress_handler, void*, void*) { return RDATA_OK; });
+    std::free(parser->io->io_ctx);  // the library's own for files, which it would lose hold of
     rdata_set_io_ctx(parser, this);
 }
 

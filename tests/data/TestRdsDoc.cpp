@@ -319,6 +319,35 @@ TEST_F(RdsDoc, namesWhatHasNoNameOfItsOwn)
               "The values of V2 are not shown: it holds an integer vector of 2 elements");
 }
 
+TEST_F(RdsDoc, takesNoColumnForADataFrameOfTheFile)
+{
+    const std::string column = integers({13, 1, 7});
+    const std::string object = frame({column, frame({column})});
+    EXPECT_EQ(namesOf("RDX2\n" + head + integers({0x402}) + symbol("x") + object + null),
+              std::vector{"x"s});
+}
+
+TEST_F(RdsDoc, keepsTheLastDigitOfLongIntegers)
+{
+    const auto frameOf = [](std::uint64_t number) {
+        return head
+            + frame({integers({0x30E, 1}) + bigEndian(number, 8) + integers({0x402})
+                     + symbol("class") + integers({16, 1}) + letters("integer64") + null});
+    };
+    constexpr std::uint64_t largest = std::uint64_t{1} << 53;
+    EXPECT_TRUE(read("a.rds", frameOf(largest))->isNumeric(0));
+    EXPECT_TRUE(read("a.rds", frameOf(largest + 1))->isCharacter(0));
+    EXPECT_EQ(shownOf(frameOf(largest + 1)), "V1 9007199254740993");
+}
+
+TEST_F(RdsDoc, showsBytesThatAreNoText)
+{
+    const std::string bytes = integers({0x2009, 2}) + "\xE4z";
+    const std::string undeclared = integers({9, 2}) + "\xE4z";
+    EXPECT_EQ(shownOf(head + frame({integers({16, 2}) + bytes + undeclared})),
+              "V1 \\xe4z \xC3\xA4z");
+}
+
 TEST(RFormat, writesRealsAsRDoes)
 {
     const std::pair<double, std::string> cases[] = {

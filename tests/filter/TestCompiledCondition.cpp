@@ -1,5 +1,9 @@
+#include "data/readers/DatasetFile.h"
 #include "tests/filter/Selecting.h"
+#include "tests/support/RFiles.h"
+#include "tests/support/TemporaryFolder.h"
 
+#include <fstream>
 #include <utility>
 
 namespace {
@@ -85,6 +89,30 @@ TEST(CompiledCondition, findsNamesInAnyLetterCase)
     EXPECT_EQ(selected(dataset, "\u0436 = 3"), Rows{1});
     EXPECT_EQ(selected(dataset, "Age = 5"), Rows{1}) << "the same letters come first";
     EXPECT_EQ(selected(dataset, "AGE = 4"), Rows{1}) << "else the first";
+}
+
+TEST(CompiledCondition, findsTheVariablesOfRByName)
+{
+    const TemporaryFolder folder;
+    const auto path = folder.file("types.rds");
+    std::ofstream(path, std::ios::binary) << rfiles::bytesOf(rfiles::types);
+    const auto opened = openDataset(QString::fromStdString(path.string()));
+    ASSERT_TRUE(opened.ok());
+    const StatDataset& dataset = *opened.value().dataset;
+    const std::pair<const char*, std::vector<int>> cases[] = {
+        {"DBL = 1.5", {1}},
+        {"int is null", {2}},
+        {"int < 0", {2, 3}},
+        {"txt is null", {2, 3}},
+        {"fct = 'high'", {3}},
+        {"lgl = 1", {1}},
+        {"dat = '03JAN2014'd", {1}},
+        {"dtm > '01JAN2000:00:00:00'dt", {3}},
+        {"dati ge '08JAN2022'd", {3}},
+    };
+    for (const auto& [condition, rows] : cases) {
+        EXPECT_EQ(selected(dataset, condition), rows) << condition;
+    }
 }
 
 }  // namespace
