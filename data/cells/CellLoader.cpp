@@ -86,7 +86,7 @@ void CellLoader::putMissing(int row, int column)
 
 void CellLoader::poolText(CellValue& cell, int column, std::string_view text, PooledText*& recent)
 {
-    if (!TextDecoder::isUnchanged(text)) {
+    if (!m_textsAreUtf8 && !TextDecoder::isUnchanged(text)) {
         PooledText* record = convertedText(text);
         record->addReference();
         cell = record;

@@ -33,6 +33,10 @@ public:
         ByRow,
         ByColumn,
     };
+
+    /// Texts are taken as they stand: whoever calls has seen to it that they are UTF-8.
+    void setTextsAreUtf8() { m_textsAreUtf8 = true; }
+
     /// Makes room for that many rows, which are the observations, and more may not come. Throws
     /// std::bad_alloc.
     void begin(int rows, Order order = Order::ByRow);
@@ -92,6 +96,7 @@ private:
     std::size_t m_columnStep = 1;
     std::size_t m_room = 0;  ///< rows that there are cells for
     bool m_rowsAreCounted = false;
+    bool m_textsAreUtf8 = false;
     int m_rowsSeen = 0;
     std::size_t m_cellsInOrder = 0;  ///< cells filled before the first gap
     /// Of each column with texts those seen lately, by a few of their letters: most columns hold

@@ -2,6 +2,7 @@
 
 #include "data/FilePath.h"
 #include "data/readers/CsvDoc.h"
+#include "data/readers/DatasetJsonDoc.h"
 #include "data/readers/DtaDoc.h"
 #include "data/readers/RdsDoc.h"
 #include "data/readers/SasDoc.h"
@@ -67,9 +68,10 @@ constexpr std::array sasSuffixes{
     Suffix{"xpt", "type-xpt", readTransport, XptDoc::memberNamesOf},
 };
 constexpr std::array jsonSuffixes{
-    Suffix{"json", "type-json"},
-    Suffix{"ndjson", "type-json"},
-    Suffix{"dsjc", "type-json"},
+    Suffix{"json", "type-json", readSingle<DatasetJsonDoc, SourceKind::DatasetJson>},
+    Suffix{"ndjson", "type-json", readSingle<DatasetJsonDoc, SourceKind::DatasetJson>},
+    Suffix{"dsjc", "type-json", readSingle<DatasetJsonDoc, SourceKind::DatasetJson>},
+    Suffix{"djsc", "type-json", readSingle<DatasetJsonDoc, SourceKind::DatasetJson>},
 };
 constexpr std::array rSuffixes{
     Suffix{"rds", "type-r", readR, RdsDoc::memberNamesOf},
