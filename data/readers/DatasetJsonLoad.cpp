@@ -30,6 +30,7 @@ DatasetJsonLoad::DatasetJsonLoad(DatasetJsonDoc& dataset, const FileReader& file
 
 void DatasetJsonLoad::run()
 {
+    m_input.open();
     const char first = m_window.next();
     if (first == '[') {
         throw std::runtime_error(

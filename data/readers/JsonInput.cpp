@@ -34,6 +34,9 @@ JsonInput::JsonInput(const FileReader& file,
                      std::function<void(std::int64_t, std::int64_t)> progress)
     : m_file(file)
     , m_progress(std::move(progress))
+{ }
+
+void JsonInput::open()
 {
     if (m_file.size() == 0) {
         throw std::runtime_error("It is empty");

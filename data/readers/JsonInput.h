@@ -18,14 +18,15 @@
 class JsonInput
 {
 public:
-    /// Looks what the file holds, by its first bytes.
+    /// The file outlives the input.
     /// @param progress  is told how many bytes of the file have been read, and of how many
-    /// Throws std::runtime_error. The file outlives the input.
     JsonInput(const FileReader& file, std::function<void(std::int64_t, std::int64_t)> progress);
     ~JsonInput();
     JsonInput(const JsonInput&) = delete;
     JsonInput& operator=(const JsonInput&) = delete;
 
+    /// Looks what the file holds, by its first bytes. Throws std::runtime_error.
+    void open();
     /// Starts anew.
     void rewind();
 
