@@ -5,6 +5,7 @@
 
 #include <fstream>
 #include <memory>
+#include <simdjson.h>
 #include <vector>
 #include <zlib.h>
 
@@ -20,6 +21,45 @@ int ignoreValue(int, readstat_variable_t*, readstat_value_t, void*)
 int ignoreVariable(int, readstat_variable_t*, const char*, void*)
 {
     return READSTAT_HANDLER_OK;
+}
+
+/// Goes through lists and objects, too; false where a value is wrong.
+template <typename Value>
+bool visit(Value&& value)
+{
+    using simdjson::ondemand::json_type;
+    json_type type{};
+    if (value.type().get(type) != simdjson::SUCCESS) {
+        return false;
+    }
+    std::string_view text;
+    double number = 0;
+    bool truth = false;
+    switch (type) {
+    case json_type::array:
+        for (auto element : value.get_array()) {
+            if (!visit(element)) {
+                return false;
+            }
+        }
+        return true;
+    case json_type::object:
+        for (auto field : value.get_object()) {
+            if (!visit(field.value())) {
+                return false;
+            }
+        }
+        return true;
+    case json_type::string:
+        return value.get_string().get(text) == simdjson::SUCCESS;
+    case json_type::number:
+        return value.get_double().get(number) == simdjson::SUCCESS;
+    case json_type::boolean:
+        return value.get_bool().get(truth) == simdjson::SUCCESS;
+    case json_type::null:
+        return value.is_null().error() == simdjson::SUCCESS;
+    }
+    return false;
 }
 
 void ignoreField(void*, std::size_t, void*) { }
@@ -100,6 +140,32 @@ bool r(const std::string& path)
     rdata_set_column_handler(parser.get(), ignoreColumn);
     rdata_set_text_value_handler(parser.get(), ignoreText);
     return rdata_parse(parser.get(), path.c_str(), nullptr) == RDATA_OK;
+}
+
+bool ndjson(const std::string& path)
+{
+    simdjson::padded_string text;
+    simdjson::ondemand::parser parser;
+    simdjson::ondemand::document_stream lines;
+    if (simdjson::padded_string::load(path).get(text) != simdjson::SUCCESS
+        || parser.iterate_many(text, 1 << 20).get(lines) != simdjson::SUCCESS) {
+        return false;
+    }
+    bool isRead = true;
+    for (auto line : lines) {
+        simdjson::ondemand::document_reference document;
+        isRead = isRead && std::move(line).get(document) == simdjson::SUCCESS && visit(document);
+    }
+    return isRead;
+}
+
+bool json(const std::string& path)
+{
+    simdjson::padded_string text;
+    simdjson::ondemand::parser parser;
+    simdjson::ondemand::document document;
+    return simdjson::padded_string::load(path).get(text) == simdjson::SUCCESS
+        && parser.iterate(text).get(document) == simdjson::SUCCESS && visit(document);
 }
 
 }  // namespace bareparses

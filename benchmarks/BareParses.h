@@ -15,5 +15,9 @@ using ReadStatParse = readstat_error_t (*)(readstat_parser_t*, const char*, void
 [[nodiscard]] bool csv(const std::string& path);
 /// Of a file packed by gzip, which librdata itself cannot read.
 [[nodiscard]] bool r(const std::string& path);
+/// Every value of every line, as the kind of value that it is.
+[[nodiscard]] bool ndjson(const std::string& path);
+/// The same of the one document that a .json file is.
+[[nodiscard]] bool json(const std::string& path);
 
 }  // namespace bareparses

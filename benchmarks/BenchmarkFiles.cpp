@@ -44,6 +44,8 @@ const std::vector<BenchmarkFile>& benchmarkFiles()
         {"stata118", ".dta", release(118), readStat(readstat_parse_dta), 1.7},
         {"csv", ".csv", {}, bareparses::csv, 1.8},
         {"r", ".rds", {}, bareparses::r, 1.6},
+        {"ndjson", ".ndjson", {}, bareparses::ndjson, 2.2},
+        {"json", ".json", {}, bareparses::json, 2.2},
     };
     return files;
 }

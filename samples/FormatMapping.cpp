@@ -89,6 +89,9 @@ std::string fileFormat(const Column& column, FileKind kind)
         return stataFormat(column);
     case FileKind::Csv:
     case FileKind::R:
+    case FileKind::DatasetJson:
+    case FileKind::Ndjson:
+    case FileKind::Dsjc:
         break;
     }
     return {};

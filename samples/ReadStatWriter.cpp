@@ -147,6 +147,9 @@ void ReadStatWriter::begin(long rowCount)
         break;
     case FileKind::Csv:
     case FileKind::R:
+    case FileKind::DatasetJson:
+    case FileKind::Ndjson:
+    case FileKind::Dsjc:
         throw std::runtime_error("the library writes no such file");
     }
     check(readstat_validate_metadata(writer));

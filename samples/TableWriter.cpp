@@ -2,6 +2,7 @@
 
 #include "samples/CsvWriter.h"
 #include "samples/FilePatches.h"
+#include "samples/JsonWriter.h"
 #include "samples/ReadStatWriter.h"
 #include "samples/RWriter.h"
 
@@ -80,6 +81,10 @@ std::unique_ptr<RowWriter> makeWriter(std::FILE* file, const TableShape& shape, 
         return makeCsvWriter(file, shape);
     case FileKind::R:
         return makeRWriter(file, shape);
+    case FileKind::DatasetJson:
+    case FileKind::Ndjson:
+    case FileKind::Dsjc:
+        return makeJsonWriter(file, shape, kind, rowCount);
     default:
         return makeReadStatWriter(file, shape, kind, options, rowCount);
     }

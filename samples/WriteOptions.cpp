@@ -36,6 +36,9 @@ bool isPossible(FileKind kind, const WriteOptions& options)
             && (isUtf8 || options.release < 118);
     case FileKind::Csv:
     case FileKind::R:
+    case FileKind::DatasetJson:
+    case FileKind::Ndjson:
+    case FileKind::Dsjc:
         return options.release == 0 && options.compression == Compression::None && isUtf8;
     }
     return false;
@@ -46,14 +49,17 @@ bool isPossible(FileKind kind, const WriteOptions& options)
 FileKind kindOfFile(const std::filesystem::path& path)
 {
     static const std::map<std::string, FileKind> kinds{
-        {".xpt", FileKind::Transport}, {".sas7bdat", FileKind::Sas}, {".sav", FileKind::Spss},
-        {".zsav", FileKind::Spss},     {".dta", FileKind::Stata},    {".csv", FileKind::Csv},
-        {".rds", FileKind::R}};
+        {".xpt", FileKind::Transport}, {".sas7bdat", FileKind::Sas},
+        {".sav", FileKind::Spss},      {".zsav", FileKind::Spss},
+        {".dta", FileKind::Stata},     {".csv", FileKind::Csv},
+        {".rds", FileKind::R},         {".json", FileKind::DatasetJson},
+        {".ndjson", FileKind::Ndjson}, {".dsjc", FileKind::Dsjc}};
     const auto found = kinds.find(lowerSuffix(path));
     if (found == kinds.end()) {
         throw std::runtime_error(
             path.string()
-            + ": the suffix is none of .xpt, .sas7bdat, .sav, .zsav, .dta, .csv, .rds");
+            + ": the suffix is none of .xpt, .sas7bdat, .sav, .zsav, .dta, .csv, .rds, "
+              ".json, .ndjson, .dsjc");
     }
     return found->second;
 }

@@ -11,7 +11,10 @@ enum class FileKind
     Spss,
     Stata,
     Csv,
-    R
+    R,
+    DatasetJson,
+    Ndjson,
+    Dsjc
 };
 
 enum class Compression
@@ -35,7 +38,8 @@ struct WriteOptions
     bool layout64 = true;  ///< SAS7BDAT: 64-bit layout instead of 32-bit
 };
 
-/// Told by the suffix: .xpt, .sas7bdat, .sav, .zsav, .dta, .csv, .rds in any letter case.
+/// Told by the suffix: .xpt, .sas7bdat, .sav, .zsav, .dta, .csv, .rds, .json, .ndjson, .dsjc in any
+/// letter case.
 /// @throws std::runtime_error naming the file for any other suffix
 [[nodiscard]] FileKind kindOfFile(const std::filesystem::path& path);
 

@@ -34,9 +34,10 @@ void defineOptions(CLI::App& app, Arguments& arguments)
         {"none", Compression::None}, {"rows", Compression::Rows}, {"zlib", Compression::Zlib}};
     auto* const directory =
         app.add_option("OUTDIR", arguments.directory, "Write the sample study into this folder");
-    auto* const table = app.add_option("--table", arguments.tableFile,
-                                       "Write the benchmark table; the suffix .xpt, .sas7bdat, "
-                                       ".sav, .zsav, .dta, .csv or .rds tells its kind");
+    auto* const table =
+        app.add_option("--table", arguments.tableFile,
+                       "Write the benchmark table; the suffix .xpt, .sas7bdat, "
+                       ".sav, .zsav, .dta, .csv, .rds, .json, .ndjson or .dsjc tells its kind");
     directory->excludes(table);
     app.add_option("--rows", arguments.rowCount, "Rows of the benchmark table")
         ->needs(table)
@@ -68,7 +69,9 @@ void writeStudy(const std::filesystem::path& directory)
     for (const auto& table : samples::studyTables()) {
         std::vector<std::string> suffixes{".xpt"};
         if (std::ranges::find(inEveryKind, table.name) != inEveryKind.end()) {
-            suffixes.insert(suffixes.end(), {".sas7bdat", ".sav", ".dta", ".csv", ".rds"});
+            suffixes.insert(
+                suffixes.end(),
+                {".sas7bdat", ".sav", ".dta", ".csv", ".rds", ".json", ".ndjson", ".dsjc"});
         }
         const auto name = QString::fromStdString(table.name).toLower().toStdString();
         for (const auto& suffix : suffixes) {
