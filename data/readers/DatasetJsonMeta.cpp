@@ -42,15 +42,20 @@ json_type typeOf(Value& value)
 /// A plain value as text; nothing for null, lists and objects.
 std::optional<std::string> textOf(Value& value)
 {
-    switch (typeOf(value)) {
-    case json_type::string:
-        return std::string(checked(value.get_string()));
-    case json_type::number:
-    case json_type::boolean:
-        return std::string(jsontext::withoutBlanksBehind(value.raw_json_token()));
-    default:
+    const json_type type = typeOf(value);
+    if (type == json_type::array || type == json_type::object) {
         return std::nullopt;
     }
+    if (type == json_type::string) {
+        return std::string(checked(value.get_string()));
+    }
+    const std::string token(jsontext::withoutBlanksBehind(value.raw_json_token()));
+    const bool isWord = token == "null" || token == "true" || token == "false";
+    double number = 0;
+    if (!isWord && value.get_double().get(number) == simdjson::INCORRECT_TYPE) {
+        throw NoJson();
+    }
+    return type == json_type::null ? std::nullopt : std::optional(token);
 }
 
 std::optional<std::int64_t> countIn(const std::optional<std::string>& text)

@@ -7,6 +7,7 @@
 #include "data/values/NumberText.h"
 #include "data/values/Texts.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -40,29 +41,26 @@ std::string significantDigits(std::string_view number)
 /// elsewhere: "1,5" is not 15.
 std::optional<std::string> withoutThousands(std::string_view text)
 {
-    std::string digits;
-    std::size_t sinceComma = 0;
-    bool isGrouped = false;
-    bool isWhole = true;
-    for (const char letter : text) {
-        const bool isDigit = letter >= '0' && letter <= '9';
-        if (isWhole && !isDigit && letter != '-' && letter != '+') {
-            if (isGrouped ? sinceComma != 3 : letter == ',' && sinceComma == 0) {
-                return std::nullopt;
-            }
-            isGrouped = isGrouped || letter == ',';
-            isWhole = letter == ',';
-            sinceComma = 0;
-        } else {
-            sinceComma += isDigit ? 1 : 0;
-        }
-        if (letter != ',') {
-            digits += letter;
-        } else if (!isWhole) {
+    constexpr std::string_view digits = "0123456789";
+    const std::size_t start = std::min(text.find_first_of(digits), text.size());
+    std::string joined(text.substr(0, start));
+    text.remove_prefix(start);
+    bool isFirst = true;
+    while (true) {
+        const std::size_t group = std::min(text.find_first_not_of(digits), text.size());
+        if (group == 0 || group > 3 || (!isFirst && group != 3)) {
             return std::nullopt;
         }
+        joined += text.substr(0, group);
+        text.remove_prefix(group);
+        isFirst = false;
+        if (!text.starts_with(',')) {
+            break;
+        }
+        text.remove_prefix(1);
     }
-    return isWhole && isGrouped && sinceComma != 3 ? std::nullopt : std::optional(digits);
+    joined += text;
+    return joined.find(',') == std::string::npos ? std::optional(joined) : std::nullopt;
 }
 
 /// The number that a text is; infinity where it is too large.
@@ -494,10 +492,4 @@ std::string DatasetJsonRows::problem() const
     default:
         return "it is no valid JSON";
     }
-}
-
-bool DatasetJsonRows::isUnfinished() const
-{
-    return m_error == simdjson::UNCLOSED_STRING || m_error == simdjson::INCOMPLETE_ARRAY_OR_OBJECT
-        || m_error == simdjson::TAPE_ERROR;
 }

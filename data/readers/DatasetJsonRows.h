@@ -45,8 +45,6 @@ public:
 
     /// Why the last read() failed.
     [[nodiscard]] std::string problem() const;
-    /// Whether what it failed at lacks its end.
-    [[nodiscard]] bool isUnfinished() const;
 
     [[nodiscard]] std::int64_t rowCount() const { return m_row; }
     [[nodiscard]] DatasetJsonOddities& oddities() { return m_oddities; }

@@ -80,6 +80,9 @@ std::vector<JsonRowFeed::Piece> JsonRowFeed::piecesOfList()
     std::size_t at = 0;
     while (at < text.size()) {
         at += jsontext::blanksAt(text.substr(at));
+        if (at == text.size() || text[at] == ']') {
+            break;
+        }
         jsontext::ValueEnd end;
         const std::size_t size = end.pass(text.substr(at));
         if (!end.isDone() || size == 0) {
@@ -198,10 +201,12 @@ void JsonRowFeed::readAlone(const Piece& piece)
 
 void JsonRowFeed::refuse(const Piece& piece) const
 {
-    const bool isEnd = m_window.isLast()
-        && piece.start + piece.size
-            == m_window.data() + jsontext::withoutBlanksBehind(m_window.text()).size();
-    if (piece.line > 0 && isEnd && m_rows.isUnfinished()) {
+    const std::string_view text(piece.start, piece.size);
+    const bool isEnd =
+        m_window.isLast() && text.end() == jsontext::withoutBlanksBehind(m_window.text()).end();
+    jsontext::ValueEnd end;
+    static_cast<void>(end.pass(text));
+    if (isEnd && !end.isDone() && (text.front() == '[' || text.front() == '{')) {
         throw cutShort(m_rows.rowCount());
     }
     const std::string place = piece.line > 0
