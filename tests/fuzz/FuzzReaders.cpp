@@ -19,6 +19,14 @@ const char* suffixOf(std::string_view bytes)
     if (bytes.starts_with("$FL")) {
         return ".sav";
     }
+    if (bytes.starts_with("{") || bytes.starts_with("\xEF\xBB\xBF{")) {
+        return ".json";
+    }
+    // What is packed may be either.
+    const bool isGzip = bytes.starts_with("\x1F\x8B");
+    if (bytes.starts_with("\x78") || (isGzip && bytes.size() % 2 == 1)) {
+        return ".dsjc";
+    }
     for (const char* const start : {"\x1F\x8B", "BZh",
                                     "\xFD"
                                     "7zXZ",
@@ -26,6 +34,10 @@ const char* suffixOf(std::string_view bytes)
         if (bytes.starts_with(start)) {
             return ".rds";
         }
+    }
+    const char first = bytes.empty() ? '\0' : bytes.front();
+    if ((first >= 'A' && first <= 'Z') || first == '"' || first == '\xFF' || first == '\xEF') {
+        return ".csv";
     }
     return bytes.starts_with(std::string_view("\0\0\0\0\0\0\0\0", 8)) ? ".sas7bdat" : ".dta";
 }

@@ -36,7 +36,11 @@ const Target targets[] = {
     {"117.dta", {.release = 117}},
     {"118.dta", {.release = 118}},
     {"119.dta", {.release = 119}},
+    {"lines.csv", {}},
     {"gzip.rds", {}},
+    {"list.json", {}},
+    {"lines.ndjson", {}},
+    {"packed.dsjc", {}},
 };
 
 /// All kinds of columns, with gaps and with texts that repeat, stay empty or are not ASCII.
@@ -125,9 +129,44 @@ void writeRSeeds(const Path& folder)
     }
 }
 
+/// What the samples' writer never writes: odd quotes, ragged lines, other character sets.
+void writeOddCsv(const Path& folder)
+{
+    using namespace std::string_literals;
+    const std::pair<const char*, std::string> files[] = {
+        {"odd.csv", "A;B;A\n\"x\"y;1\r\n\r\n;007\n\"p\nq\";\"\"\"\";3;4\nNA;.;x\""},
+        {"utf16.csv", "\xFF\xFE"s + "A\0,\0B\0\n\0x\0,\0001\0\n\0"s},
+        {"cp1252.csv", "A|B\r\xE9|1\r\x80\0|2e5\r"s},
+    };
+    for (const auto& [name, text] : files) {
+        std::ofstream(folder / name, std::ios::binary) << text;
+    }
+}
+
+/// What the samples' writer never writes: version 1.0, other orders, rows as objects, odd values.
+void writeOddJson(const Path& folder)
+{
+    const std::string columns =
+        R"([{"OID":"IT.A","name":"A","label":"","type":"string","length":4},)"
+        R"({"OID":"IT.N","name":"N","label":"","type":"decimal","displayFormat":"8.2"},)"
+        R"({"OID":"IT.D","name":"D","label":"","type":"date","targetDataType":"integer"},)"
+        R"({"OID":"IT.B","name":"B","label":"","type":"boolean","keySequence":1}])";
+    const std::string rows = R"([["\u00e9\ud83d\ude00","1,234.50","2021-02-28",true],)"
+                             R"({"B":null,"N":-1e400,"A":[1,{"x":2}]},["\ud800",NaN],[]])";
+    std::ofstream(folder / "first.json") << R"({"rows":)" + rows + R"(,"columns":)" + columns + "}";
+    std::ofstream(folder / "groups.json")
+        << R"({"datasetJSONVersion":"1.0.0","clinicalData":{"studyOID":"S","itemGroupData":)"
+           R"({"IG.A":{"records":4,"name":"A","label":"","items":)"
+        << columns << R"(,"itemData":)" << rows << "}}}}";
+    std::ofstream(folder / "objects.ndjson") << R"({"name":"A","records":2,"columns":)" << columns
+                                             << "}\r\n\n{\"A\":\"x\"}\r\n[\"],[\",1]\n";
+}
+
 void writeSeeds(const Path& folder)
 {
     writeRSeeds(folder);
+    writeOddCsv(folder);
+    writeOddJson(folder);
     for (const Target& target : targets) {
         writeTable(folder / (std::string("mixed-") + target.name), mixedTable(12), target.options);
         writeTable(folder / (std::string("empty-") + target.name), mixedTable(0), target.options);
