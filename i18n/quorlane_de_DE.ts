@@ -880,6 +880,154 @@ Möchten Sie das Dataset neu laden?</translation>
         <source>Lines with more values than variables, whose last values are left out: %1</source>
         <translation>Zeilen mit mehr Werten als Variablen, deren letzte Werte weggelassen sind: %1</translation>
     </message>
+    <message>
+        <source>It is no JSON file</source>
+        <translation>Sie ist keine JSON-Datei</translation>
+    </message>
+    <message>
+        <source>It is no Dataset-JSON file: it starts with a list in place of its attributes</source>
+        <translation>Sie ist keine Dataset-JSON-Datei: Sie beginnt mit einer Liste statt mit ihren Attributen</translation>
+    </message>
+    <message>
+        <source>It is no Dataset-JSON file: it describes no columns</source>
+        <translation>Sie ist keine Dataset-JSON-Datei: Sie beschreibt keine Spalten</translation>
+    </message>
+    <message>
+        <source>It is no valid JSON</source>
+        <translation>Sie ist kein gültiges JSON</translation>
+    </message>
+    <message>
+        <source>It is no valid JSON: its rows are not separated by commas</source>
+        <translation>Sie ist kein gültiges JSON: Ihre Zeilen sind nicht durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>Its attributes are no valid JSON</source>
+        <translation>Ihre Attribute sind kein gültiges JSON</translation>
+    </message>
+    <message>
+        <source>It is cut short</source>
+        <translation>Sie ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>It is cut short: its compressed data have no end</source>
+        <translation>Sie ist abgeschnitten: Ihre komprimierten Daten haben kein Ende</translation>
+    </message>
+    <message>
+        <source>It is damaged: its compressed data cannot be unpacked</source>
+        <translation>Sie ist beschädigt: Ihre komprimierten Daten lassen sich nicht entpacken</translation>
+    </message>
+    <message>
+        <source>It holds a value that is too long or too deep to be read</source>
+        <translation>Sie enthält einen Wert, der zum Lesen zu lang oder zu tief verschachtelt ist</translation>
+    </message>
+    <message>
+        <source>It describes %1 variables; at most %2 can be shown</source>
+        <translation>Sie beschreibt %1 Variablen; höchstens %2 können gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Line %1 is damaged: %2</source>
+        <translation>Zeile %1 ist beschädigt: %2</translation>
+    </message>
+    <message>
+        <source>Observation %1 is damaged: %2</source>
+        <translation>Beobachtung %1 ist beschädigt: %2</translation>
+    </message>
+    <message>
+        <source>it is no valid JSON</source>
+        <translation>sie ist kein gültiges JSON</translation>
+    </message>
+    <message>
+        <source>a text in it has no end</source>
+        <translation>ein Text darin hat kein Ende</translation>
+    </message>
+    <message>
+        <source>a text in it holds a control character</source>
+        <translation>ein Text darin enthält ein Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>a text in it has an escape that does not exist</source>
+        <translation>ein Text darin hat eine Escapefolge, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>a number in it is wrong</source>
+        <translation>eine Zahl darin ist falsch</translation>
+    </message>
+    <message>
+        <source>It goes on behind its end, which is left out</source>
+        <translation>Sie geht hinter ihrem Ende weiter, was weggelassen ist</translation>
+    </message>
+    <message>
+        <source>It holds rows more than once; the first ones are shown</source>
+        <translation>Sie enthält mehrmals Zeilen; gezeigt werden die ersten</translation>
+    </message>
+    <message>
+        <source>Its attribute %1 stands there more than once; the last one holds</source>
+        <translation>Ihr Attribut %1 steht mehrmals da; das letzte gilt</translation>
+    </message>
+    <message>
+        <source>It holds a further dataset, %1, which is left out</source>
+        <translation>Sie enthält ein weiteres Dataset, %1, das weggelassen ist</translation>
+    </message>
+    <message>
+        <source>%1 characters of its attributes are not valid and are shown as �</source>
+        <translation>%1 Zeichen ihrer Attribute sind ungültig und werden als � gezeigt</translation>
+    </message>
+    <message>
+        <source>%1: the data type is none of Dataset-JSON; read as texts</source>
+        <translation>%1: Der Datentyp ist keiner von Dataset-JSON; als Texte gelesen</translation>
+    </message>
+    <message>
+        <source>It names %1 of its variables not at all; the first is called %2</source>
+        <translation>Sie gibt %1 ihrer Variablen keinen Namen; die erste heißt %2</translation>
+    </message>
+    <message>
+        <source>%1: what is no number is shown as missing (%2, first in row %3)</source>
+        <translation>%1: Was keine Zahl ist, wird als fehlend gezeigt (%2, zuerst in Zeile %3)</translation>
+    </message>
+    <message>
+        <source>%1: what is no whole date or time is shown as missing (%2, first in row %3)</source>
+        <translation>%1: Was kein ganzes Datum und keine ganze Zeit ist, wird als fehlend gezeigt (%2, zuerst in Zeile %3)</translation>
+    </message>
+    <message>
+        <source>%1: a list or an object stands for a value (%2, first in row %3)</source>
+        <translation>%1: Statt eines Werts steht dort eine Liste oder ein Objekt (%2, zuerst in Zeile %3)</translation>
+    </message>
+    <message>
+        <source>%1: NaN is no number in JSON and is shown as missing (%2, first in row %3)</source>
+        <translation>%1: NaN ist in JSON keine Zahl und wird als fehlend gezeigt (%2, zuerst in Zeile %3)</translation>
+    </message>
+    <message>
+        <source>%1: numbers of more digits than can be reckoned with are shown as the file has them (%2, first in row %3)</source>
+        <translation>%1: Zahlen mit mehr Ziffern, als gerechnet werden können, werden wie in der Datei gezeigt (%2, zuerst in Zeile %3)</translation>
+    </message>
+    <message>
+        <source>%1: numbers too large to be reckoned with count as infinite (%2, first in row %3)</source>
+        <translation>%1: Zahlen, die zum Rechnen zu groß sind, gelten als unendlich (%2, zuerst in Zeile %3)</translation>
+    </message>
+    <message>
+        <source>%1: offsets from UTC are passed over (%2, first in row %3)</source>
+        <translation>%1: Abweichungen von UTC werden übergangen (%2, zuerst in Zeile %3)</translation>
+    </message>
+    <message>
+        <source>Rows with too few values are filled up with missing ones (%1, first in row %2)</source>
+        <translation>Zeilen mit zu wenigen Werten sind mit fehlenden aufgefüllt (%1, zuerst in Zeile %2)</translation>
+    </message>
+    <message>
+        <source>Of rows with too many values the last ones are left out (%1, first in row %2)</source>
+        <translation>Von Zeilen mit zu vielen Werten sind die letzten weggelassen (%1, zuerst in Zeile %2)</translation>
+    </message>
+    <message>
+        <source>Rows that are neither a list nor an object are shown as missing (%1, first in row %2)</source>
+        <translation>Zeilen, die weder Liste noch Objekt sind, werden als fehlend gezeigt (%1, zuerst in Zeile %2)</translation>
+    </message>
+    <message>
+        <source>Values of rows under names that no variable has are left out (%1, first in row %2)</source>
+        <translation>Werte von Zeilen unter Namen, die keine Variable hat, sind weggelassen (%1, zuerst in Zeile %2)</translation>
+    </message>
+    <message>
+        <source>Invalid characters are shown as � (%1, first in row %2)</source>
+        <translation>Ungültige Zeichen werden als � gezeigt (%1, zuerst in Zeile %2)</translation>
+    </message>
 </context>
 <context>
     <name>FailureNote</name>

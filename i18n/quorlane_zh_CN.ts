@@ -880,6 +880,154 @@ Do you want to reload it?</source>
         <source>Lines with more values than variables, whose last values are left out: %1</source>
         <translation>值多于变量数的行，多余的值已省略：%1</translation>
     </message>
+    <message>
+        <source>It is no JSON file</source>
+        <translation>它不是 JSON 文件</translation>
+    </message>
+    <message>
+        <source>It is no Dataset-JSON file: it starts with a list in place of its attributes</source>
+        <translation>它不是 Dataset-JSON 文件：开头是列表而不是属性</translation>
+    </message>
+    <message>
+        <source>It is no Dataset-JSON file: it describes no columns</source>
+        <translation>它不是 Dataset-JSON 文件：没有描述列</translation>
+    </message>
+    <message>
+        <source>It is no valid JSON</source>
+        <translation>它不是有效的 JSON</translation>
+    </message>
+    <message>
+        <source>It is no valid JSON: its rows are not separated by commas</source>
+        <translation>它不是有效的 JSON：行之间没有用逗号分隔</translation>
+    </message>
+    <message>
+        <source>Its attributes are no valid JSON</source>
+        <translation>它的属性不是有效的 JSON</translation>
+    </message>
+    <message>
+        <source>It is cut short</source>
+        <translation>它被截断了</translation>
+    </message>
+    <message>
+        <source>It is cut short: its compressed data have no end</source>
+        <translation>它被截断了：压缩数据没有结尾</translation>
+    </message>
+    <message>
+        <source>It is damaged: its compressed data cannot be unpacked</source>
+        <translation>它已损坏：压缩数据无法解压</translation>
+    </message>
+    <message>
+        <source>It holds a value that is too long or too deep to be read</source>
+        <translation>它包含过长或嵌套过深而无法读取的值</translation>
+    </message>
+    <message>
+        <source>It describes %1 variables; at most %2 can be shown</source>
+        <translation>它描述了 %1 个变量；最多可显示 %2 个</translation>
+    </message>
+    <message>
+        <source>Line %1 is damaged: %2</source>
+        <translation>第 %1 行已损坏：%2</translation>
+    </message>
+    <message>
+        <source>Observation %1 is damaged: %2</source>
+        <translation>观测 %1 已损坏：%2</translation>
+    </message>
+    <message>
+        <source>it is no valid JSON</source>
+        <translation>不是有效的 JSON</translation>
+    </message>
+    <message>
+        <source>a text in it has no end</source>
+        <translation>其中的文本没有结尾</translation>
+    </message>
+    <message>
+        <source>a text in it holds a control character</source>
+        <translation>其中的文本包含控制字符</translation>
+    </message>
+    <message>
+        <source>a text in it has an escape that does not exist</source>
+        <translation>其中的文本包含不存在的转义</translation>
+    </message>
+    <message>
+        <source>a number in it is wrong</source>
+        <translation>其中的数字有误</translation>
+    </message>
+    <message>
+        <source>It goes on behind its end, which is left out</source>
+        <translation>它在结尾之后还有内容，已忽略</translation>
+    </message>
+    <message>
+        <source>It holds rows more than once; the first ones are shown</source>
+        <translation>它多次包含行；显示最先出现的</translation>
+    </message>
+    <message>
+        <source>Its attribute %1 stands there more than once; the last one holds</source>
+        <translation>它的属性 %1 多次出现；以最后一个为准</translation>
+    </message>
+    <message>
+        <source>It holds a further dataset, %1, which is left out</source>
+        <translation>它还包含另一个数据集 %1，已忽略</translation>
+    </message>
+    <message>
+        <source>%1 characters of its attributes are not valid and are shown as �</source>
+        <translation>其属性中有 %1 个字符无效，显示为 �</translation>
+    </message>
+    <message>
+        <source>%1: the data type is none of Dataset-JSON; read as texts</source>
+        <translation>%1：数据类型不属于 Dataset-JSON；按文本读取</translation>
+    </message>
+    <message>
+        <source>It names %1 of its variables not at all; the first is called %2</source>
+        <translation>它有 %1 个变量没有名称；第一个称为 %2</translation>
+    </message>
+    <message>
+        <source>%1: what is no number is shown as missing (%2, first in row %3)</source>
+        <translation>%1：不是数字的值显示为缺失（%2 个，首先在第 %3 行）</translation>
+    </message>
+    <message>
+        <source>%1: what is no whole date or time is shown as missing (%2, first in row %3)</source>
+        <translation>%1：不是完整日期或时间的值显示为缺失（%2 个，首先在第 %3 行）</translation>
+    </message>
+    <message>
+        <source>%1: a list or an object stands for a value (%2, first in row %3)</source>
+        <translation>%1：值的位置上是列表或对象（%2 个，首先在第 %3 行）</translation>
+    </message>
+    <message>
+        <source>%1: NaN is no number in JSON and is shown as missing (%2, first in row %3)</source>
+        <translation>%1：NaN 在 JSON 中不是数字，显示为缺失（%2 个，首先在第 %3 行）</translation>
+    </message>
+    <message>
+        <source>%1: numbers of more digits than can be reckoned with are shown as the file has them (%2, first in row %3)</source>
+        <translation>%1：位数超出计算精度的数字按文件原样显示（%2 个，首先在第 %3 行）</translation>
+    </message>
+    <message>
+        <source>%1: numbers too large to be reckoned with count as infinite (%2, first in row %3)</source>
+        <translation>%1：过大而无法计算的数字视为无穷大（%2 个，首先在第 %3 行）</translation>
+    </message>
+    <message>
+        <source>%1: offsets from UTC are passed over (%2, first in row %3)</source>
+        <translation>%1：忽略与 UTC 的时差（%2 个，首先在第 %3 行）</translation>
+    </message>
+    <message>
+        <source>Rows with too few values are filled up with missing ones (%1, first in row %2)</source>
+        <translation>值太少的行用缺失值补齐（%1 行，首先在第 %2 行）</translation>
+    </message>
+    <message>
+        <source>Of rows with too many values the last ones are left out (%1, first in row %2)</source>
+        <translation>值太多的行省略了最后的值（%1 行，首先在第 %2 行）</translation>
+    </message>
+    <message>
+        <source>Rows that are neither a list nor an object are shown as missing (%1, first in row %2)</source>
+        <translation>既不是列表也不是对象的行显示为缺失（%1 行，首先在第 %2 行）</translation>
+    </message>
+    <message>
+        <source>Values of rows under names that no variable has are left out (%1, first in row %2)</source>
+        <translation>行中名称不对应任何变量的值已省略（%1 个，首先在第 %2 行）</translation>
+    </message>
+    <message>
+        <source>Invalid characters are shown as � (%1, first in row %2)</source>
+        <translation>无效字符显示为 �（%1 个，首先在第 %2 行）</translation>
+    </message>
 </context>
 <context>
     <name>FailureNote</name>

@@ -114,6 +114,68 @@ constexpr std::array messages{
                       "There are letters behind the closing quote of a value; "
                       "they are taken for a part of it"),
     QT_TRANSLATE_NOOP("EngineMessages", "There are NUL bytes in the file, which are left out"),
+    // Dataset-JSON files
+    QT_TRANSLATE_NOOP("EngineMessages", "It is no JSON file"),
+    QT_TRANSLATE_NOOP(
+        "EngineMessages",
+        "It is no Dataset-JSON file: it starts with a list in place of its attributes"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It is no Dataset-JSON file: it describes no columns"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It is no valid JSON"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "It is no valid JSON: its rows are not separated by commas"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Its attributes are no valid JSON"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It is cut short"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It is cut short: its compressed data have no end"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It is damaged: its compressed data cannot be unpacked"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It holds a value that is too long or too deep to be read"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It describes %1 variables; at most %2 can be shown"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Line %1 is damaged: %2"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Observation %1 is damaged: %2"),
+    QT_TRANSLATE_NOOP("EngineMessages", "it is no valid JSON"),
+    QT_TRANSLATE_NOOP("EngineMessages", "a text in it has no end"),
+    QT_TRANSLATE_NOOP("EngineMessages", "a text in it holds a control character"),
+    QT_TRANSLATE_NOOP("EngineMessages", "a text in it has an escape that does not exist"),
+    QT_TRANSLATE_NOOP("EngineMessages", "a number in it is wrong"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It goes on behind its end, which is left out"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It holds rows more than once; the first ones are shown"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "Its attribute %1 stands there more than once; the last one holds"),
+    QT_TRANSLATE_NOOP("EngineMessages", "It holds a further dataset, %1, which is left out"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "%1 characters of its attributes are not valid and are shown as �"),
+    QT_TRANSLATE_NOOP("EngineMessages", "%1: the data type is none of Dataset-JSON; read as texts"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "It names %1 of its variables not at all; the first is called %2"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "%1: what is no number is shown as missing (%2, first in row %3)"),
+    QT_TRANSLATE_NOOP(
+        "EngineMessages",
+        "%1: what is no whole date or time is shown as missing (%2, first in row %3)"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "%1: a list or an object stands for a value (%2, first in row %3)"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "%1: NaN is no number in JSON and is shown as missing (%2, first in row %3)"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "%1: numbers of more digits than can be reckoned with are shown as the file "
+                      "has them (%2, first in row %3)"),
+    QT_TRANSLATE_NOOP(
+        "EngineMessages",
+        "%1: numbers too large to be reckoned with count as infinite (%2, first in row %3)"),
+    QT_TRANSLATE_NOOP("EngineMessages",
+                      "%1: offsets from UTC are passed over (%2, first in row %3)"),
+    QT_TRANSLATE_NOOP(
+        "EngineMessages",
+        "Rows with too few values are filled up with missing ones (%1, first in row %2)"),
+    QT_TRANSLATE_NOOP(
+        "EngineMessages",
+        "Of rows with too many values the last ones are left out (%1, first in row %2)"),
+    QT_TRANSLATE_NOOP(
+        "EngineMessages",
+        "Rows that are neither a list nor an object are shown as missing (%1, first in row %2)"),
+    QT_TRANSLATE_NOOP(
+        "EngineMessages",
+        "Values of rows under names that no variable has are left out (%1, first in row %2)"),
+    QT_TRANSLATE_NOOP("EngineMessages", "Invalid characters are shown as � (%1, first in row %2)"),
     // The format library, ReadStat 1.1
     QT_TRANSLATE_NOOP("EngineMessages", "Unable to read from file"),
     QT_TRANSLATE_NOOP("EngineMessages", "Unable to allocate memory"),
@@ -154,11 +216,22 @@ std::optional<QStringList> argumentsOf(const QString& message, const QString& pa
 std::optional<QString> translationOf(const QString& message)
 {
     for (const char* pattern : messages) {
-        if (const auto arguments = argumentsOf(message, QString::fromUtf8(pattern))) {
+        if (auto arguments = argumentsOf(message, QString::fromUtf8(pattern))) {
+            for (QString& argument : *arguments) {
+                argument = translationOf(argument).value_or(argument);  // the reason within
+            }
+            // All at once: an argument may hold what looks like a place.
             const QString text = QCoreApplication::translate("EngineMessages", pattern);
-            return arguments->isEmpty()  ? text
-                : arguments->size() == 1 ? text.arg(arguments->at(0))
-                                         : text.arg(arguments->at(0), arguments->at(1));
+            switch (arguments->size()) {
+            case 0:
+                return text;
+            case 1:
+                return text.arg(arguments->at(0));
+            case 2:
+                return text.arg(arguments->at(0), arguments->at(1));
+            default:
+                return text.arg(arguments->at(0), arguments->at(1), arguments->at(2));
+            }
         }
     }
     return std::nullopt;

@@ -18,38 +18,42 @@ std::string_view patternOf(Kind kind)
 {
     switch (kind) {
     case Kind::NoNumber:
-        return "{0}: what is no number is shown as missing ({1}, {2})";
+        return "{0}: what is no number is shown as missing ({1}, first in row {2})";
     case Kind::NoDate:
-        return "{0}: what is no whole date or time is shown as missing ({1}, {2})";
+        return "{0}: what is no whole date or time is shown as missing ({1}, first in row {2})";
     case Kind::NestedValue:
-        return "{0}: a list or an object stands for a value ({1}, {2})";
+        return "{0}: a list or an object stands for a value ({1}, first in row {2})";
     case Kind::NoFiniteNumber:
-        return "{0}: NaN is no number in JSON and is shown as missing ({1}, {2})";
+        return "{0}: NaN is no number in JSON and is shown as missing ({1}, first in row {2})";
     case Kind::TooManyDigits:
         return "{0}: numbers of more digits than can be reckoned with are shown as the file has "
-               "them ({1}, {2})";
+               "them ({1}, first in row {2})";
     case Kind::TooLarge:
-        return "{0}: numbers too large to be reckoned with count as infinite ({1}, {2})";
+        return "{0}: numbers too large to be reckoned with count as infinite ({1}, first in row "
+               "{2})";
     case Kind::PassedOverOffset:
-        return "{0}: offsets from UTC are passed over ({1}, {2})";
+        return "{0}: offsets from UTC are passed over ({1}, first in row {2})";
     case Kind::ShortRow:
-        return "Rows with too few values are filled up with missing ones ({1}, {2})";
+        return "Rows with too few values are filled up with missing ones ({1}, first in row {2})";
     case Kind::LongRow:
-        return "Of rows with too many values the last ones are left out ({1}, {2})";
+        return "Of rows with too many values the last ones are left out ({1}, first in row {2})";
     case Kind::NoRow:
-        return "Rows that are neither a list nor an object are shown as missing ({1}, {2})";
+        return "Rows that are neither a list nor an object are shown as missing ({1}, first in row "
+               "{2})";
     case Kind::UnknownMember:
-        return "Values of rows under names that no variable has are left out ({1}, {2})";
+        return "Values of rows under names that no variable has are left out ({1}, first in row "
+               "{2})";
     case Kind::InvalidText:
-        return "Characters that are not valid are shown as \xEF\xBF\xBD ({1}, {2})";
+        return "Invalid characters are shown as \xEF\xBF\xBD ({1}, first in row {2})";
     case Kind::Fraction:
-        return "{0}: numbers with decimals in a variable of integers ({1}, {2})";
+        return "{0}: numbers with decimals in a variable of integers ({1}, first in row {2})";
     case Kind::NumberAsText:
-        return "{0}: numbers written as texts ({1}, {2})";
+        return "{0}: numbers written as texts ({1}, first in row {2})";
     case Kind::PlainAsText:
-        return "{0}: numbers or booleans where texts are expected ({1}, {2})";
+        return "{0}: numbers or booleans where texts are expected ({1}, first in row {2})";
     case Kind::BooleanAsNumber:
-        return "{0}: true and false where numbers are expected, taken as 1 and 0 ({1}, {2})";
+        return "{0}: true and false where numbers are expected, taken as 1 and 0 ({1}, first in "
+               "row {2})";
     }
     return {};
 }
@@ -93,7 +97,7 @@ std::string DatasetJsonOddities::sentence(Kind kind, const std::vector<std::stri
         variables.resize(mostNamed);
         variables.emplace_back("\xE2\x80\xA6");
     }
-    std::string place = fmt::format("first in row {}", first->row + 1);
+    std::string place = std::to_string(first->row + 1);
     if (!first->example.empty()) {
         place += fmt::format(": {}", first->example);
     }

@@ -7,6 +7,8 @@
 #include "data/values/NumberText.h"
 #include "data/values/Texts.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -172,7 +174,8 @@ DatasetJsonRows::Error DatasetJsonRows::readArray(const char* text, std::size_t 
 DatasetJsonRows::Error DatasetJsonRows::readRow(Value& row)
 {
     if (m_row >= std::numeric_limits<std::int32_t>::max()) {
-        throw std::runtime_error("It has more rows than can be shown");
+        throw std::runtime_error(fmt::format("It has {} observations; at most {} can be shown",
+                                             m_row + 1, std::numeric_limits<std::int32_t>::max()));
     }
     json_type type{};
     if (const Error error = row.type().get(type)) {

@@ -115,7 +115,7 @@ std::size_t JsonInput::readFile(std::span<char> buffer)
 {
     const std::int64_t got = m_file.readAt(m_position, buffer);
     if (got < 0) {
-        throw std::runtime_error("It cannot be read");
+        throw std::runtime_error("Unable to read from file");
     }
     m_position += got;
     m_progress(m_position, size());

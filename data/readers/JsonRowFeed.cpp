@@ -209,10 +209,10 @@ void JsonRowFeed::refuse(const Piece& piece) const
     if (isEnd && !end.isDone() && (text.front() == '[' || text.front() == '{')) {
         throw cutShort(m_rows.rowCount());
     }
-    const std::string place = piece.line > 0
-        ? fmt::format("{} (line {})", m_rows.rowCount() + 1, piece.line)
-        : std::to_string(m_rows.rowCount() + 1);
-    throw std::runtime_error(fmt::format("Observation {} is damaged: {}", place, m_rows.problem()));
+    throw std::runtime_error(
+        piece.line > 0 ? fmt::format("Line {} is damaged: {}", piece.line, m_rows.problem())
+                       : fmt::format("Observation {} is damaged: {}", m_rows.rowCount() + 1,
+                                     m_rows.problem()));
 }
 
 std::int64_t JsonRowFeed::countList(JsonWindow& window)

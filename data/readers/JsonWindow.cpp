@@ -41,7 +41,7 @@ bool JsonWindow::haveMore()
     }
     if (m_end + margin == m_buffer.size()) {
         if (size() >= mostBytes) {
-            throw std::runtime_error("It holds a value that is too long to be read");
+            throw std::runtime_error("It holds a value that is too long or too deep to be read");
         }
         m_buffer.resize(1 + 2 * size() + margin);
     }

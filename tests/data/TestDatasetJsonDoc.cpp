@@ -246,7 +246,7 @@ TEST_F(DatasetJsonDoc, tellsOncePerKindWhatIsOdd)
          "first in row 1: 0.10000000000000000001)\n"
          "X: numbers too large to be reckoned with count as infinite (1, first in row 3: 1e999)"},
         {document("[\"\xE9t\xE9\",1],[\"\\ud800x\\\\ud800\",2]"),
-         "Characters that are not valid are shown as \xEF\xBF\xBD (3, first in row 1)"},
+         "Invalid characters are shown as \xEF\xBF\xBD (3, first in row 1)"},
         {document("[\"a\",1]") + " x", "It goes on behind its end, which is left out"},
         {document("[\"a\",1]").insert(1, R"("records":3,)"),
          "Its header counts 3 observations, but it holds 1"},
@@ -305,13 +305,10 @@ TEST_F(DatasetJsonDoc, refusesWhatIsCutOrNoDatasetJson)
          "Observation 1 is damaged: a text in it holds a control character"},
         {lines.substr(0, lines.size() - 3), "It is cut short within observation 3"},
         {attributes + "}\n[\"x\",1]\n\n[\"y\n[\"z\",3]\n",
-         "Observation 2 (line 4) is damaged: a text in it has no end"},
-        {attributes + "}\n[\"x\"\n1]\n[\"y\",2]\n",
-         "Observation 1 (line 2) is damaged: it is no valid JSON"},
-        {attributes + "}\n[\"x\"\n1],[\"y\",2]\n",
-         "Observation 1 (line 2) is damaged: it is no valid JSON"},
-        {attributes + "}\n[\"x\",1],[\"y\",2]\n",
-         "Observation 1 (line 2) is damaged: it is no valid JSON"},
+         "Line 4 is damaged: a text in it has no end"},
+        {attributes + "}\n[\"x\"\n1]\n[\"y\",2]\n", "Line 2 is damaged: it is no valid JSON"},
+        {attributes + "}\n[\"x\"\n1],[\"y\",2]\n", "Line 2 is damaged: it is no valid JSON"},
+        {attributes + "}\n[\"x\",1],[\"y\",2]\n", "Line 2 is damaged: it is no valid JSON"},
         {zipped.substr(0, zipped.size() / 2), "It is cut short: its compressed data have no end"},
         {zipped.substr(0, 20) + "\xFF\xFF\xFF\xFF\xFF\xFF" + zipped.substr(26),
          "It is damaged: its compressed data cannot be unpacked"},
@@ -360,8 +357,7 @@ TEST_F(DatasetJsonDoc, cutsLongFilesBetweenRowsOnly)
     }
     std::string broken = attributes + "}\n" + lines;
     broken.replace(broken.rfind(",59990]"), 1, ";");
-    EXPECT_EQ(failureOf(broken),
-              "a.json: Observation 59991 (line 59992) is damaged: it is no valid JSON");
+    EXPECT_EQ(failureOf(broken), "a.json: Line 59992 is damaged: it is no valid JSON");
 }
 
 TEST_F(DatasetJsonDoc, knowsItsRowsWithoutReadingThem)
