@@ -360,6 +360,23 @@ TEST_F(DatasetJsonDoc, cutsLongFilesBetweenRowsOnly)
     EXPECT_EQ(failureOf(broken), "a.json: Line 59992 is damaged: it is no valid JSON");
 }
 
+TEST_F(DatasetJsonDoc, readsWhatTheSamplesWrite)
+{
+    const samples::Table table{
+        {"SMALL",
+         "A small table",
+         {samples::textColumn("NAME", "Name", 12), samples::numberColumn("AVAL", "Größe", "", 8, 2),
+          samples::numberColumn("ADT", "Date", "DATE", 9)}},
+        {{"Müller \"x\"", 1.25, 19718.0}, {"", samples::missing, samples::missing}}};
+    for (const char* file : {"a.json", "a.ndjson", "a.dsjc"}) {
+        const auto dataset = read(file, written(file, table));
+        EXPECT_EQ(shown(*dataset), "Müller \"x\"|1.25|26Dec2013; |.|.") << file;
+        EXPECT_EQ(dataset->labels(), (std::vector<std::string>{"Name", "Größe", "Date"}));
+        EXPECT_EQ(dataset->writtenFormat(2), "DATE9.");
+        EXPECT_TRUE(dataset->damageNotes().empty());
+    }
+}
+
 TEST_F(DatasetJsonDoc, knowsItsRowsWithoutReadingThem)
 {
     const auto countOf = [&](const std::string& bytes) {

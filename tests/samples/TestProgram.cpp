@@ -29,7 +29,7 @@ TEST(SamplesProgram, writesTheStudyIntoANewFolder)
         files.insert(entry.path().filename());
         EXPECT_NE(output.find(entry.path().string()), std::string::npos);
     }
-    EXPECT_EQ(files.size(), 21U);
+    EXPECT_EQ(files.size(), 33U);
     EXPECT_EQ(readBack(target / "adsl.sas7bdat")->observationCount(), 60);
 }
 
