@@ -149,7 +149,7 @@ std::vector<JsonRowFeed::Piece> JsonRowFeed::piecesOfLines(std::size_t size, std
             const std::string_view row = jsontext::withoutBlanksBehind(whole.substr(blanks));
             pieces.push_back({at + blanks, row.size(), line});
         }
-        line += behind == end ? 0 : 1;
+        ++line;
         at = behind == end ? end : behind + 1;
     }
     for (std::size_t i = 0; i + 1 < pieces.size(); ++i) {

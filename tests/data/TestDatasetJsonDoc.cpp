@@ -174,6 +174,9 @@ TEST_F(DatasetJsonDoc, keepsStoredValuesApartFromWhatIsShown)
     EXPECT_EQ(numbers->numericValue(3, 0), 9007199254740992.0);
     EXPECT_TRUE(numbers->isNumeric(0) && !numbers->isNumeric(1) && !numbers->isNumeric(-1));
     EXPECT_FALSE(numbers->isCharacter(0) || numbers->isCharacter(1));
+    const std::string other = R"(,{"name":"Y","dataType":"decimal"})";
+    const std::string rows = R"({"Y":"2.50","X":"1.10"},["3.0","4.0"],{"X":"5.00"})";
+    EXPECT_EQ(shownOf(inColumn(column("decimal") + other, rows)), "1.10|2.50; 3.0|4.0; 5.00|.");
     const auto texts =
         read("a.json", document(R"(["  a ",1],["n\u0000l",2],["",3],["\u6771\u4eac",4])"));
     EXPECT_EQ(texts->stringValue(0, 0), "  a ");
@@ -247,6 +250,10 @@ TEST_F(DatasetJsonDoc, tellsOncePerKindWhatIsOdd)
          "X: numbers too large to be reckoned with count as infinite (1, first in row 3: 1e999)"},
         {document("[\"\xE9t\xE9\",1],[\"\\ud800x\\\\ud800\",2]"),
          "Invalid characters are shown as \xEF\xBF\xBD (3, first in row 1)"},
+        // Read once more after a first attempt that failed, and counted once
+        {document(R"(["a"],["\ud800",2])"),
+         "Rows with too few values are filled up with missing ones (1, first in row 1)\n"
+         "Invalid characters are shown as \xEF\xBF\xBD (1, first in row 2)"},
         {document("[\"a\",1]") + " x", "It goes on behind its end, which is left out"},
         {document("[\"a\",1]").insert(1, R"("records":3,)"),
          "Its header counts 3 observations, but it holds 1"},
