@@ -6,11 +6,11 @@
 #include "data/values/IsoTime.h"
 #include "data/values/NumberText.h"
 #include "data/values/Texts.h"
+#include "data/values/WrittenNumber.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -26,77 +26,6 @@ using simdjson::ondemand::json_type;
 constexpr double infinity = std::numeric_limits<double>::infinity();
 /// Beyond it not every whole number is a double.
 constexpr double firstInexact = 9007199254740992.0;
-
-/// The digits that matter, without the zeros at either end of them.
-std::string significantDigits(std::string_view number)
-{
-    std::string digits;
-    for (const char letter : number.substr(0, number.find_first_of("eE"))) {
-        if (letter >= '0' && letter <= '9' && (letter != '0' || !digits.empty())) {
-            digits += letter;
-        }
-    }
-    return digits.substr(0, digits.find_last_not_of('0') + 1);
-}
-
-/// The digits of a number without the commas between its thousands; nothing where they stand
-/// elsewhere: "1,5" is not 15.
-std::optional<std::string> withoutThousands(std::string_view text)
-{
-    constexpr std::string_view digits = "0123456789";
-    const std::size_t start = std::min(text.find_first_of(digits), text.size());
-    std::string joined(text.substr(0, start));
-    text.remove_prefix(start);
-    bool isFirst = true;
-    while (true) {
-        const std::size_t group = std::min(text.find_first_not_of(digits), text.size());
-        if (group == 0 || group > 3 || (!isFirst && group != 3)) {
-            return std::nullopt;
-        }
-        joined += text.substr(0, group);
-        text.remove_prefix(group);
-        isFirst = false;
-        if (!text.starts_with(',')) {
-            break;
-        }
-        text.remove_prefix(1);
-    }
-    joined += text;
-    return joined.find(',') == std::string::npos ? std::optional(joined) : std::nullopt;
-}
-
-/// The number that a text is; infinity where it is too large.
-std::optional<double> numberIn(std::string_view text)
-{
-    std::string digits;
-    if (text.find(',') != std::string_view::npos) {
-        const std::optional<std::string> joined = withoutThousands(text);
-        if (!joined) {
-            return std::nullopt;
-        }
-        digits = *joined;
-        text = digits;
-    }
-    const bool hasPlus = text.size() > 1 && text[0] == '+' && text[1] != '-';
-    text.remove_prefix(hasPlus ? 1 : 0);
-    if (text.find_first_not_of("0123456789+-.eE") != std::string_view::npos) {
-        return std::nullopt;  // from_chars() would take "inf" and "nan"
-    }
-    double number = 0;
-    const char* const end = text.data() + text.size();
-    const auto [rest, problem] = std::from_chars(text.data(), end, number);
-    if (rest != end || problem == std::errc::invalid_argument) {
-        return std::nullopt;
-    }
-    if (problem == std::errc::result_out_of_range) {
-        const std::size_t exponent = text.find_first_of("eE");
-        const bool isTiny = exponent != std::string_view::npos && exponent + 1 < text.size()
-            && text[exponent + 1] == '-';
-        const double size = isTiny ? 0 : infinity;
-        return text.front() == '-' ? -size : size;
-    }
-    return number;
-}
 
 }  // namespace
 
@@ -323,7 +252,7 @@ DatasetJsonRows::Error DatasetJsonRows::putNumber(int column, Value& value, std:
     if (value.get_double().get(number) != simdjson::SUCCESS) {
         // Too large for a double; some programs write infinity itself.
         const std::optional<double> large =
-            token == "-Infinity" ? std::optional(-infinity) : numberIn(token);
+            token == "-Infinity" ? std::optional(-infinity) : writtennumber::valueOf(token);
         if (!large || !std::isinf(*large)) {
             return simdjson::NUMBER_ERROR;
         }
@@ -419,7 +348,7 @@ void DatasetJsonRows::putWrittenNumber(int column, std::string_view text)
     const bool isTruth = content == Content::Boolean && (text == "true" || text == "false");
     const std::optional<double> number = isTruth ? std::optional(text == "true" ? 1.0 : 0.0)
         : text.empty()                           ? std::nullopt
-                                                 : numberIn(text);
+                                                 : writtennumber::valueOf(text);
     if (!number) {
         if (!text.empty()) {
             note(Kind::NoNumber, column, text);
@@ -465,7 +394,7 @@ void DatasetJsonRows::keepDigits(int column, double number, std::string_view tex
     const std::string held = isWhole ? numbertext::fixed(number, 0) : numbertext::shortest(number);
     if (std::isinf(number)) {
         note(Kind::TooLarge, column, text);
-    } else if (significantDigits(text) != significantDigits(held)) {
+    } else if (writtennumber::significantDigits(text) != writtennumber::significantDigits(held)) {
         note(Kind::TooManyDigits, column, text);
     } else if (!isWhole
                && m_columns[static_cast<std::size_t>(column)].content != Content::Decimal) {
