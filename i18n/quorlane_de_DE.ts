@@ -1028,6 +1028,66 @@ Möchten Sie das Dataset neu laden?</translation>
         <source>Invalid characters are shown as � (%1, first in row %2)</source>
         <translation>Ungültige Zeichen werden als � gezeigt (%1, zuerst in Zeile %2)</translation>
     </message>
+    <message>
+        <source>The objects in it are damaged</source>
+        <translation>Die Objekte darin sind beschädigt</translation>
+    </message>
+    <message>
+        <source>Its packed data are damaged</source>
+        <translation>Ihre gepackten Daten sind beschädigt</translation>
+    </message>
+    <message>
+        <source>It is packed by %1, which cannot be read</source>
+        <translation>Sie ist mit %1 gepackt, was nicht gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>It cannot be read</source>
+        <translation>Sie kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>It is no file that R&apos;s saveRDS or save wrote</source>
+        <translation>Sie ist keine Datei, die saveRDS oder save von R geschrieben hat</translation>
+    </message>
+    <message>
+        <source>It was saved by an R older than 1.4, or by none</source>
+        <translation>Sie wurde von einem R vor 1.4 gespeichert oder von keinem</translation>
+    </message>
+    <message>
+        <source>Its objects are serialised in version %1, which is unknown</source>
+        <translation>Ihre Objekte sind in der unbekannten Version %1 serialisiert</translation>
+    </message>
+    <message>
+        <source>It has more variables than can be shown</source>
+        <translation>Sie hat mehr Variablen, als gezeigt werden können</translation>
+    </message>
+    <message>
+        <source>It holds no data frame, but %1</source>
+        <translation>Sie enthält keinen Data Frame, sondern %1</translation>
+    </message>
+    <message>
+        <source>It holds no data frame, and nothing else</source>
+        <translation>Sie enthält keinen Data Frame und auch sonst nichts</translation>
+    </message>
+    <message>
+        <source>It holds no data frame named %1</source>
+        <translation>Sie enthält keinen Data Frame namens %1</translation>
+    </message>
+    <message>
+        <source>The values of %1 are not shown: it holds %2</source>
+        <translation>Die Werte von %1 werden nicht gezeigt: Inhalt ist %2</translation>
+    </message>
+    <message>
+        <source>The names of its rows are not shown</source>
+        <translation>Die Namen ihrer Zeilen werden nicht gezeigt</translation>
+    </message>
+    <message>
+        <source>Its check sum is wrong: some of its values may be damaged</source>
+        <translation>Ihre Prüfsumme ist falsch: Einige Werte könnten beschädigt sein</translation>
+    </message>
+    <message>
+        <source>To unpack it takes more memory than its writer ever asks for</source>
+        <translation>Das Entpacken braucht mehr Speicher, als ihr Schreiber je verlangt</translation>
+    </message>
 </context>
 <context>
     <name>FailureNote</name>

@@ -1028,6 +1028,66 @@ Do you want to reload it?</source>
         <source>Invalid characters are shown as � (%1, first in row %2)</source>
         <translation>无效字符显示为 �（%1 个，首先在第 %2 行）</translation>
     </message>
+    <message>
+        <source>The objects in it are damaged</source>
+        <translation>其中的对象已损坏</translation>
+    </message>
+    <message>
+        <source>Its packed data are damaged</source>
+        <translation>其压缩数据已损坏</translation>
+    </message>
+    <message>
+        <source>It is packed by %1, which cannot be read</source>
+        <translation>它由 %1 压缩，无法读取</translation>
+    </message>
+    <message>
+        <source>It cannot be read</source>
+        <translation>无法读取该文件</translation>
+    </message>
+    <message>
+        <source>It is no file that R&apos;s saveRDS or save wrote</source>
+        <translation>它不是由 R 的 saveRDS 或 save 写出的文件</translation>
+    </message>
+    <message>
+        <source>It was saved by an R older than 1.4, or by none</source>
+        <translation>它由早于 1.4 的 R 保存，或并非由 R 保存</translation>
+    </message>
+    <message>
+        <source>Its objects are serialised in version %1, which is unknown</source>
+        <translation>其对象以未知的版本 %1 序列化</translation>
+    </message>
+    <message>
+        <source>It has more variables than can be shown</source>
+        <translation>其变量多于可显示的数量</translation>
+    </message>
+    <message>
+        <source>It holds no data frame, but %1</source>
+        <translation>其中没有数据框，只有 %1</translation>
+    </message>
+    <message>
+        <source>It holds no data frame, and nothing else</source>
+        <translation>其中没有数据框，也没有任何其他内容</translation>
+    </message>
+    <message>
+        <source>It holds no data frame named %1</source>
+        <translation>其中没有名为 %1 的数据框</translation>
+    </message>
+    <message>
+        <source>The values of %1 are not shown: it holds %2</source>
+        <translation>%1 的值未显示：其内容为 %2</translation>
+    </message>
+    <message>
+        <source>The names of its rows are not shown</source>
+        <translation>其行名未显示</translation>
+    </message>
+    <message>
+        <source>Its check sum is wrong: some of its values may be damaged</source>
+        <translation>其校验和有误：部分值可能已损坏</translation>
+    </message>
+    <message>
+        <source>To unpack it takes more memory than its writer ever asks for</source>
+        <translation>解压所需的内存超出其写入程序的任何要求</translation>
+    </message>
 </context>
 <context>
     <name>FailureNote</name>
