@@ -1088,6 +1088,54 @@ Möchten Sie das Dataset neu laden?</translation>
         <source>To unpack it takes more memory than its writer ever asks for</source>
         <translation>Das Entpacken braucht mehr Speicher, als ihr Schreiber je verlangt</translation>
     </message>
+    <message>
+        <source>a data frame</source>
+        <translation>ein Data Frame</translation>
+    </message>
+    <message>
+        <source>date-times in parts (POSIXlt)</source>
+        <translation>Zeitpunkte in Teilen (POSIXlt)</translation>
+    </message>
+    <message>
+        <source>a matrix</source>
+        <translation>eine Matrix</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>an expression</source>
+        <translation>ein Ausdruck</translation>
+    </message>
+    <message>
+        <source>a function</source>
+        <translation>eine Funktion</translation>
+    </message>
+    <message>
+        <source>a symbol</source>
+        <translation>ein Symbol</translation>
+    </message>
+    <message>
+        <source>a call</source>
+        <translation>ein Aufruf</translation>
+    </message>
+    <message>
+        <source>a pairlist</source>
+        <translation>eine Paarliste</translation>
+    </message>
+    <message>
+        <source>an environment</source>
+        <translation>eine Umgebung</translation>
+    </message>
+    <message>
+        <source>an S4 object</source>
+        <translation>ein S4-Objekt</translation>
+    </message>
+    <message>
+        <source>an object of another kind</source>
+        <translation>ein Objekt anderer Art</translation>
+    </message>
 </context>
 <context>
     <name>FailureNote</name>

@@ -1088,6 +1088,54 @@ Do you want to reload it?</source>
         <source>To unpack it takes more memory than its writer ever asks for</source>
         <translation>解压所需的内存超出其写入程序的任何要求</translation>
     </message>
+    <message>
+        <source>a data frame</source>
+        <translation>数据框</translation>
+    </message>
+    <message>
+        <source>date-times in parts (POSIXlt)</source>
+        <translation>分量形式的日期时间（POSIXlt）</translation>
+    </message>
+    <message>
+        <source>a matrix</source>
+        <translation>矩阵</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>an expression</source>
+        <translation>表达式</translation>
+    </message>
+    <message>
+        <source>a function</source>
+        <translation>函数</translation>
+    </message>
+    <message>
+        <source>a symbol</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>a call</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>a pairlist</source>
+        <translation>配对列表</translation>
+    </message>
+    <message>
+        <source>an environment</source>
+        <translation>环境</translation>
+    </message>
+    <message>
+        <source>an S4 object</source>
+        <translation>S4 对象</translation>
+    </message>
+    <message>
+        <source>an object of another kind</source>
+        <translation>其他类型的对象</translation>
+    </message>
 </context>
 <context>
     <name>FailureNote</name>
