@@ -21,13 +21,12 @@ struct NoJson
 { };
 
 template <typename T>
-T checked(simdjson::simdjson_result<T>&& result)
+T checked(simdjson::simdjson_result<T> result)
 {
-    T value;
-    if (std::move(result).get(value) != simdjson::SUCCESS) {
+    if (result.error() != simdjson::SUCCESS) {
         throw NoJson();
     }
-    return value;
+    return result.value_unsafe();
 }
 
 json_type typeOf(Value& value)
@@ -178,7 +177,7 @@ private:
             return;
         }
         for (auto element : checked(value.get_array())) {
-            Value column = checked(std::move(element));
+            Value column = checked(element);
             m_meta.columns.emplace_back();
             if (typeOf(column) == json_type::object) {
                 readColumn(column, m_meta.columns.back());

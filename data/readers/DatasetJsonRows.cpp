@@ -81,10 +81,10 @@ DatasetJsonRows::Error DatasetJsonRows::readArray(const char* text, std::size_t 
     }
     std::size_t place = 0;
     for (auto element : rows) {
-        Value row;
-        if (const Error error = std::move(element).get(row)) {
+        if (const Error error = element.error()) {
             return error;
         }
+        Value row = element.value_unsafe();
         if (!starts.empty()
             && (place >= starts.size() || row.raw_json_token().data() != starts[place])) {
             return simdjson::TAPE_ERROR;
@@ -145,10 +145,10 @@ DatasetJsonRows::Error DatasetJsonRows::readList(Value& row)
     const int columns = static_cast<int>(m_columns.size());
     int column = 0;
     for (auto element : values) {
-        Value value;
-        if (const Error error = std::move(element).get(value)) {
+        if (const Error error = element.error()) {
             return error;
         }
+        Value value = element.value_unsafe();
         if (column < columns) {
             if (const Error error = putValue(column, value)) {
                 return error;
