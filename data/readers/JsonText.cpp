@@ -2,11 +2,12 @@
 
 #include "data/values/Texts.h"
 
-#include <cstring>
+#include <algorithm>
 
 namespace jsontext {
 namespace {
 
+constexpr std::string_view replacementEscape = "\\ufffd";
 constexpr std::string_view replacement = "\xEF\xBF\xBD";
 
 bool endsWord(char letter)
@@ -131,7 +132,7 @@ std::size_t repairEscapes(char* text, std::size_t size)
         const bool isPair =
             isFirstHalf(number) && isSecondHalf(escapeAt(view.substr(std::min(at + 6, size))));
         if (!isPair && (isFirstHalf(number) || isSecondHalf(number))) {
-            std::memcpy(text + at, "\\ufffd", 6);
+            std::copy(replacementEscape.begin(), replacementEscape.end(), text + at);
             ++count;
         }
         at += isPair ? 12 : 2;
