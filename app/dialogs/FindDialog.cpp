@@ -159,9 +159,21 @@ void FindDialog::show(TableCell cell)
     m_view->setCurrentIndex(index);
     m_view->scrollTo(index);
     giveWayTo(index);
-    if (m_view->isRowHidden(cell.row) || m_view->isColumnHidden(cell.column)) {
+    if (isOutOfSight(cell)) {
         tell(tr("Found, but not visible"), Qt::darkYellow);
     } else {
+        m_status->clear();
+    }
+}
+
+bool FindDialog::isOutOfSight(TableCell cell) const
+{
+    return m_view->isRowHidden(cell.row) || m_view->isColumnHidden(cell.column);
+}
+
+void FindDialog::followVisibility()
+{
+    if (m_status->text() == tr("Found, but not visible") && !isOutOfSight(*m_last)) {
         m_status->clear();
     }
 }

@@ -31,6 +31,9 @@ public:
     /// Goes to the next cell that holds the text, hidden or not, and round the ends of the table.
     /// @return  whether there is one
     bool find(CellWalk::Direction direction);
+    /// Says no longer that a cell is hidden which is in sight again; for when rows or columns of
+    /// the table have been shown.
+    void followVisibility();
     /// Comes to the front with the text selected.
     void bringUp();
 
@@ -38,6 +41,7 @@ private:
     void createParts();
     [[nodiscard]] CellWalk::Word wordOfView();
     void show(TableCell cell);
+    [[nodiscard]] bool isOutOfSight(TableCell cell) const;
     void giveWayTo(const QModelIndex& cell);
     void tell(const QString& text, Qt::GlobalColor colour);
 

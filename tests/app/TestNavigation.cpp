@@ -62,6 +62,14 @@ void TestNavigation::findGoesFromHitToHitInTheGrid()
     QCOMPARE(view().currentIndex(), view().model()->index(1, 1));
     trigger("actionFindNext");
     QCOMPARE(status->text(), "");
+    trigger("actionFindPrevious");
+    view().opened()->undo();
+    QCOMPARE(status->text(), "");
+    view().cmdHideColumn();
+    trigger("actionFindNext");
+    QCOMPARE(status->text(), "Found, but not visible");
+    view().cmdUnhidecolumns();
+    QCOMPARE(status->text(), "");
     text->setText("x");
     QVERIFY(!dialog->find(CellWalk::Direction::Forward));
     QCOMPARE(status->text(), "Not found");
