@@ -4,6 +4,7 @@
 #include "analysis/panels/FreqSortProxyModel.h"
 #include "analysis/panels/FreqTableModel.h"
 #include "analysis/panels/TableText.h"
+#include "grid/opened/EngineMessages.h"
 #include "grid/opened/OpenDataset.h"
 
 #include <QHeaderView>
@@ -99,40 +100,49 @@ void FreqTableView::apply(Act act)
     }
 }
 
-void FreqTableView::filterBy(CompareOp op)
+void FreqTableView::filterByCell(const std::function<CommandOutcome(const Cell&)>& filter)
 {
     if (const auto cell = currentCell()) {
-        apply([this, op, cell] {
-            return m_opened->filterByValue(cell->variable, op,
-                                           m_model->filterValue(cell->row, cell->column));
-        });
+        apply([filter, cell] { return filter(*cell); });
     } else if (currentIndex().isValid()) {
         emit signalMessage(tr("Choose a value of a variable to filter by."));
     }
 }
 
+void FreqTableView::filterBy(CompareOp op)
+{
+    filterByCell([this, op](const Cell& cell) {
+        return m_opened->filterByValue(cell.variable, op, valueOf(cell));
+    });
+}
+
 void FreqTableView::filterByLibrary()
 {
-    if (const auto cell = currentCell()) {
-        apply([this, cell] {
-            return m_opened->filterByValue(cell->variable, CompareOp::Equal,
-                                           m_model->filterValue(cell->row, cell->column),
-                                           OpenDataset::FilterKind::Library);
-        });
-    }
+    filterByCell([this](const Cell& cell) {
+        return m_opened->filterByValue(cell.variable, CompareOp::Equal, valueOf(cell),
+                                       OpenDataset::FilterKind::Library);
+    });
 }
 
 void FreqTableView::filterByValues()
 {
-    if (const auto cell = currentCell()) {
-        apply([this, cell] {
-            std::vector<QuickFilter::Value> values;
-            for (const int row : selectedRows()) {
-                values.push_back(m_model->filterValue(row, cell->column));
-            }
-            return m_opened->filterByValues(cell->variable, values);
-        });
+    filterByCell([this](const Cell& cell) {
+        return m_opened->filterByValues(cell.variable, selectedValues(cell.column));
+    });
+}
+
+QuickFilter::Value FreqTableView::valueOf(const Cell& cell) const
+{
+    return m_model->filterValue(cell.row, cell.column);
+}
+
+std::vector<QuickFilter::Value> FreqTableView::selectedValues(int column) const
+{
+    std::vector<QuickFilter::Value> values;
+    for (const int row : selectedRows()) {
+        values.push_back(m_model->filterValue(row, column));
     }
+    return values;
 }
 
 template <CompareOp op>
@@ -222,7 +232,7 @@ void FreqTableView::addFilters(QMenu& menu)
     }
     menu.addSeparator();
     const QuickFilter filters(m_opened->dataset(), cell->variable);
-    const QuickFilter::Value value = m_model->filterValue(cell->row, cell->column);
+    const QuickFilter::Value value = valueOf(*cell);
     const auto add = [&](CompareOp op, const char* key, void (FreqTableView::*act)()) {
         addFilter(menu, filters.compare(op, value), key, act);
     };
@@ -233,11 +243,8 @@ void FreqTableView::addFilters(QMenu& menu)
     add(Less, "<", &FreqTableView::filter<Less>);
     add(GreaterOrEqual, "Alt+>", &FreqTableView::filter<GreaterOrEqual>);
     add(LessOrEqual, "Alt+<", &FreqTableView::filter<LessOrEqual>);
-    std::vector<QuickFilter::Value> values;
-    for (const int row : selectedRows()) {
-        values.push_back(m_model->filterValue(row, cell->column));
-    }
-    addFilter(menu, filters.isIn(values), "I", &FreqTableView::filterByValues);
+    addFilter(menu, filters.isIn(selectedValues(cell->column)), "I",
+              &FreqTableView::filterByValues);
     add(Contains, "", &FreqTableView::filter<Contains>);
     const Result<QString> condition = filters.compare(Equal, value);
     addFilter(menu, condition ? QStringLiteral("where ") + condition.value() : condition, "L",
@@ -248,7 +255,9 @@ void FreqTableView::addFilters(QMenu& menu)
 void FreqTableView::addFilter(QMenu& menu, const Result<QString>& condition, const char* key,
                               void (FreqTableView::*act)())
 {
-    const QString text = condition ? condition.value() : QString::fromStdString(condition.error());
+    const QString text = condition
+        ? condition.value()
+        : enginemessages::translated(QString::fromStdString(condition.error()));
     QAction* action = menu.addAction(menuText(text) + u'\t' + QString::fromLatin1(key));
     action->setEnabled(static_cast<bool>(condition));
     connect(action, &QAction::triggered, this, act);

@@ -4,6 +4,7 @@
 #include "analysis/panels/PanelTable.h"
 #include "data/Result.h"
 #include "grid/filter/CompareOp.h"
+#include "grid/filter/QuickFilter.h"
 #include "grid/opened/CommandFailure.h"
 
 #include <functional>
@@ -76,6 +77,9 @@ private:
     void addFilter(QMenu& menu, const Result<QString>& condition, const char* key,
                    void (FreqTableView::*act)());
     [[nodiscard]] std::optional<Cell> currentCell() const;
+    [[nodiscard]] QuickFilter::Value valueOf(const Cell& cell) const;
+    [[nodiscard]] std::vector<QuickFilter::Value> selectedValues(int column) const;
+    void filterByCell(const std::function<CommandOutcome(const Cell&)>& filter);
     void apply(Act act);
 
     OpenDataset* m_opened;

@@ -1,7 +1,7 @@
 #include "app/boxes/FailureNote.h"
 
-#include "app/dialogs/EngineMessages.h"
 #include "grid/opened/CommandFailure.h"
+#include "grid/opened/EngineMessages.h"
 
 #include <QAccessible>
 #include <QEvent>

@@ -1,9 +1,9 @@
 #include "app/dialogs/DatasetPropertiesDialog.h"
 
 #include "analysis/panels/PanelTable.h"
-#include "app/dialogs/EngineMessages.h"
 #include "app/dialogs/UserPrompts.h"
 #include "data/StatDataset.h"
+#include "grid/opened/EngineMessages.h"
 
 #include <QClipboard>
 #include <QDialogButtonBox>

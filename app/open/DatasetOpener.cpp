@@ -1,6 +1,5 @@
 #include "app/open/DatasetOpener.h"
 
-#include "app/dialogs/EngineMessages.h"
 #include "app/dialogs/UserPrompts.h"
 #include "app/open/DialogFilter.h"
 #include "app/open/GridPlace.h"
@@ -10,6 +9,7 @@
 #include "app/window/TabTitles.h"
 #include "data/FilePath.h"
 #include "grid/MainTableView.h"
+#include "grid/opened/EngineMessages.h"
 #include "grid/WaitCursor.h"
 
 #include <QApplication>

@@ -1,6 +1,5 @@
 #include "app/window/DatasetWindow.h"
 
-#include "app/dialogs/EngineMessages.h"
 #include "app/look/Icons.h"
 #include "app/window/NoticeBar.h"
 #include "app/window/PlainTitle.h"
@@ -8,6 +7,7 @@
 #include "data/StatDataset.h"
 #include "grid/MainTableModel.h"
 #include "grid/MainTableView.h"
+#include "grid/opened/EngineMessages.h"
 #include "grid/opened/OpenDataset.h"
 
 #include <QAction>

@@ -1,8 +1,8 @@
 #include "app/window/GridServices.h"
 
-#include "app/dialogs/EngineMessages.h"
 #include "app/dialogs/UserPrompts.h"
 #include "grid/MainTableView.h"
+#include "grid/opened/EngineMessages.h"
 
 #include <spdlog/spdlog.h>
 

@@ -1,10 +1,10 @@
 #include "app/window/PropertiesWindows.h"
 
 #include "app/dialogs/DatasetPropertiesDialog.h"
-#include "app/dialogs/EngineMessages.h"
 #include "app/dialogs/UserPrompts.h"
 #include "app/window/DatasetWindow.h"
 #include "data/readers/DatasetFile.h"
+#include "grid/opened/EngineMessages.h"
 
 PropertiesWindows::PropertiesWindows(QWidget& window, UserPrompts& prompts)
     : QObject(&window)

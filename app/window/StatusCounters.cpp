@@ -1,7 +1,7 @@
 #include "app/window/StatusCounters.h"
 
-#include "app/dialogs/EngineMessages.h"
 #include "app/window/ElidedLabel.h"
+#include "grid/opened/EngineMessages.h"
 
 #include <QStatusBar>
 

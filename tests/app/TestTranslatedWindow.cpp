@@ -1,8 +1,9 @@
-#include "app/dialogs/EngineMessages.h"
+#include "analysis/panels/FreqTableView.h"
 #include "app/start/Translations.h"
 #include "app/window/MainWindow.h"
 #include "grid/GridContextMenu.h"
 #include "grid/MainTableView.h"
+#include "grid/opened/EngineMessages.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/ScriptedDataset.h"
 #include "tests/support/TemporaryServices.h"
@@ -232,6 +233,14 @@ void TestTranslatedWindow::keysAndEnginesSpeakTheLanguage()
     QCOMPARE(enginemessages::translated("a: b.xpt: It has no data set named %2; it has A, B"),
              "a: b.xpt: Sie enthält kein Dataset namens %2, sondern A, B");
     QCOMPARE(enginemessages::translated("It has something else"), "It has something else");
+
+    auto* grid = window->findChild<MainTableView*>();
+    grid->cmdRunCommand("table A");
+    grid->panels().frequency()->table().showContextMenu(QPoint());
+    const auto entries = grid->panels().frequency()->findChild<QMenu*>()->actions();
+    QVERIFY(std::ranges::any_of(entries, [](const QAction* it) {
+        return !it->isEnabled() && it->text() == "A enthält Zahlen, in denen kein Text vorkommt\t";
+    }));
 }
 
 void TestTranslatedWindow::mnemonicsAreDistinctAndLeaveTheGridItsKeys()

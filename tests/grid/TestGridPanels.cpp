@@ -8,6 +8,7 @@
 #include <QClipboard>
 #include <QFontInfo>
 #include <QLabel>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTableWidget>
 
@@ -29,6 +30,8 @@ private slots:
     void frequenciesAreSorted();
     void frequencyKeysFilterTheGrid_data();
     void frequencyKeysFilterTheGrid();
+    void menuEntriesReadAsTheFiltersTheySet();
+    void menuOfTheVariablesActsOnThem();
     void footTellsSharesAndWhatTheListIsOf();
     void statisticsTellWhenTheyAreOld();
 
@@ -84,6 +87,11 @@ private:
     [[nodiscard]] QString foot() const
     {
         return frequency().findChild<QLabel*>()->text().simplified();  // without blanks that hold
+    }
+    static QList<QAction*> menuOf(PanelTable& table, QPoint position = {})
+    {
+        emit table.customContextMenuRequested(position);
+        return table.findChildren<QMenu*>().last()->actions();
     }
     void count(GridFixture::Variable variable, bool frequencyN = false) const
     {
@@ -318,6 +326,60 @@ void TestGridPanels::frequencyKeysFilterTheGrid()
     press(list(), Qt::Key_Greater);
     press(list(), Qt::Key_C);
     QCOMPARE(m_grid->filters(), "|");
+}
+
+void TestGridPanels::menuEntriesReadAsTheFiltersTheySet()
+{
+    count(GridFixture::Site);  // X-1 X-2 Y-1 y-1
+    goTo(list(), 2, 0);
+    list().selectionModel()->select(list().model()->index(1, 0), QItemSelectionModel::Select);
+    const auto trigger = [this](int entry) { menuOf(list()).at(entry)->trigger(); };
+    trigger(0);  // copy
+    QCOMPARE(QGuiApplication::clipboard()->text(), "X-2\nY-1");
+    QStringList texts;
+    for (int entry = 6; entry < 15; ++entry) {
+        texts << menuOf(list()).at(entry)->text().section('\t', 0, 0);
+        trigger(entry);
+        const bool isLibrary = texts.back().startsWith("where");
+        QCOMPARE(m_grid->filters(), isLibrary ? texts.back() + '|' : "|if " + texts.back());
+        trigger(isLibrary ? 2 : entry % 2 == 0 ? 3 : 4);  // cleared or undone
+        QCOMPARE(m_grid->filters(), "|");
+    }
+    QCOMPARE(texts.join("; "),
+             R"(SITE = "Y-1"; SITE ^= "Y-1"; SITE > "Y-1"; SITE < "Y-1"; SITE >= "Y-1"; )"
+             R"(SITE <= "Y-1"; SITE in ("X-2", "Y-1"); index(SITE, "Y-1") > 0; )"
+             R"(where SITE = "Y-1")");
+
+    // Counts of several variables stand for none of their values.
+    m_grid->view->cmdRunCommand("table SEX*AGE");
+    goTo(list(), 0, 2);
+    QCOMPARE(menuOf(list()).size(), 5);
+    bringUp(frequency());
+    for (const Qt::Key key : {Qt::Key_D, Qt::Key_I, Qt::Key_L}) {
+        press(list(), key);
+        QCOMPARE(m_grid->notes.take(),
+                 QStringList("message|Choose a value of a variable to filter by."));
+    }
+}
+
+void TestGridPanels::menuOfTheVariablesActsOnThem()
+{
+    variables().sortByColumn(1, Qt::AscendingOrder);  // AGE SEX SITE USUBJID
+    bringUp(variables());
+    goTo(variables(), 2, 1);
+    variables().selectionModel()->select(variables().model()->index(0, 3),
+                                         QItemSelectionModel::Select);
+    const auto menu = [this](int row) {
+        const QModelIndex index = variables().model()->index(row, 1);
+        return menuOf(variables(), variables().visualRect(index).center());
+    };
+    menu(1).at(1)->trigger();
+    QCOMPARE(m_grid->view->currentVariable(), int(GridFixture::Sex));
+    menu(1).at(2)->trigger();
+    QCOMPARE(names(list()), "AGE|SITE|Frequency");
+    menu(1).at(3)->trigger();
+    QCOMPARE(names(list()), "AGE|SITE|Freq (USUBJID)");
+    QCOMPARE(menu(1).at(3)->text(), "Frequency (USUBJID)");
 }
 
 void TestGridPanels::footTellsSharesAndWhatTheListIsOf()

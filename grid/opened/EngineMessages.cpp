@@ -1,4 +1,4 @@
-#include "app/dialogs/EngineMessages.h"
+#include "grid/opened/EngineMessages.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>
