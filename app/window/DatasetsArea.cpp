@@ -3,6 +3,7 @@
 #include "app/window/DatasetWindow.h"
 
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QStackedLayout>
 #include <QTabBar>
 
@@ -51,6 +52,7 @@ void DatasetsArea::showDatasets(bool areOpen)
 {
     if (areOpen || m_pages->count() == 1) {
         m_pages->setCurrentWidget(m_mdiArea);
+        keepOneActive();
     } else {
         m_pages->setCurrentIndex(0);
     }
@@ -65,5 +67,15 @@ void DatasetsArea::closeCurrent()
 {
     if (QMdiSubWindow* window = m_mdiArea->currentSubWindow()) {
         window->close();
+    }
+}
+
+/// Once a tab has been moved, Qt 6.4 makes none active when the active one is closed.
+void DatasetsArea::keepOneActive()
+{
+    const QList<QMdiSubWindow*> windows = m_mdiArea->subWindowList();
+    const auto* tabs = m_mdiArea->findChild<QTabBar*>();
+    if (m_mdiArea->activeSubWindow() == nullptr && tabs != nullptr && !windows.isEmpty()) {
+        m_mdiArea->setActiveSubWindow(windows.value(tabs->currentIndex(), windows.constFirst()));
     }
 }

@@ -31,6 +31,7 @@ signals:
 
 private:
     void createMdiArea();
+    void keepOneActive();
 
     QStackedLayout* m_pages;
     QMdiArea* m_mdiArea;

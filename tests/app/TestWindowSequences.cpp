@@ -152,11 +152,12 @@ void TestWindowSequences::fileStep()
     }
 }
 
-/// Goes to another dataset, closes some, or changes one that is not in front.
+/// Goes to another dataset, closes some, reads one anew, moves a tab, or changes one that is not in
+/// front.
 void TestWindowSequences::datasetStep()
 {
     DatasetWindow& dataset = random(2) == 0 ? *active() : anyDataset();
-    const int choice = random(10);
+    const int choice = random(13);
     if (choice == 0) {
         m_open.clear();
         trigger("actionCloseAll");
@@ -168,6 +169,12 @@ void TestWindowSequences::datasetStep()
         QVERIFY(view().hasFocus());
     } else if (choice < 7) {
         area().setActiveSubWindow(&dataset);
+    } else if (choice == 7) {
+        trigger("actionReload");
+        QVERIFY(view().hasFocus());
+    } else if (choice < 10) {
+        const int count = int(m_open.size());
+        area().findChild<QTabBar*>()->moveTab(random(count), random(count));
     } else {
         changeGrid(*dataset.view());
     }
