@@ -168,7 +168,9 @@ void TestWindowSequences::datasetStep()
         trigger("actionNextDataset");
         QVERIFY(view().hasFocus());
     } else if (choice < 7) {
+        const bool isOther = &dataset != active();
         area().setActiveSubWindow(&dataset);
+        QVERIFY(view().hasFocus() || !isOther);
     } else if (choice == 7) {
         trigger("actionReload");
         QVERIFY(view().hasFocus());
@@ -367,7 +369,10 @@ void TestWindowSequences::checkActive()
     QCOMPARE(dock("Desc")->windowTitle(), "Univariate - " + name);
     const GridPanels& panels = view().panels();
     const auto panelIn = [this](const char* place) {
-        return qobject_cast<PanelPlace*>(dock(place)->widget())->panel();
+        const auto* panelPlace = qobject_cast<PanelPlace*>(dock(place)->widget());
+        const auto* hint = panelPlace->findChild<QLabel*>("", Qt::FindDirectChildrenOnly);
+        const bool isEmpty = panelPlace->panel() == nullptr;
+        return hint->isHidden() == isEmpty ? hint : panelPlace->panel();
     };
     QCOMPARE(panelIn("Variables"), panels.variables());
     for (int variable = 0; variable < view().model()->columnCount(); ++variable) {

@@ -1,4 +1,5 @@
 #include "analysis/panels/CheckBoxHeader.h"
+#include "analysis/panels/DistributionChart.h"
 #include "analysis/panels/FreqTableModel.h"
 #include "analysis/panels/FreqTableView.h"
 #include "analysis/panels/VariableTableModel.h"
@@ -7,10 +8,12 @@
 #include <QAbstractButton>
 #include <QClipboard>
 #include <QFontInfo>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTableWidget>
+#include <QToolTip>
 
 /// The side views of a grid: what they show, and what they do to it.
 class TestGridPanels : public QObject
@@ -34,6 +37,7 @@ private slots:
     void menuOfTheVariablesActsOnThem();
     void footTellsSharesAndWhatTheListIsOf();
     void statisticsTellWhenTheyAreOld();
+    void statisticsAreDrawnFromLeftToRight();
 
 private:
     [[nodiscard]] VariableTableView& variables() const
@@ -154,6 +158,7 @@ void TestGridPanels::checkBoxesAndGridAgree()
     QCOMPARE(m_grid->columns(), "USUBJID SITE");
     goTo(variables(), 0, 0);
     press(variables(), Qt::Key_Space);  // USUBJID
+    QCOMPARE(header().checkState(), Qt::PartiallyChecked);
     click(1);  // SITE
     QCOMPARE(header().checkState(), Qt::Unchecked);
     QCOMPARE(changes.count(), 4);
@@ -196,6 +201,8 @@ void TestGridPanels::sortedVariablesGoBackToTheirOrder()
 {
     variables().sortByColumn(2, Qt::DescendingOrder);
     QCOMPARE(column(variables(), 1), "AGE USUBJID SEX SITE");
+    variables().sortByColumn(3, Qt::DescendingOrder);
+    QCOMPARE(column(variables(), 1), "SITE AGE USUBJID SEX");
     variables().cmdSelectRow(GridFixture::Sex);
     variables().copy();
     QCOMPARE(QGuiApplication::clipboard()->text(),
@@ -238,7 +245,9 @@ void TestGridPanels::frequenciesAreListed()
 
     m_grid->opened().setShown({{GridFixture::Sex}}, false);
     (void)m_grid->opened().run("if AGE > 99", Dialect::Command);
+    list().sortByColumn(2, Qt::AscendingOrder);
     count(GridFixture::Site);
+    QCOMPARE(list().horizontalHeader()->sortIndicatorSection(), -1);
     QCOMPARE(names(list()), "SITE|Frequency");
     QCOMPARE(list().model()->rowCount(), 0);
 }
@@ -273,6 +282,7 @@ void TestGridPanels::frequenciesAreSorted()
     new QAbstractItemModelTester(table.model(), table.model());
     grid->cmdRunCommand("table N");
     QCOMPARE(column(table, 0), "N/A -1 9 10");
+    QCOMPARE(table.list().largestCount(), 10);
     table.sortByColumn(0, Qt::AscendingOrder);
     QCOMPARE(column(table, 0), "-1 9 10 N/A");
     goTo(table, 1, 0);
@@ -415,6 +425,23 @@ void TestGridPanels::statisticsTellWhenTheyAreOld()
     QVERIFY(foot->isHidden());
     m_grid->opened().undo();
     QVERIFY(!foot->isHidden());
+}
+
+void TestGridPanels::statisticsAreDrawnFromLeftToRight()
+{
+    m_grid->goTo(0, GridFixture::Age);
+    m_grid->view->showStatistics();
+    StatisticsPanel& panel = *m_grid->view->panels().statistics();
+    bringUp(panel);
+    auto* chart = panel.findChild<DistributionChart*>();
+    const auto toolTip = [chart](int x) {
+        QHelpEvent event(QEvent::ToolTip, QPoint(x, 50), chart->mapToGlobal(QPoint(x, 50)));
+        QCoreApplication::sendEvent(chart, &event);
+        return QToolTip::text();
+    };
+    constexpr int margin = 10;
+    QCOMPARE(toolTip(margin), "From 30 to below 35: 2");
+    QCOMPARE(toolTip(chart->width() - margin), "From 50 to below 55: 2");
 }
 
 QTEST_MAIN(TestGridPanels)

@@ -45,7 +45,7 @@ public:
     {
         dataset.variable("USUBJID", TypeCode::Character, "Subject");
         dataset.variable("SEX", TypeCode::Character, "Sex as recorded at the visit");
-        dataset.variable("AGE", TypeCode::Double).variable("SITE", TypeCode::Character);
+        dataset.variable("AGE", TypeCode::Double).variable("SITE", TypeCode::Character, "", 10);
         dataset.row({"S1", "F", 34.0, "X-1"}).row({"S2", "M", 51.0, "X-2"});
         dataset.row({"S3", "F", ScriptedDataset::missing, "Y-1"}).row({"S1", "M", 34.0, "X-1"});
         dataset.row({"S4", "", 47.0, "y-1"}).row({"S2", "F", 51.0, "X-2"});

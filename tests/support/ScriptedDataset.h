@@ -23,14 +23,15 @@ public:
 
     explicit ScriptedDataset(SourceKind kind = SourceKind::Sas) { setSourceKind(kind); }
 
-    ScriptedDataset& variable(std::string name, TypeCode type, std::string label = {})
+    ScriptedDataset& variable(std::string name, TypeCode type, std::string label = {},
+                              int length = 8)
     {
         const auto entry = static_cast<std::size_t>(m_variableCount);
         resizeVariables(m_variableCount + 1);
         m_names[entry] = std::move(name);
         m_labels[entry] = std::move(label);
         m_typeCodes[entry] = type;
-        m_lengths[entry] = 8;
+        m_lengths[entry] = length;
         resizeBits();
         return *this;
     }
