@@ -23,14 +23,12 @@ Navigation::Navigation(QWidget& window, const MainActions& actions,
 
 void Navigation::setGrid(MainTableView* grid)
 {
-    if (m_grid != nullptr) {
-        disconnect(m_grid, nullptr, m_find, nullptr);
-    }
     m_grid = grid;
     m_find->setView(grid);
     if (grid != nullptr) {
         // Which tells of every change of what is hidden.
-        connect(grid, &MainTableView::signalObsNo, m_find, &FindDialog::followVisibility);
+        connect(grid, &MainTableView::signalObsNo, m_find, &FindDialog::followVisibility,
+                Qt::UniqueConnection);
     }
 }
 

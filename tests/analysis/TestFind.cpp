@@ -74,9 +74,9 @@ TEST(CellSearch, findsWhatCellsShowInAnyLetterCase)
     dataset.variable("T", TypeCode::Character).variable("N", TypeCode::Double);
     dataset.rows(rows, [](int row, int column) -> ScriptedDataset::Value {
         return column == 1 ? ScriptedDataset::Value(row % 100'000 / 4.0)
-                           : " \u00C4rm-" + std::to_string(row);
+                           : (row % 2 == 0 ? " \u00C4rm-" : " AZrm-") + std::to_string(row);
     });
-    for (const char* text : {"\u00E4RM-13", "13", ".5", "4.25", "none"}) {
+    for (const char* text : {"\u00E4RM-13", "azRM-13", "13", ".5", "4.25", "none"}) {
         CellSearch search(dataset, QString::fromUtf8(text));
         for (int pass = 0; pass < 2; ++pass) {
             for (std::uint32_t first = 0; first < rows; first += 50) {

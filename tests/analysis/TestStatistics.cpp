@@ -138,18 +138,19 @@ TEST(Statistics, haveALineForEachStatisticOrForEachGroup)
 {
     ScriptedDataset dataset;
     dataset.variable("ARM", TypeCode::Character).variable("AVAL", TypeCode::Double);
-    dataset.row({"Placebo", 4.0}).row({"Active", 1.0}).row({"Placebo", 8.0});
+    dataset.variable("DAY", TypeCode::Double);
+    dataset.row({"Placebo", 4.0, 1.0}).row({"Active", 1.0, 1.0}).row({"Placebo", 8.0, 1.0});
 
     const statistics::Table whole = describe(dataset, {1, 0});
     EXPECT_EQ(whole.header, (Texts{"AVAL", "Value"}));
     EXPECT_EQ(whole.rows[0], (Texts{"N", "3"}));
     EXPECT_EQ(whole.rows[6], (Texts{"Std Dev", "3.51188"}));
-    const statistics::Table byArm = describe(dataset, {1}, {0});
-    EXPECT_EQ(byArm.header,
-              (Texts{"ARM", "N", "Mean", "Median", "Min", "Max", "Range", "Std Dev"}));
-    EXPECT_EQ(byArm.rows,
-              (TableRows{{"Active", "1", "1", "1", "1", "1", "0", "0"},
-                         {"Placebo", "2", "6", "6", "4", "8", "4", "2.82843"}}));
+    const statistics::Table grouped = describe(dataset, {1}, {2, 0});
+    EXPECT_EQ(grouped.header,
+              (Texts{"DAY", "ARM", "N", "Mean", "Median", "Min", "Max", "Range", "Std Dev"}));
+    EXPECT_EQ(grouped.rows,
+              (TableRows{{"1", "Active", "1", "1", "1", "1", "1", "0", "0"},
+                         {"1", "Placebo", "2", "6", "6", "4", "8", "4", "2.82843"}}));
 }
 
 TEST(Statistics, sayWhyThereAreNone)

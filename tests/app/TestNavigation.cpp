@@ -18,6 +18,7 @@ private slots:
     void findSearchesAnyTable();
     void quickOpenListsDatasetsAndVariables();
     void quickOpenLeadsToCells();
+    void variablesLeadBackToTheGrid();
 
 private:
     /// Presses a key on the window and tells where the current cell is then.
@@ -142,8 +143,8 @@ void TestNavigation::quickOpenListsDatasetsAndVariables()
         QTest::keyClick(text, key);
         QTest::keyClick(text, Qt::Key_Return);
     };
-    choose("d", Qt::Key_Up);
-    choose("", Qt::Key_Down);
+    choose("d", Qt::Key_PageUp);
+    choose("", Qt::Key_PageDown);
     QCOMPARE(files.value(0).value(0), QVariant("/s/dm.xpt"));
     QCOMPARE(files.value(1).value(0), QVariant("/s/vs.xpt"));
     choose("v age", Qt::Key_Down);
@@ -170,6 +171,18 @@ void TestNavigation::quickOpenLeadsToCells()
     QCOMPARE(choose("3"), "2 1");
     QCOMPARE(choose("1"), "2 1");
     QVERIFY(log->take().find("Observation 1 is hidden by a filter.") != std::string::npos);
+}
+
+void TestNavigation::variablesLeadBackToTheGrid()
+{
+    open("dm");
+    view().run(GridCommand::GoToVariable);
+    VariableTableView& variables = *view().panels().variables();
+    QVERIFY(variables.hasFocus());
+    QTest::keyClick(&variables, Qt::Key_Down);
+    QTest::keyClick(&variables, Qt::Key_G);
+    QVERIFY(view().hasFocus());
+    QCOMPARE(view().currentVariable(), 1);
 }
 
 QTEST_MAIN(TestNavigation)

@@ -162,8 +162,10 @@ void TestWindowSequences::datasetStep()
         m_open.clear();
         trigger("actionCloseAll");
     } else if (choice < 3) {
+        const bool isOther = &dataset != active();
         m_open.erase(dataset.fileKey());
         dataset.close();
+        QVERIFY(m_open.empty() || isOther || view().hasFocus());
     } else if (choice < 5) {
         trigger("actionNextDataset");
         QVERIFY(view().hasFocus());

@@ -171,6 +171,7 @@ void TestGridPanels::checkBoxesAndGridAgree()
     QCOMPARE(header().checkState(), Qt::Checked);
     QCOMPARE(m_grid->columns(), "USUBJID SEX AGE SITE");
     pressBox({16, header().height() / 2});
+    pressBox({60, header().height() / 2});  // which sorts
     QCOMPARE(header().checkState(), Qt::Unchecked);
     QCOMPARE(m_grid->columns(), "");
     QCOMPARE(changes.count(), 6);
@@ -370,6 +371,12 @@ void TestGridPanels::menuEntriesReadAsTheFiltersTheySet()
         QCOMPARE(m_grid->notes.take(),
                  QStringList("message|Choose a value of a variable to filter by."));
     }
+
+    ScriptedDataset signs;
+    signs.variable("T", TypeCode::Character).row({"a&b\tc"});
+    const auto grid = m_grid->open(signs);
+    grid->cmdRunCommand("table T");
+    QCOMPARE(menuOf(grid->panels().frequency()->table()).at(6)->text(), "T = \"a&&b c\"\t=");
 }
 
 void TestGridPanels::menuOfTheVariablesActsOnThem()
