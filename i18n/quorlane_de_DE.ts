@@ -322,6 +322,10 @@ Möchten Sie das Dataset neu laden?</translation>
         <source>The filter could not be kept: %1</source>
         <translation>Der Filter konnte nicht beibehalten werden: %1</translation>
     </message>
+    <message>
+        <source>Open R Data</source>
+        <translation>R-Daten öffnen</translation>
+    </message>
 </context>
 <context>
     <name>DatasetPropertiesDialog</name>

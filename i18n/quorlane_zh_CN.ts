@@ -322,6 +322,10 @@ Do you want to reload it?</source>
         <source>The filter could not be kept: %1</source>
         <translation>无法保留筛选：%1</translation>
     </message>
+    <message>
+        <source>Open R Data</source>
+        <translation>打开 R 数据</translation>
+    </message>
 </context>
 <context>
     <name>DatasetPropertiesDialog</name>

@@ -212,7 +212,9 @@ void DatasetOpener::tellFailure(const DatasetOrigin& origin, const QString& reas
     const QString text = member.isEmpty()
         ? tr("Failed to open the file: %1").arg(origin.filePath)
         : tr("Failed to open dataset '%1' in %2.").arg(member, origin.filePath);
-    m_surroundings.prompts.warn(tr("Open File"), text, enginemessages::translated(reason));
+    const bool isFrame = !member.isEmpty() && filekinds::isOfKind(origin.filePath, FileKind::R);
+    m_surroundings.prompts.warn(isFrame ? tr("Open R Data") : tr("Open File"), text,
+                                enginemessages::translated(reason));
 }
 
 void DatasetOpener::show(std::unique_ptr<DatasetWindow> window)

@@ -13,6 +13,12 @@ using Kind = DatasetJsonOddities::Kind;
 constexpr std::size_t mostNamed = 5;  ///< variables in one sentence
 constexpr std::size_t mostExample = 40;  ///< characters
 
+/// Marks what goes to the log alone and needs no translation.
+constexpr std::string_view logged(std::string_view pattern)
+{
+    return pattern;
+}
+
 /// What is odd, with places for the variables, the number of values, and the first of them.
 std::string_view patternOf(Kind kind)
 {
@@ -46,14 +52,16 @@ std::string_view patternOf(Kind kind)
     case Kind::InvalidText:
         return "Invalid characters are shown as \xEF\xBF\xBD ({1}, first in row {2})";
     case Kind::Fraction:
-        return "{0}: numbers with decimals in a variable of integers ({1}, first in row {2})";
+        return logged(
+            "{0}: numbers with decimals in a variable of integers ({1}, first in row {2})");
     case Kind::NumberAsText:
-        return "{0}: numbers written as texts ({1}, first in row {2})";
+        return logged("{0}: numbers written as texts ({1}, first in row {2})");
     case Kind::PlainAsText:
-        return "{0}: numbers or booleans where texts are expected ({1}, first in row {2})";
+        return logged("{0}: numbers or booleans where texts are expected ({1}, first in row {2})");
     case Kind::BooleanAsNumber:
-        return "{0}: true and false where numbers are expected, taken as 1 and 0 ({1}, first in "
-               "row {2})";
+        return logged(
+            "{0}: true and false where numbers are expected, taken as 1 and 0 ({1}, first in "
+            "row {2})");
     }
     return {};
 }

@@ -148,4 +148,12 @@ const Suffix* suffixOf(const QString& path)
     return nullptr;
 }
 
+bool isOfKind(const QString& path, FileKind kind)
+{
+    const std::span<const Suffix> ofKind = entryOf(kind).suffixes;
+    const Suffix* suffix = suffixOf(path);
+    return std::any_of(ofKind.begin(), ofKind.end(),
+                       [&](const Suffix& one) { return &one == suffix; });
+}
+
 }  // namespace filekinds

@@ -51,5 +51,6 @@ struct Entry
 [[nodiscard]] const Entry& entryOf(FileKind kind);
 /// The suffix that a file's name ends with, in any letter case; null for one of no kind.
 [[nodiscard]] const Suffix* suffixOf(const QString& path);
+[[nodiscard]] bool isOfKind(const QString& path, FileKind kind);
 
 }  // namespace filekinds

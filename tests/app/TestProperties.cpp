@@ -1,4 +1,5 @@
 #include "app/dialogs/DatasetPropertiesDialog.h"
+#include "tests/support/RFiles.h"
 #include "tests/support/WindowFixture.h"
 
 #include <QClipboard>
@@ -7,7 +8,7 @@
 #include <QTableView>
 #include <QTreeWidget>
 
-/// What a file says of its dataset, as the window shows it.
+/// What a file says of its dataset, or why it says nothing, as the window shows it.
 class TestProperties : public QObject, private WindowFixture
 {
     Q_OBJECT
@@ -18,6 +19,7 @@ private slots:
     void tellWhatTheFileSays();
     void areCopiedAndSaved();
     void stayWhenTheDatasetCloses();
+    void framesOfRThatCannotBeReadAreNamed();
 
 private:
     [[nodiscard]] DatasetPropertiesDialog* dialog() const
@@ -115,6 +117,24 @@ void TestProperties::stayWhenTheDatasetCloses()
     QCOMPARE(dialog()->findChild<QTableView*>()->model()->rowCount(), 1);
     press("Close");
     QTRY_VERIFY(dialog() == nullptr);
+}
+
+void TestProperties::framesOfRThatCannotBeReadAreNamed()
+{
+    openWindow(true);
+    const QString file = path("study.rda");
+    const std::string bytes = rfiles::bytesOf(rfiles::workspace);
+    QFile written(file);
+    QVERIFY(written.open(QIODevice::WriteOnly)
+            && written.write(bytes.data(), qint64(bytes.size())) > 0);
+    written.close();
+    script.chosenDatasets = {"ae"};
+    QVERIFY(window->openDatasetFile(file));
+    QVERIFY(written.remove());
+    notes();
+    trigger("actionReload");
+    QCOMPARE(notes().first().section('|', 0, 2),
+             "warn|Open R Data|Failed to open dataset 'ae' in " + file + ".");
 }
 
 QTEST_MAIN(TestProperties)
