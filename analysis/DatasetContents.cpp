@@ -166,14 +166,26 @@ std::vector<Section> sections(const StatDataset& dataset, const QString& path)
     return all;
 }
 
+namespace {
+
+std::string typeText(const StatDataset& dataset, int column)
+{
+    if (dataset.sourceKind() == SourceKind::DatasetJson) {
+        return dataset.variableAttribute(column, VariableAttribute::Type);
+    }
+    return dataset.isNumeric(column) ? "Num" : "Char";
+}
+
+}  // namespace
+
 std::vector<Variable> variables(const StatDataset& dataset)
 {
     std::vector<Variable> all;
     for (int column = 0; column < dataset.variableCount(); ++column) {
         const auto at = static_cast<std::size_t>(column);
         all.push_back({.name = dataset.names()[at],
-                       .isNumeric = dataset.isNumeric(column),
-                       .length = dataset.lengths()[at],
+                       .type = typeText(dataset, column),
+                       .length = dataset.variableAttribute(column, VariableAttribute::Length),
                        .format = dataset.writtenFormat(column),
                        .informat = dataset.informats()[at],
                        .label = dataset.labels()[at]});
@@ -206,9 +218,8 @@ std::vector<std::vector<std::string>> variableRows(const StatDataset& dataset)
 {
     std::vector<std::vector<std::string>> rows;
     for (const Variable& variable : variables(dataset)) {
-        rows.push_back({std::to_string(rows.size() + 1), variable.name,
-                        variable.isNumeric ? "Num" : "Char", std::to_string(variable.length),
-                        variable.format, variable.informat, variable.label});
+        rows.push_back({std::to_string(rows.size() + 1), variable.name, variable.type,
+                        variable.length, variable.format, variable.informat, variable.label});
         if (!dataset.keyVariables().empty()) {
             rows.back().push_back(variable.key > 0 ? std::to_string(variable.key) : "");
         }

@@ -33,8 +33,8 @@ struct Section
 struct Variable
 {
     std::string name;
-    bool isNumeric = false;
-    std::int32_t length = 0;  ///< bytes
+    std::string type;  ///< "Num" or "Char"; the file's own word where it has finer ones
+    std::string length;  ///< bytes; empty where the file tells none
     std::string format;  ///< as it is written: "DATE9."
     std::string informat;
     std::string label;
@@ -48,7 +48,7 @@ struct Variable
 
 /// The titles of the columns of variableRows().
 [[nodiscard]] std::vector<std::string> variableTitles(const StatDataset& dataset);
-/// Number, name, "Num" or "Char", length, format, informat, label and, where the dataset has key
+/// Number, name, type, length, format, informat, label and, where the dataset has key
 /// variables, the place among them.
 [[nodiscard]] std::vector<std::vector<std::string>> variableRows(const StatDataset& dataset);
 

@@ -10,12 +10,19 @@ namespace cli {
 
 namespace {
 
+/// As the file has it; a reader may keep a name of its own that says how values are shown.
+std::string formatName(const StatDataset& dataset, std::size_t v)
+{
+    const bool isOfFile = !dataset.writtenFormat(static_cast<int>(v)).empty();
+    return isOfFile || dataset.formatWidths()[v] > 0 ? dataset.formats()[v] : std::string();
+}
+
 std::string variableJson(const StatDataset& dataset, std::size_t v)
 {
     return fmt::format(
         R"({{"name":{},"type":{},"length":{},"format":{},"width":{},"decimals":{},"informat":{},"label":{}}})",
         jsonText(dataset.names()[v]), static_cast<int>(dataset.typeCodes()[v]),
-        dataset.lengths()[v], jsonText(dataset.formats()[v]), dataset.formatWidths()[v],
+        dataset.lengths()[v], jsonText(formatName(dataset, v)), dataset.formatWidths()[v],
         dataset.formatDecimals()[v], jsonText(dataset.informats()[v]),
         jsonText(dataset.labels()[v]));
 }
@@ -69,7 +76,7 @@ std::vector<std::string> variableLine(const StatDataset& dataset, std::size_t v)
             dataset.names()[v],
             std::to_string(static_cast<int>(dataset.typeCodes()[v])),
             std::to_string(dataset.lengths()[v]),
-            dataset.formats()[v],
+            formatName(dataset, v),
             std::to_string(dataset.formatWidths()[v]),
             std::to_string(dataset.formatDecimals()[v]),
             dataset.informats()[v],
