@@ -13,8 +13,8 @@
 
 namespace {
 
-/// The datasets below an item, in the order of the tree: the path, with its name in front of it
-/// where that is another.
+/// The items below an item that have none below them, in the order of the tree: the path, with the
+/// name in front of it where that is another. What is no dataset has no path.
 void addDatasets(const QAbstractItemModel& tree, const QModelIndex& parent, QStringList& entries)
 {
     for (int row = 0; row < tree.rowCount(parent); ++row) {
@@ -23,7 +23,7 @@ void addDatasets(const QAbstractItemModel& tree, const QModelIndex& parent, QStr
         const QString text = item.data().toString();
         if (tree.hasChildren(item)) {
             addDatasets(tree, item, entries);
-        } else if (!path.isEmpty()) {
+        } else {
             entries << (text == path ? path : text + u'\t' + path);
         }
     }
@@ -135,7 +135,11 @@ void QuickOpenDialog::accept()
 {
     const QModelIndex chosen = m_proxy->mapToSource(m_list->currentIndex());
     const int observation = typedObservation();
-    if (!chosen.isValid() && observation < 0) {
+    const QString entry = chosen.data().toString();
+    const QString path = entry.mid(entry.indexOf(u'\t') + 1);
+    const bool leadsSomewhere =
+        observation >= 0 || (chosen.isValid() && (m_mode == Mode::Variables || !path.isEmpty()));
+    if (!leadsSomewhere) {
         return;
     }
     QDialog::accept();
@@ -144,8 +148,7 @@ void QuickOpenDialog::accept()
     } else if (m_mode == Mode::Variables) {
         emit columnChosen(chosen.row());
     } else {
-        const QString entry = chosen.data().toString();
-        emit fileChosen(entry.mid(entry.indexOf(u'\t') + 1));
+        emit fileChosen(path);
     }
 }
 

@@ -112,6 +112,7 @@ void TestNavigation::quickOpenListsDatasetsAndVariables()
         library->appendRow(item);
     }
     tree.appendRow(library);
+    tree.appendRow(new QStandardItem("Session"));
     QStandardItemModel grid(2000, 3);
     grid.setHorizontalHeaderLabels({"USUBJID", "AGE", "AGEU"});
     QuickOpenDialog palette(tree, &grid);
@@ -126,7 +127,7 @@ void TestNavigation::quickOpenListsDatasetsAndVariables()
         }
         return entries.join('|');
     };
-    QCOMPARE(listed(""), "dm\t/s/dm.xpt|/s/vs.xpt");
+    QCOMPARE(listed(""), "dm\t/s/dm.xpt|/s/vs.xpt|Session\t");
     QCOMPARE(listed("VS"), "/s/vs.xpt");
     QCOMPARE(listed(" V   age"), "AGE|AGEU");
     QCOMPARE(listed("col ^usub"), "USUBJID");
@@ -144,7 +145,7 @@ void TestNavigation::quickOpenListsDatasetsAndVariables()
         QTest::keyClick(text, Qt::Key_Return);
     };
     choose("d", Qt::Key_PageUp);
-    choose("", Qt::Key_PageDown);
+    choose("s/", Qt::Key_PageDown);
     QCOMPARE(files.value(0).value(0), QVariant("/s/dm.xpt"));
     QCOMPARE(files.value(1).value(0), QVariant("/s/vs.xpt"));
     choose("v age", Qt::Key_Down);
@@ -152,6 +153,8 @@ void TestNavigation::quickOpenListsDatasetsAndVariables()
     choose("1234", Qt::Key_Up);
     QCOMPARE(rows.value(0).value(0), QVariant(1233));
     choose("2001", Qt::Key_Up);
+    QVERIFY(palette.isVisible());
+    choose("sess", Qt::Key_Up);  // which is no dataset
     QVERIFY(palette.isVisible());
     QCOMPARE(files.size() + rows.size() + columns.size(), 4);
 }
