@@ -64,7 +64,8 @@ std::string_view CsvText::next()
         }
         m_position += got;
         decode({m_buffer.data(), static_cast<std::size_t>(got)});
-        if (std::erase(m_part, '\0') > 0) {
+        if (m_part.find('\0') != std::string::npos) {
+            std::erase(m_part, '\0');
             m_hadNulBytes = true;
         }
     } while (m_part.empty());

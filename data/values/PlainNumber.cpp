@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
 
 namespace {
 
@@ -25,6 +26,22 @@ bool isHeldExactly(std::string_view digits, double magnitude)
     return digits == std::string_view(buffer.data(), written.ptr);
 }
 
+/// What most numbers are, without a call of the library.
+std::optional<double> shortWholeNumber(std::string_view digits)
+{
+    if (digits.size() > digitsAlwaysHeld) {
+        return std::nullopt;
+    }
+    std::int64_t number = 0;
+    for (const char digit : digits) {
+        if (!isDigit(digit)) {
+            return std::nullopt;
+        }
+        number = number * 10 + (digit - '0');
+    }
+    return static_cast<double>(number);
+}
+
 }  // namespace
 
 std::optional<double> plainNumber(std::string_view text)
@@ -38,6 +55,9 @@ std::optional<double> plainNumber(std::string_view text)
     }
     if (text.size() > 1 && text[0] == '0' && isDigit(text[1])) {
         return std::nullopt;
+    }
+    if (const auto whole = shortWholeNumber(text)) {
+        return isNegative ? -*whole : *whole;
     }
     double magnitude = 0.0;
     const char* const end = text.data() + text.size();

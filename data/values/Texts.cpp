@@ -35,9 +35,8 @@ std::size_t sequenceLength(std::string_view text)
     return 0;
 }
 
-}  // namespace
-
-bool isAscii(std::string_view text)
+/// How many bytes at the start are ASCII, eight at a time.
+std::size_t wholeAsciiWords(std::string_view text)
 {
     constexpr std::uint64_t highBits = 0x8080808080808080U;
     std::size_t at = 0;
@@ -45,9 +44,17 @@ bool isAscii(std::string_view text)
         std::uint64_t word = 0;
         std::memcpy(&word, text.data() + at, 8);
         if ((word & highBits) != 0) {
-            return false;
+            break;
         }
     }
+    return at;
+}
+
+}  // namespace
+
+bool isAscii(std::string_view text)
+{
+    const std::size_t at = wholeAsciiWords(text);
     return std::all_of(text.begin() + static_cast<std::ptrdiff_t>(at), text.end(),
                        [](char letter) { return static_cast<unsigned char>(letter) < 0x80; });
 }
@@ -55,11 +62,16 @@ bool isAscii(std::string_view text)
 bool isUtf8(std::string_view text)
 {
     while (!text.empty()) {
-        const std::size_t length = sequenceLength(text);
-        if (length == 0) {
-            return false;
+        text.remove_prefix(wholeAsciiWords(text));
+        // Up to the first character beyond ASCII and behind it.
+        for (bool isAsciiSoFar = true; isAsciiSoFar && !text.empty();) {
+            const std::size_t length = sequenceLength(text);
+            if (length == 0) {
+                return false;
+            }
+            isAsciiSoFar = length == 1;
+            text.remove_prefix(length);
         }
-        text.remove_prefix(length);
     }
     return true;
 }
