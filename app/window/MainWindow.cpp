@@ -29,7 +29,6 @@
 #include "app/window/StatusCounters.h"
 #include "app/window/WindowArrangement.h"
 #include "grid/MainTableView.h"
-#include "workspace/OptionsDialog.h"
 #include "workspace/WorkspaceStore.h"
 
 #include <spdlog/spdlog.h>
@@ -453,110 +452,6 @@ void MainWindow::onColumnHeaderLabelChanged(QAbstractButton* /*button*/)
 void MainWindow::toggleDarkMode()
 {
     m_look->toggleDarkMode();
-}
-
-// Actions
-
-void MainWindow::on_actionOpenSasData_triggered()
-{
-    m_opener->chooseAndOpen(FileKind::Sas);
-}
-
-void MainWindow::on_actionOpenDatasetJson_triggered()
-{
-    m_opener->chooseAndOpen(FileKind::DatasetJson);
-}
-
-void MainWindow::on_actionOpenRData_triggered()
-{
-    m_opener->chooseAndOpen(FileKind::R);
-}
-
-void MainWindow::on_actionOpenSpssData_triggered()
-{
-    m_opener->chooseAndOpen(FileKind::Spss);
-}
-
-void MainWindow::on_actionOpenStataData_triggered()
-{
-    m_opener->chooseAndOpen(FileKind::Stata);
-}
-
-void MainWindow::on_actionOpenCsv_triggered()
-{
-    m_opener->chooseAndOpen(FileKind::Csv);
-}
-
-void MainWindow::on_actionNewSasProgram_triggered()
-{
-    m_arrangement->show(*m_docks->code());
-    m_code->addProgram();
-}
-
-void MainWindow::on_actionClose_triggered()
-{
-    m_area->closeCurrent();
-}
-
-void MainWindow::on_actionCloseAll_triggered()
-{
-    m_area->mdiArea().closeAllSubWindows();
-}
-
-void MainWindow::on_actionExit_triggered()
-{
-    close();
-}
-
-void MainWindow::on_actionAbout_triggered()
-{
-    m_prompts->inform(tr("About Quorlane"),
-                      tr("Quorlane %1\nA viewer for statistical and clinical-trial datasets.\n"
-                         "Data files are only ever read.")
-                          .arg(QCoreApplication::applicationVersion()));
-}
-
-void MainWindow::on_actionCheckForUpdates_triggered()
-{
-    m_updateCheck->check();
-}
-
-void MainWindow::on_actionDocumentation_triggered()
-{
-    openPage(QUrl(QString::fromUtf8(quorlane::webSite) + QStringLiteral("/documentation/")));
-}
-
-void MainWindow::openPage(const QUrl& url)
-{
-    if (!m_openUrl(url)) {
-        m_gridServices->showMessage(tr("No browser could show %1").arg(url.toString()));
-    }
-}
-
-void MainWindow::on_actionOptions_triggered()
-{
-    QString& uniqueVarName = m_gridServices->datasets().uniqueVarName;
-    const QString name = m_prompts->editOptions(uniqueVarName);
-    if (name != uniqueVarName) {
-        uniqueVarName = name;
-        m_store->saveOption(QStringLiteral("uniqueVarName"), name);
-    }
-}
-
-void MainWindow::datasetProperty()
-{
-    m_properties->showOf(m_area->currentDataset());
-}
-
-void MainWindow::editDataFilter()
-{
-    m_boxes->editDataFilter(*m_prompts);
-}
-
-/// Writes the program of a grid, or of the active one.
-void MainWindow::generateSasCode(MainTableView* view)
-{
-    m_code->follow(view == nullptr ? activeView() : view);
 }
 
 // Window
