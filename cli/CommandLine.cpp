@@ -10,6 +10,7 @@
 
 #include <CLI/CLI.hpp>
 #include <cstdio>
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <optional>
@@ -71,8 +72,29 @@ void addWhere(CLI::App& command, std::optional<std::string>& where)
     command.add_option("--where", where);
 }
 
+bool isFolder(const std::string& path)
+{
+    std::error_code ignored;
+    return std::filesystem::is_directory(path, ignored);
+}
+
+int runFolder(const Common& common)
+{
+    if (!common.member.empty()) {
+        return fail(fmt::format("{}: --member needs a file, and this is a folder", common.file));
+    }
+    const Result<bool> printed = printFolder(common.file, common.format);
+    if (!printed) {
+        return fail(printed.error());
+    }
+    return printed.value() ? Done : Failed;
+}
+
 int runContents(const Common& common)
 {
+    if (isFolder(common.file)) {
+        return runFolder(common);
+    }
     const Result<OpenedDataset> opened = open(common, true);
     if (!opened) {
         return fail(opened.error());

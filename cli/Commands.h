@@ -14,6 +14,11 @@ namespace cli {
 /// Prints what a file says of its dataset and variables.
 void printContents(const OpenedDataset& opened, const std::string& file, OutputFormat format);
 
+/// Prints the variables of all datasets of a folder, and in what those of one name differ. Files
+/// that cannot be read are told on standard error and left out.
+/// @return  whether all of them could be read; a failure where the folder cannot be listed
+[[nodiscard]] Result<bool> printFolder(const std::string& folder, OutputFormat format);
+
 struct RowsRequest
 {
     std::vector<std::string> keep;  ///< variable names; empty for all

@@ -9,7 +9,7 @@ constexpr std::string_view program = R"(Usage: quorlane-cli COMMAND FILE [OPTION
 Shows SAS data sets, SAS transport files, SPSS and Stata data files without a window.
 
 Commands:
-  contents   describe the dataset and its variables
+  contents   describe the dataset and its variables, or those of a folder
   rows       print the observations
   freq       count the values of variables
   stats      summarise a numeric variable
@@ -23,8 +23,10 @@ Exit codes: 0 done, 2 not done, with the reason on standard error.
 )";
 
 constexpr std::string_view contents = R"(Usage: quorlane-cli contents FILE [OPTION...]
+       quorlane-cli contents FOLDER [OPTION...]
 
-Describes the dataset and its variables.
+Describes the dataset and its variables. Of a folder it lists the variables of all datasets and says
+in what those of one name differ: type, length, format, label.
 
 )";
 

@@ -27,6 +27,8 @@ struct FileState
     bool exists = false;
     QDateTime lastModified;
     std::int64_t size = 0;  ///< bytes
+
+    bool operator==(const FileState&) const = default;
 };
 /// QFileInfo's answers for every name without stray bytes, of which it knows no file.
 [[nodiscard]] FileState stateOf(const QString& path);

@@ -87,6 +87,37 @@ TEST_F(CommandLine, contentsDescribesTheDataset)
     EXPECT_NE(run("contents").out.find("Adverse \"events\""), std::string::npos);
 }
 
+TEST_F(CommandLine, contentsOfAFolderComparesVariables)
+{
+    samples::Table other;
+    other.name = "CM";
+    other.columns = {samples::textColumn("AETERM", "Reported \"term\"", 30)};
+    samples::writeTable(m_folder.file("cm.sas7bdat"), other);
+    Outcome outcome = run("contents", "--format json", "");
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    const std::vector<json> lines = jsonLines(outcome.out);
+    ASSERT_EQ(lines.size(), 4U);
+    EXPECT_EQ(lines[1]["differs"], json::array());
+    EXPECT_EQ(lines[3],
+              (json{{"dataset", "CM"},
+                    {"file", "cm.sas7bdat"},
+                    {"name", "AETERM"},
+                    {"type", "Character"},
+                    {"length", 30},
+                    {"format", ""},
+                    {"label", "Reported \"term\""},
+                    {"differs", {"length", "label"}}}));
+    std::ofstream(m_folder.file("bad.dta")) << "no such thing";
+    outcome = run("contents", "--format tsv", "");
+    EXPECT_EQ(outcome.code, 2);
+    EXPECT_EQ(outcome.err.find("quorlane-cli: bad.dta: "), 0U) << outcome.err;
+    EXPECT_NE(outcome.out.find("AE\tae.xpt\tASTDT\tNumeric\t8\tDATE9.\t\tStart\n"),
+              std::string::npos)
+        << outcome.out;
+    EXPECT_NE(run("contents", "--member AE", "").err.find("--member needs a file"),
+              std::string::npos);
+}
+
 TEST_F(CommandLine, rowsShowsCellsAsTheGridDoes)
 {
     const auto rows = jsonLines(run("rows", "--format json").out);
