@@ -1140,6 +1140,10 @@ Möchten Sie das Dataset neu laden?</translation>
         <source>an object of another kind</source>
         <translation>ein Objekt anderer Art</translation>
     </message>
+    <message>
+        <source>The folder cannot be listed: %1</source>
+        <translation>Der Ordner kann nicht aufgelistet werden: %1</translation>
+    </message>
 </context>
 <context>
     <name>FailureNote</name>
@@ -1236,6 +1240,104 @@ Möchten Sie das Dataset neu laden?</translation>
     <message>
         <source>Found, but not visible</source>
         <translation>Gefunden, aber nicht sichtbar</translation>
+    </message>
+</context>
+<context>
+    <name>FolderVariablesDialog</name>
+    <message>
+        <source>Only &amp;differences</source>
+        <translation>Nur &amp;Unterschiede</translation>
+    </message>
+    <message>
+        <source>Reading the folder...</source>
+        <translation>Der Ordner wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>Variables of %1</source>
+        <translation>Variablen von %1</translation>
+    </message>
+    <message>
+        <source>The folder does not answer</source>
+        <translation>Der Ordner antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>Search names, labels, formats, datasets</source>
+        <translation>Namen, Labels, Formate und Datensätze durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>Reading file %1 of %2</source>
+        <translation>Datei %1 von %2 wird gelesen</translation>
+    </message>
+    <message>
+        <source>... and %1 more in the log</source>
+        <translation>... und %1 weitere im Protokoll</translation>
+    </message>
+    <message>
+        <source>Variables: %1 of %2, datasets: %3</source>
+        <translation>Variablen: %1 von %2, Datensätze: %3</translation>
+    </message>
+</context>
+<context>
+    <name>FolderVariablesModel</name>
+    <message>
+        <source>Numeric</source>
+        <translation>Numerisch</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Dataset</source>
+        <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Differs</source>
+        <translation>Unterschiede</translation>
     </message>
 </context>
 <context>
@@ -1423,6 +1525,186 @@ Möchten Sie das Dataset neu laden?</translation>
     <message>
         <source>Command</source>
         <translation>Befehl</translation>
+    </message>
+</context>
+<context>
+    <name>Libraries</name>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Remove Library</source>
+        <translation>Bibliothek entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the library &quot;%1&quot; from the workspace?
+The files in %2 stay as they are.</source>
+        <translation>Soll die Bibliothek &quot;%1&quot; aus dem Arbeitsbereich entfernt werden?
+Die Dateien in %2 bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>The library filter of %1 cannot be used: %2</source>
+        <translation>Der Bibliotheksfilter von %1 kann nicht verwendet werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryEditorDialog</name>
+    <message>
+        <source>&amp;Watch the folder for changes</source>
+        <translation>Den Ordner auf Änderungen ü&amp;berwachen</translation>
+    </message>
+    <message>
+        <source>&amp;Show its files when the program starts</source>
+        <translation>Die Dateien beim &amp;Start des Programms zeigen</translation>
+    </message>
+    <message>
+        <source>Choose color</source>
+        <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>No color</source>
+        <translation>Keine Farbe</translation>
+    </message>
+    <message>
+        <source>Add Library</source>
+        <translation>Bibliothek hinzufügen</translation>
+    </message>
+    <message>
+        <source>Edit Library</source>
+        <translation>Bibliothek bearbeiten</translation>
+    </message>
+    <message>
+        <source>the name that SAS programs use, such as ADAM</source>
+        <translation>der Name in SAS-Programmen, zum Beispiel ADAM</translation>
+    </message>
+    <message>
+        <source>a condition, such as SAFFL = &quot;Y&quot;</source>
+        <translation>eine Bedingung, zum Beispiel SAFFL = &quot;Y&quot;</translation>
+    </message>
+    <message>
+        <source>Becomes the library filter when a dataset is opened from here and none is in force</source>
+        <translation>Wird zum Bibliotheksfilter, wenn von hier ein Datensatz geöffnet wird und keiner in Kraft ist</translation>
+    </message>
+    <message>
+        <source>Directory</source>
+        <translation>Verzeichnis</translation>
+    </message>
+    <message>
+        <source>Display Name</source>
+        <translation>Anzeigename</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>SAS Library</source>
+        <translation>SAS-Bibliothek</translation>
+    </message>
+    <message>
+        <source>Library Filter</source>
+        <translation>Bibliotheksfilter</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen ...</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>Verzeichnis auswählen</translation>
+    </message>
+    <message>
+        <source>Select Color</source>
+        <translation>Farbe auswählen</translation>
+    </message>
+    <message>
+        <source>Invalid Input</source>
+        <translation>Ungültige Eingabe</translation>
+    </message>
+    <message>
+        <source>Directory is required.</source>
+        <translation>Ein Verzeichnis ist erforderlich.</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Doppelt vorhanden</translation>
+    </message>
+    <message>
+        <source>A library for this directory already exists.</source>
+        <translation>Für dieses Verzeichnis gibt es bereits eine Bibliothek.</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryItem</name>
+    <message>
+        <source>%1
+%2, changed %3</source>
+        <translation>%1
+%2, geändert %3</translation>
+    </message>
+    <message>
+        <source>Reading the folder...</source>
+        <translation>Der Ordner wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>The folder cannot be listed</source>
+        <translation>Der Ordner kann nicht aufgelistet werden</translation>
+    </message>
+    <message>
+        <source>No datasets</source>
+        <translation>Keine Datensätze</translation>
+    </message>
+    <message>
+        <source>The folder does not answer</source>
+        <translation>Der Ordner antwortet nicht</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryRegistry</name>
+    <message>
+        <source>Database connection is not available.</source>
+        <translation>Es besteht keine Verbindung zur Datenbank.</translation>
+    </message>
+    <message>
+        <source>The libraries could not be read: %1</source>
+        <translation>Die Bibliotheken konnten nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>A folder whose name is no text cannot be kept as a library: %1</source>
+        <translation>Ein Ordner, dessen Name kein Text ist, kann keine Bibliothek werden: %1</translation>
+    </message>
+    <message>
+        <source>The library could not be kept: %1</source>
+        <translation>Die Bibliothek konnte nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>The library could not be renamed: %1</source>
+        <translation>Die Bibliothek konnte nicht umbenannt werden: %1</translation>
+    </message>
+    <message>
+        <source>The library could not be removed: %1</source>
+        <translation>Die Bibliothek konnte nicht entfernt werden: %1</translation>
+    </message>
+    <message>
+        <source>Unable to begin database transaction: %1</source>
+        <translation>Die Datenbanktransaktion konnte nicht begonnen werden: %1</translation>
+    </message>
+    <message>
+        <source>Unable to commit database transaction: %1</source>
+        <translation>Die Datenbanktransaktion konnte nicht abgeschlossen werden: %1</translation>
+    </message>
+    <message>
+        <source>Failed to delete library record: %1</source>
+        <translation>Der Eintrag der Bibliothek konnte nicht gelöscht werden: %1</translation>
+    </message>
+    <message>
+        <source>Failed to update library record: %1</source>
+        <translation>Der Eintrag der Bibliothek konnte nicht geändert werden: %1</translation>
+    </message>
+    <message>
+        <source>Failed to insert library record: %1</source>
+        <translation>Der Eintrag der Bibliothek konnte nicht hinzugefügt werden: %1</translation>
     </message>
 </context>
 <context>
@@ -1798,6 +2080,53 @@ Datendateien werden ausschließlich gelesen.</translation>
     <message>
         <source>No browser could show %1</source>
         <translation>Kein Browser konnte %1 anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>ManageLibrariesDialog</name>
+    <message>
+        <source>Manage Libraries</source>
+        <translation>Bibliotheken verwalten</translation>
+    </message>
+    <message>
+        <source>Libraries</source>
+        <translation>Bibliotheken</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Directory</source>
+        <translation>Verzeichnis</translation>
+    </message>
+    <message>
+        <source>SAS Library</source>
+        <translation>SAS-Bibliothek</translation>
+    </message>
+    <message>
+        <source>Library Filter</source>
+        <translation>Bibliotheksfilter</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Nach &amp;unten</translation>
     </message>
 </context>
 <context>
@@ -2480,6 +2809,66 @@ Mit „Öffnen“ erhalten Sie die neueste Version:
     <message>
         <source>Workspace</source>
         <translation>Arbeitsbereich</translation>
+    </message>
+    <message>
+        <source>Filter of the workspace</source>
+        <translation>Filter des Arbeitsbereichs</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtern</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Manage Libraries</source>
+        <translation>Bibliotheken verwalten</translation>
+    </message>
+    <message>
+        <source>Variables of All Datasets</source>
+        <translation>Variablen aller Datensätze</translation>
+    </message>
+    <message>
+        <source>Refresh	F5</source>
+        <translation>Aktualisieren	F5</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Set Library Name	F2</source>
+        <translation>Namen der Bibliothek ändern	F2</translation>
+    </message>
+    <message>
+        <source>Remove	Del</source>
+        <translation>Entfernen	Del</translation>
+    </message>
+    <message>
+        <source>Open	Return</source>
+        <translation>Öffnen	Return</translation>
+    </message>
+    <message>
+        <source>Properties	Alt+Return</source>
+        <translation>Eigenschaften	Alt+Return</translation>
+    </message>
+    <message>
+        <source>Join SUPP--</source>
+        <translation>SUPP-- anfügen</translation>
+    </message>
+    <message>
+        <source>Compare With...</source>
+        <translation>Vergleichen mit ...</translation>
+    </message>
+    <message>
+        <source>Open Session</source>
+        <translation>Sitzung öffnen</translation>
+    </message>
+    <message>
+        <source>Delete Session	Del</source>
+        <translation>Sitzung löschen	Del</translation>
     </message>
 </context>
 </TS>

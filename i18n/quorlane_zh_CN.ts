@@ -1140,6 +1140,10 @@ Do you want to reload it?</source>
         <source>an object of another kind</source>
         <translation>其他类型的对象</translation>
     </message>
+    <message>
+        <source>The folder cannot be listed: %1</source>
+        <translation>无法列出该文件夹：%1</translation>
+    </message>
 </context>
 <context>
     <name>FailureNote</name>
@@ -1236,6 +1240,104 @@ Do you want to reload it?</source>
     <message>
         <source>Found, but not visible</source>
         <translation>已找到，但不可见</translation>
+    </message>
+</context>
+<context>
+    <name>FolderVariablesDialog</name>
+    <message>
+        <source>Only &amp;differences</source>
+        <translation>仅显示差异(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Reading the folder...</source>
+        <translation>正在读取文件夹...</translation>
+    </message>
+    <message>
+        <source>Variables of %1</source>
+        <translation>%1 的变量</translation>
+    </message>
+    <message>
+        <source>The folder does not answer</source>
+        <translation>该文件夹没有响应</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Search names, labels, formats, datasets</source>
+        <translation>搜索名称、标签、格式和数据集</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Reading file %1 of %2</source>
+        <translation>正在读取第 %1 个文件，共 %2 个</translation>
+    </message>
+    <message>
+        <source>... and %1 more in the log</source>
+        <translation>... 另有 %1 条见日志</translation>
+    </message>
+    <message>
+        <source>Variables: %1 of %2, datasets: %3</source>
+        <translation>变量：%1 / %2，数据集：%3</translation>
+    </message>
+</context>
+<context>
+    <name>FolderVariablesModel</name>
+    <message>
+        <source>Numeric</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>字符</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>label</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Dataset</source>
+        <translation>数据集</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Differs</source>
+        <translation>差异</translation>
     </message>
 </context>
 <context>
@@ -1423,6 +1525,186 @@ Do you want to reload it?</source>
     <message>
         <source>Command</source>
         <translation>命令</translation>
+    </message>
+</context>
+<context>
+    <name>Libraries</name>
+    <message>
+        <source>Open Folder</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Remove Library</source>
+        <translation>移除逻辑库</translation>
+    </message>
+    <message>
+        <source>Remove the library &quot;%1&quot; from the workspace?
+The files in %2 stay as they are.</source>
+        <translation>要从工作区移除逻辑库&quot;%1&quot;吗？
+%2 中的文件保持不变。</translation>
+    </message>
+    <message>
+        <source>The library filter of %1 cannot be used: %2</source>
+        <translation>无法使用 %1 的逻辑库筛选：%2</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryEditorDialog</name>
+    <message>
+        <source>&amp;Watch the folder for changes</source>
+        <translation>监视文件夹的更改(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Show its files when the program starts</source>
+        <translation>程序启动时显示其中的文件(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Choose color</source>
+        <translation>选择颜色</translation>
+    </message>
+    <message>
+        <source>No color</source>
+        <translation>无颜色</translation>
+    </message>
+    <message>
+        <source>Add Library</source>
+        <translation>添加逻辑库</translation>
+    </message>
+    <message>
+        <source>Edit Library</source>
+        <translation>编辑逻辑库</translation>
+    </message>
+    <message>
+        <source>the name that SAS programs use, such as ADAM</source>
+        <translation>SAS 程序使用的名称，例如 ADAM</translation>
+    </message>
+    <message>
+        <source>a condition, such as SAFFL = &quot;Y&quot;</source>
+        <translation>条件，例如 SAFFL = &quot;Y&quot;</translation>
+    </message>
+    <message>
+        <source>Becomes the library filter when a dataset is opened from here and none is in force</source>
+        <translation>从此处打开数据集且没有生效的逻辑库筛选时，将使用该条件</translation>
+    </message>
+    <message>
+        <source>Directory</source>
+        <translation>目录</translation>
+    </message>
+    <message>
+        <source>Display Name</source>
+        <translation>显示名称</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>SAS Library</source>
+        <translation>SAS 逻辑库</translation>
+    </message>
+    <message>
+        <source>Library Filter</source>
+        <translation>逻辑库筛选</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>浏览...</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>选择目录</translation>
+    </message>
+    <message>
+        <source>Select Color</source>
+        <translation>选择颜色</translation>
+    </message>
+    <message>
+        <source>Invalid Input</source>
+        <translation>输入无效</translation>
+    </message>
+    <message>
+        <source>Directory is required.</source>
+        <translation>必须指定目录。</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>重复</translation>
+    </message>
+    <message>
+        <source>A library for this directory already exists.</source>
+        <translation>该目录已有逻辑库。</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryItem</name>
+    <message>
+        <source>%1
+%2, changed %3</source>
+        <translation>%1
+%2，修改于 %3</translation>
+    </message>
+    <message>
+        <source>Reading the folder...</source>
+        <translation>正在读取文件夹...</translation>
+    </message>
+    <message>
+        <source>The folder cannot be listed</source>
+        <translation>无法列出该文件夹</translation>
+    </message>
+    <message>
+        <source>No datasets</source>
+        <translation>没有数据集</translation>
+    </message>
+    <message>
+        <source>The folder does not answer</source>
+        <translation>该文件夹没有响应</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryRegistry</name>
+    <message>
+        <source>Database connection is not available.</source>
+        <translation>数据库连接不可用。</translation>
+    </message>
+    <message>
+        <source>The libraries could not be read: %1</source>
+        <translation>无法读取逻辑库：%1</translation>
+    </message>
+    <message>
+        <source>A folder whose name is no text cannot be kept as a library: %1</source>
+        <translation>名称不是文本的文件夹不能作为逻辑库：%1</translation>
+    </message>
+    <message>
+        <source>The library could not be kept: %1</source>
+        <translation>无法保存逻辑库：%1</translation>
+    </message>
+    <message>
+        <source>The library could not be renamed: %1</source>
+        <translation>无法重命名逻辑库：%1</translation>
+    </message>
+    <message>
+        <source>The library could not be removed: %1</source>
+        <translation>无法移除逻辑库：%1</translation>
+    </message>
+    <message>
+        <source>Unable to begin database transaction: %1</source>
+        <translation>无法开始数据库事务：%1</translation>
+    </message>
+    <message>
+        <source>Unable to commit database transaction: %1</source>
+        <translation>无法提交数据库事务：%1</translation>
+    </message>
+    <message>
+        <source>Failed to delete library record: %1</source>
+        <translation>无法删除逻辑库记录：%1</translation>
+    </message>
+    <message>
+        <source>Failed to update library record: %1</source>
+        <translation>无法更新逻辑库记录：%1</translation>
+    </message>
+    <message>
+        <source>Failed to insert library record: %1</source>
+        <translation>无法插入逻辑库记录：%1</translation>
     </message>
 </context>
 <context>
@@ -1798,6 +2080,53 @@ Data files are only ever read.</source>
     <message>
         <source>No browser could show %1</source>
         <translation>没有浏览器可以显示 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ManageLibrariesDialog</name>
+    <message>
+        <source>Manage Libraries</source>
+        <translation>管理逻辑库</translation>
+    </message>
+    <message>
+        <source>Libraries</source>
+        <translation>逻辑库</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Directory</source>
+        <translation>目录</translation>
+    </message>
+    <message>
+        <source>SAS Library</source>
+        <translation>SAS 逻辑库</translation>
+    </message>
+    <message>
+        <source>Library Filter</source>
+        <translation>逻辑库筛选</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>上移(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>下移(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -2480,6 +2809,66 @@ Click &apos;Open&apos; to get the latest version:
     <message>
         <source>Workspace</source>
         <translation>工作区</translation>
+    </message>
+    <message>
+        <source>Filter of the workspace</source>
+        <translation>工作区筛选</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Manage Libraries</source>
+        <translation>管理逻辑库</translation>
+    </message>
+    <message>
+        <source>Variables of All Datasets</source>
+        <translation>所有数据集的变量</translation>
+    </message>
+    <message>
+        <source>Refresh	F5</source>
+        <translation>刷新	F5</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Set Library Name	F2</source>
+        <translation>设置逻辑库名称	F2</translation>
+    </message>
+    <message>
+        <source>Remove	Del</source>
+        <translation>移除	Del</translation>
+    </message>
+    <message>
+        <source>Open	Return</source>
+        <translation>打开	Return</translation>
+    </message>
+    <message>
+        <source>Properties	Alt+Return</source>
+        <translation>属性	Alt+Return</translation>
+    </message>
+    <message>
+        <source>Join SUPP--</source>
+        <translation>合并 SUPP--</translation>
+    </message>
+    <message>
+        <source>Compare With...</source>
+        <translation>比较...</translation>
+    </message>
+    <message>
+        <source>Open Session</source>
+        <translation>打开会话</translation>
+    </message>
+    <message>
+        <source>Delete Session	Del</source>
+        <translation>删除会话	Del</translation>
     </message>
 </context>
 </TS>

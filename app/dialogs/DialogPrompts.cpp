@@ -4,6 +4,8 @@
 #include "app/dialogs/DataFilterDialog.h"
 #include "workspace/OptionsDialog.h"
 
+#include <QApplication>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QMessageBox>
@@ -43,6 +45,13 @@ DialogPrompts::DialogPrompts(QWidget* parent)
     : m_parent(parent)
 { }
 
+/// A dialog that is open asks and tells in its own name, or the box could stand behind it.
+QWidget* DialogPrompts::parent() const
+{
+    QWidget* dialog = QApplication::activeModalWidget();
+    return dialog == nullptr ? m_parent : dialog;
+}
+
 bool DialogPrompts::confirm(const QString& title, const QString& question)
 {
     PlainBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No,
@@ -53,7 +62,7 @@ bool DialogPrompts::confirm(const QString& title, const QString& question)
 
 void DialogPrompts::warn(const QString& title, const QString& text, const QString& reason)
 {
-    PlainBox box(QMessageBox::Warning, title, text, m_parent);
+    PlainBox box(QMessageBox::Warning, title, text, parent());
     box.setInformativeText(reason);
     box.exec();
 }
@@ -82,6 +91,16 @@ QStringList DialogPrompts::chooseFiles(const QString& title, const QString& fold
 {
     QString selected = filter;
     return QFileDialog::getOpenFileNames(m_parent, title, folder, filters, &selected);
+}
+
+QString DialogPrompts::chooseFolder(const QString& title, const QString& folder)
+{
+    return QFileDialog::getExistingDirectory(parent(), title, folder);
+}
+
+QColor DialogPrompts::chooseColor(const QString& title, const QColor& color)
+{
+    return QColorDialog::getColor(color, parent(), title);
 }
 
 QStringList DialogPrompts::chooseDatasets(const QString& fileName, const QStringList& names)

@@ -18,6 +18,8 @@ public:
     [[nodiscard]] bool offerToOpen(const QString& title, const QString& text) override;
     [[nodiscard]] QStringList chooseFiles(const QString& title, const QString& folder,
                                           const QString& filters, const QString& filter) override;
+    [[nodiscard]] QString chooseFolder(const QString& title, const QString& folder) override;
+    [[nodiscard]] QColor chooseColor(const QString& title, const QColor& color) override;
     [[nodiscard]] QStringList chooseDatasets(const QString& fileName,
                                              const QStringList& names) override;
     [[nodiscard]] QString chooseSaveFile(const QString& title, const QString& path,
@@ -27,5 +29,6 @@ public:
     [[nodiscard]] QString editOptions(const QString& uniqueVarName) override;
 
 private:
+    [[nodiscard]] QWidget* parent() const;
     QWidget* m_parent;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QString>
 #include <QStringList>
 
@@ -39,6 +40,14 @@ public:
     [[nodiscard]] virtual QStringList chooseFiles(const QString& title, const QString& folder,
                                                   const QString& filters,
                                                   const QString& filter) = 0;
+    /// Lets the user choose an existing folder.
+    /// @param folder  the one to begin with
+    /// @return        its path; empty when the user cancels
+    [[nodiscard]] virtual QString chooseFolder(const QString& title, const QString& folder) = 0;
+    /// Lets the user choose a colour.
+    /// @param color  the one to begin with
+    /// @return       an invalid one when the user cancels
+    [[nodiscard]] virtual QColor chooseColor(const QString& title, const QColor& color) = 0;
     /// Lets the user choose among the datasets of a file.
     /// @return  some of the names; none when the user cancels
     [[nodiscard]] virtual QStringList chooseDatasets(const QString& fileName,

@@ -89,6 +89,16 @@ bool DatasetOpener::openMember(const QString& path, const QString& name)
     return openDatasetOf(originOf(path, name));
 }
 
+bool DatasetOpener::bringUp(const QString& path, const QString& member)
+{
+    const DatasetOrigin origin = originOf(path, member);
+    if (QMdiSubWindow* window = m_openFiles.find(origin.fileKey)) {
+        activate(window);
+        return true;
+    }
+    return openDatasetOf(origin);
+}
+
 bool DatasetOpener::openDatasetOf(const DatasetOrigin& origin)
 {
     if (settleReload(origin) == Reload::Declined) {

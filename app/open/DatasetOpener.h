@@ -53,6 +53,12 @@ public:
     bool open(const QString& path);
     /// Opens one dataset of a file that holds several.
     bool openMember(const QString& path, const QString& name);
+    /// Makes a dataset the active one, opening it where it is not open.
+    /// @param member  empty for a file's only dataset
+    /// @return        whether it is
+    bool bringUp(const QString& path, const QString& member);
+    /// Looks what has become of the open files in a folder, or of one file.
+    void lookAtFiles(const QString& changed);
     /// Opens files once the window can be seen, nobody is asked anything and the event in hand is
     /// done: what comes from outside must not change what a question is about.
     void openLater(const QStringList& paths);
@@ -97,7 +103,6 @@ private:
     void activate(QMdiSubWindow* window);
     [[nodiscard]] QList<DatasetWindow*> windows() const;
     void followWindows();
-    void lookAtFiles(const QString& changed);
     void lookAtActiveFile(Qt::ApplicationState state) const;
 
     Surroundings m_surroundings;

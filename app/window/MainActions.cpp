@@ -34,10 +34,7 @@ void MainActions::createOpeningActions()
     for (const auto& [kind, action] : openingActions()) {
         action->setEnabled(filekinds::entryOf(kind).isReadable());
     }
-    // What these need is not part of this version.
-    for (QAction* action : {openFolder, manageLibraries, saveSession}) {
-        action->setEnabled(false);
-    }
+    saveSession->setEnabled(false);  // what it needs is not part of this version
 }
 
 std::array<std::pair<FileKind, QAction*>, 6> MainActions::openingActions() const

@@ -6,6 +6,7 @@
 #include "app/dialogs/DialogPrompts.h"
 #include "app/docks/CellDocks.h"
 #include "app/docks/DockWindows.h"
+#include "app/docks/Libraries.h"
 #include "app/docks/ShortcutKeysWindow.h"
 #include "app/docks/SidePanels.h"
 #include "app/docks/WorkspaceTree.h"
@@ -45,6 +46,7 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QSettings>
+#include <QStandardItemModel>
 #include <QStatusBar>
 #include <QTableWidget>
 #include <QTimer>
@@ -173,10 +175,10 @@ void MainWindow::createDocks()
 void MainWindow::fillDocks()
 {
     m_sidePanels = std::make_unique<SidePanels>(*m_docks);
-    auto* workspace = new WorkspaceTree(m_docks->workspace());
-    m_docks->workspace()->setWidget(workspace);
+    m_tree = new WorkspaceTree(m_docks->workspace());
+    m_docks->workspace()->setWidget(m_tree);
     m_properties = new PropertiesWindows(*this, *m_prompts);
-    m_navigation = new Navigation(*this, *m_actions, *workspace->model());
+    m_navigation = new Navigation(*this, *m_actions, m_tree->items());
     connect(m_navigation, &Navigation::signalFileChosen, this, &MainWindow::openDatasetFile);
     m_code = new CodeWindow(*m_gridServices, *m_prompts, *m_settings, m_docks->code());
     m_docks->code()->setWidget(m_code);
@@ -211,6 +213,8 @@ void MainWindow::connectActions()
     run(m_actions->openSpssData, &MainWindow::on_actionOpenSpssData_triggered);
     run(m_actions->openStataData, &MainWindow::on_actionOpenStataData_triggered);
     run(m_actions->openCsv, &MainWindow::on_actionOpenCsv_triggered);
+    run(m_actions->openFolder, &MainWindow::cmdOpenFolder);
+    run(m_actions->manageLibraries, &MainWindow::showManageLibrariesDialog);
     run(m_actions->newSasProgram, &MainWindow::on_actionNewSasProgram_triggered);
     connect(m_actions->openSasProgram, &QAction::triggered, this, [this] {
         m_arrangement->show(*m_docks->code());
@@ -264,7 +268,30 @@ void MainWindow::openWorkspace(std::unique_ptr<WorkspaceStore> store)
     const QString name =
         m_store->loadOption(QStringLiteral("uniqueVarName"), uniqueVarName).trimmed();
     uniqueVarName = name.isEmpty() ? uniqueVarName : name;
+    fillWorkspace();
     m_arrangement->restore();
+}
+
+void MainWindow::fillWorkspace()
+{
+    m_libraries = std::make_unique<Libraries>(
+        Libraries::Surroundings{*this, *m_tree, *m_prompts, *m_settings, *m_gridServices},
+        *m_store);
+    connect(m_tree, &QTreeView::doubleClicked, this, &MainWindow::onTreeViewDoubleClicked);
+    connect(m_tree, &WorkspaceTree::signalMenuRequested, this,
+            &MainWindow::onTreeViewContextMenuRequested);
+    connect(m_tree, &WorkspaceTree::signalAddLibraryRequested, this, &MainWindow::cmdOpenFolder);
+    connect(m_tree, &WorkspaceTree::signalManageRequested, this,
+            &MainWindow::showManageLibrariesDialog);
+    connect(m_tree, &WorkspaceTree::signalRefreshRequested, this, &MainWindow::refreshFolder);
+    connect(m_tree, &WorkspaceTree::signalRemoveRequested, this, &MainWindow::removeFolder);
+    connect(m_tree, &WorkspaceTree::signalOpenRequested, m_opener, &DatasetOpener::openLater);
+    connect(m_libraries.get(), &Libraries::signalVariableRequested, this,
+            &MainWindow::showVariable);
+    connect(m_libraries.get(), &Libraries::signalFolderChanged, m_opener,
+            &DatasetOpener::lookAtFiles);
+    connect(m_opener, &DatasetOpener::signalRead, m_libraries.get(), &Libraries::applyFilterOf);
+    m_libraries->fill();
 }
 
 // Datasets
@@ -277,6 +304,15 @@ bool MainWindow::openDatasetFile(const QString& path)
 void MainWindow::openReceivedFile(const QString& path)
 {
     m_opener->openLater({path});
+}
+
+/// Brings a variable of a dataset to its user's eyes.
+void MainWindow::showVariable(const QString& path, const QString& member, const QString& name)
+{
+    if (m_opener->bringUp(path, member) && m_activeView != nullptr) {
+        m_activeView->cmdGotoVariable(m_activeView->dataset()->findVariable(name.toStdWString()));
+        activateWindow();
+    }
 }
 
 MainTableView* MainWindow::activeView() const

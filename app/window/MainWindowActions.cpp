@@ -2,6 +2,8 @@
 #include "app/code/CodeWindow.h"
 #include "app/dialogs/UserPrompts.h"
 #include "app/docks/DockWindows.h"
+#include "app/docks/Libraries.h"
+#include "app/docks/WorkspaceTree.h"
 #include "app/start/UpdateCheck.h"
 #include "app/start/WebSite.h"
 #include "app/window/DatasetsArea.h"
@@ -46,6 +48,50 @@ void MainWindow::on_actionOpenStataData_triggered()
 void MainWindow::on_actionOpenCsv_triggered()
 {
     m_opener->chooseAndOpen(FileKind::Csv);
+}
+
+void MainWindow::cmdOpenFolder()
+{
+    if (m_libraries != nullptr) {
+        m_libraries->openFolder();
+        m_arrangement->show(*m_docks->workspace());
+    }
+}
+
+void MainWindow::showManageLibrariesDialog()
+{
+    if (m_libraries != nullptr) {
+        m_libraries->showManageDialog();
+    }
+}
+
+void MainWindow::onTreeViewDoubleClicked(const QModelIndex& index)
+{
+    m_tree->activate(index);
+}
+
+void MainWindow::onTreeViewContextMenuRequested(const QPoint& position)
+{
+    m_tree->showMenu(position);
+}
+
+void MainWindow::refreshFolder(QStandardItem* folderItem)
+{
+    m_libraries->refresh(folderItem);
+}
+
+/// Takes the library out that is, or holds, the tree's current item.
+void MainWindow::removeFolder()
+{
+    if (QStandardItem* library = m_tree->libraryOf(m_tree->itemAt(m_tree->currentIndex()))) {
+        m_libraries->remove(library);
+    }
+}
+
+/// Lets the user rename the library that is the tree's current item.
+void MainWindow::setLibname()
+{
+    m_tree->editName();
 }
 
 void MainWindow::on_actionNewSasProgram_triggered()

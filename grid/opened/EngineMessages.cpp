@@ -208,6 +208,7 @@ constexpr std::array messages{
         "EngineMessages",
         "Values of rows under names that no variable has are left out (%1, first in row %2)"),
     QT_TRANSLATE_NOOP("EngineMessages", "Invalid characters are shown as � (%1, first in row %2)"),
+    QT_TRANSLATE_NOOP("EngineMessages", "The folder cannot be listed: %1"),
     // The format library, ReadStat 1.1
     QT_TRANSLATE_NOOP("EngineMessages", "Unable to read from file"),
     QT_TRANSLATE_NOOP("EngineMessages", "Unable to allocate memory"),

@@ -17,6 +17,8 @@ public:
         bool opening = false;
         std::function<void()> whileAsked{};  ///< what happens while a question is open
         QStringList chosenFiles{};
+        QString chosenFolder{};
+        QColor chosenColor{};
         QStringList chosenDatasets{};
         std::optional<QString> dataFilter{};  ///< once; then the user cancels
         QString savePath{};
@@ -59,6 +61,16 @@ public:
     {
         m_script.notes << QStringList({"files", title, folder, filters, filter}).join('|');
         return m_script.chosenFiles;
+    }
+    [[nodiscard]] QString chooseFolder(const QString& title, const QString& start) override
+    {
+        m_script.notes << QStringList({"folder", title, start}).join('|');
+        return m_script.chosenFolder;
+    }
+    [[nodiscard]] QColor chooseColor(const QString& title, const QColor& color) override
+    {
+        m_script.notes << QStringList({"color", title, color.name()}).join('|');
+        return m_script.chosenColor;
     }
     [[nodiscard]] QStringList chooseDatasets(const QString& fileName,
                                              const QStringList& names) override
