@@ -20,6 +20,9 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <array>
+#include <utility>
+
 namespace {
 
 QString toQString(const std::string& text)
@@ -27,14 +30,13 @@ QString toQString(const std::string& text)
     return QString::fromStdString(text);
 }
 
-/// A number sorts as one, everything else as text.
-QStandardItem* cellItem(const std::string& text)
+/// Numbers sort as such, texts without regard to case.
+QStandardItem* cellItem(const std::string& text, bool isNumber)
 {
     const QString shown = toQString(text);
     auto* item = new QStandardItem(shown);
-    bool isNumber = false;
-    const int number = shown.toInt(&isNumber);
-    item->setData(isNumber ? QVariant(number) : QVariant(shown.toCaseFolded()), Qt::UserRole);
+    item->setData(isNumber ? QVariant(shown.toInt()) : QVariant(shown.toCaseFolded()),
+                  Qt::UserRole);
     if (isNumber) {
         item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
@@ -44,12 +46,12 @@ QStandardItem* cellItem(const std::string& text)
 
 }  // namespace
 
-DatasetPropertiesDialog::DatasetPropertiesDialog(const StatDataset& dataset, const QString& name,
+DatasetPropertiesDialog::DatasetPropertiesDialog(const StatDataset& dataset, QString name,
                                                  const QString& path, UserPrompts& prompts,
                                                  QWidget* parent)
     : QDialog(parent)
     , m_prompts(prompts)
-    , m_name(name)
+    , m_name(std::move(name))
     , m_text(toQString(contents::asText(dataset, path)))
     , m_csv(toQString(contents::asCsv(dataset, path)))
     , m_fields(new QTreeWidget(this))
@@ -147,7 +149,8 @@ void DatasetPropertiesDialog::fillVariables(const StatDataset& dataset)
     for (const auto& row : contents::variableRows(dataset)) {
         QList<QStandardItem*> items;
         for (const std::string& cell : row) {
-            items << cellItem(cell);
+            constexpr std::array numbers{true, false, false, true, false, false, false, true};
+            items << cellItem(cell, numbers.at(static_cast<std::size_t>(items.size())));
         }
         m_model->appendRow(items);
     }

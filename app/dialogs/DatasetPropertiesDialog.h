@@ -20,7 +20,7 @@ public:
     /// @param name     what the user calls the dataset
     /// @param path     of its file
     /// @param prompts  outlives the dialog
-    DatasetPropertiesDialog(const StatDataset& dataset, const QString& name, const QString& path,
+    DatasetPropertiesDialog(const StatDataset& dataset, QString name, const QString& path,
                             UserPrompts& prompts, QWidget* parent = nullptr);
 
 private:

@@ -1,8 +1,8 @@
 #include "app/dialogs/FolderVariablesDialog.h"
 
 #include "analysis/panels/PanelTable.h"
-#include "grid/opened/EngineMessages.h"
 #include "app/dialogs/FolderVariablesModel.h"
+#include "grid/opened/EngineMessages.h"
 
 #include <spdlog/spdlog.h>
 

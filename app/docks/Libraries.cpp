@@ -1,12 +1,12 @@
 #include "app/docks/Libraries.h"
 
-#include "grid/opened/EngineMessages.h"
 #include "app/dialogs/FolderVariablesDialog.h"
 #include "app/dialogs/UserPrompts.h"
 #include "app/docks/LibraryItem.h"
 #include "app/docks/WorkspaceTree.h"
 #include "app/start/Settings.h"
 #include "app/window/GridServices.h"
+#include "grid/opened/EngineMessages.h"
 #include "workspace/LibraryEditorDialog.h"
 #include "workspace/ManageLibrariesDialog.h"
 

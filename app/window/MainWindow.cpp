@@ -285,6 +285,8 @@ void MainWindow::fillWorkspace()
             &MainWindow::showManageLibrariesDialog);
     connect(m_tree, &WorkspaceTree::signalRefreshRequested, this, &MainWindow::refreshFolder);
     connect(m_tree, &WorkspaceTree::signalRemoveRequested, this, &MainWindow::removeFolder);
+    connect(m_tree, &WorkspaceTree::signalPropertiesRequested, m_properties,
+            [this](const QString& path) { m_properties->showOfFile(path); });
     connect(m_tree, &WorkspaceTree::signalOpenRequested, m_opener, &DatasetOpener::openLater);
     connect(m_libraries.get(), &Libraries::signalVariableRequested, this,
             &MainWindow::showVariable);
