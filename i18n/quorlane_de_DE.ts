@@ -1266,7 +1266,7 @@ Möchten Sie das Dataset neu laden?</translation>
     </message>
     <message>
         <source>Search names, labels, formats, datasets</source>
-        <translation>Namen, Labels, Formate und Datensätze durchsuchen</translation>
+        <translation>Namen, Labels, Formate und Datasets durchsuchen</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1282,7 +1282,7 @@ Möchten Sie das Dataset neu laden?</translation>
     </message>
     <message>
         <source>Variables: %1 of %2, datasets: %3</source>
-        <translation>Variablen: %1 von %2, Datensätze: %3</translation>
+        <translation>Variablen: %1 von %2, Datasets: %3</translation>
     </message>
 </context>
 <context>
@@ -1313,7 +1313,7 @@ Möchten Sie das Dataset neu laden?</translation>
     </message>
     <message>
         <source>Dataset</source>
-        <translation>Datensatz</translation>
+        <translation>Dataset</translation>
     </message>
     <message>
         <source>Variable</source>
@@ -1584,7 +1584,7 @@ Die Dateien in %2 bleiben, wie sie sind.</translation>
     </message>
     <message>
         <source>Becomes the library filter when a dataset is opened from here and none is in force</source>
-        <translation>Wird zum Bibliotheksfilter, wenn von hier ein Datensatz geöffnet wird und keiner in Kraft ist</translation>
+        <translation>Wird zum Bibliotheksfilter, wenn von hier ein Dataset geöffnet wird und keiner in Kraft ist</translation>
     </message>
     <message>
         <source>Directory</source>
@@ -1653,7 +1653,7 @@ Die Dateien in %2 bleiben, wie sie sind.</translation>
     </message>
     <message>
         <source>No datasets</source>
-        <translation>Keine Datensätze</translation>
+        <translation>Keine Datasets</translation>
     </message>
     <message>
         <source>The folder does not answer</source>
@@ -2828,7 +2828,7 @@ Mit „Öffnen“ erhalten Sie die neueste Version:
     </message>
     <message>
         <source>Variables of All Datasets</source>
-        <translation>Variablen aller Datensätze</translation>
+        <translation>Variablen aller Datasets</translation>
     </message>
     <message>
         <source>Refresh	F5</source>

@@ -63,6 +63,7 @@ void ManageLibrariesDialog::createTable()
     m_table->setHorizontalHeaderLabels(
         {tr("Name"), tr("Directory"), tr("SAS Library"), tr("Library Filter")});
     m_table->horizontalHeader()->setSectionResizeMode(Directory, QHeaderView::Stretch);
+    m_table->horizontalHeader()->setHighlightSections(false);
     m_table->verticalHeader()->hide();
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -115,7 +116,7 @@ bool ManageLibrariesDialog::load()
     m_libraries = loaded.value();
     m_removed.clear();
     showList(0);
-    m_table->resizeColumnToContents(Name);
+    m_table->resizeColumnsToContents();
     return true;
 }
 
