@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 
 #include "cli/Commands.h"
+#include "cli/Compare.h"
 #include "cli/Help.h"
 #include "cli/Selection.h"
 #include "data/FilePath.h"
@@ -47,12 +48,17 @@ OutputFormat formatNamed(const std::string& name)
     return found->second;
 }
 
+void addFormat(CLI::App& command, OutputFormat& format)
+{
+    command.add_option_function<std::string>(
+        "--format", [&format](const std::string& name) { format = formatNamed(name); });
+}
+
 void addCommon(CLI::App& command, Common& common)
 {
     command.add_option("FILE", common.file)->required();
     command.add_option("--member", common.member);
-    command.add_option_function<std::string>(
-        "--format", [&common](const std::string& name) { common.format = formatNamed(name); });
+    addFormat(command, common.format);
 }
 
 Result<OpenedDataset> open(const Common& common, bool metadataOnly)
@@ -132,6 +138,7 @@ struct Requests
     FreqRequest freq;
     StatsRequest stats;
     std::string text;  ///< to find
+    CompareOptions compare;
 };
 
 CLI::App* addContents(CLI::App& app, Requests& requests)
@@ -202,11 +209,16 @@ int run(int argc, char** argv)
     CLI::App* rows = addRows(app, requests);
     CLI::App* freq = addFreq(app, requests);
     CLI::App* find = addFind(app, requests);
+    CLI::App* compare = addCompare(app, requests.compare);
+    addFormat(*compare, requests.compare.format);
     addStats(app, requests);
     try {
         app.parse(argc, argv);
         if (contents->parsed()) {
             return runContents(common);
+        }
+        if (compare->parsed()) {
+            return runCompare(requests.compare);
         }
         return runOnRows(common, requests.where, [&](const StatDataset& dataset) {
             return rows->parsed() ? printRows(dataset, requests.rows, format)
@@ -220,7 +232,8 @@ int run(int argc, char** argv)
         app.exit(error);
         return Failed;
     } catch (const std::exception& error) {
-        return fail(fmt::format("{}: {}", common.file, error.what()));
+        const std::string& file = compare->parsed() ? requests.compare.base : common.file;
+        return fail(fmt::format("{}: {}", file, error.what()));
     }
 }
 

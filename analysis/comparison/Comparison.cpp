@@ -3,6 +3,7 @@
 #include "analysis/comparison/ValueComparer.h"
 #include "analysis/comparison/ValueReader.h"
 #include "data/StoredValue.h"
+#include "data/values/AlignedText.h"
 #include "grid/filter/VariableNames.h"
 
 #include <fmt/format.h>
@@ -47,9 +48,9 @@ std::string idText(const StatDataset& dataset, const std::vector<VariablePair>& 
     std::string text;
     for (const VariablePair& pair : id) {
         const int variable = isBase ? pair.base : pair.compare;
-        text += fmt::format("{}{}={}", text.empty() ? "" : " ",
-                            dataset.names()[static_cast<std::size_t>(variable)],
-                            storedvalue::text(dataset, static_cast<int>(observation), variable));
+        text += fmt::format(
+            "{}{}={}", text.empty() ? "" : " ", dataset.names()[static_cast<std::size_t>(variable)],
+            onOneLine(storedvalue::text(dataset, static_cast<int>(observation), variable)));
     }
     return text;
 }
