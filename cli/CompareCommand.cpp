@@ -72,8 +72,7 @@ std::string differingJson(const Comparison& result, bool types)
 {
     std::vector<std::string> pairs;
     for (const VariablePair& pair : result.variables().common) {
-        if (types ? pair.hasConflictingTypes
-                  : !pair.hasConflictingTypes && pair.differing.any()) {
+        if (types ? pair.hasConflictingTypes : !pair.hasConflictingTypes && pair.differing.any()) {
             pairs.push_back(fmt::format(R"({{"base":{},"compare":{}}})",
                                         attributesJson(result.base(), pair.base),
                                         attributesJson(result.compare(), pair.compare)));
@@ -226,11 +225,10 @@ Result<FileComparison> compareFiles(const CompareOptions& options)
     if (!compare) {
         return Failure{compare.error()};
     }
-    Result<Comparison> result = Comparison::of(*base.value().dataset, *compare.value().dataset,
-                                               options.request);
+    Result<Comparison> result =
+        Comparison::of(*base.value().dataset, *compare.value().dataset, options.request);
     if (!result) {
-        return Failure{
-            fmt::format("{}, {}: {}", options.base, options.compare, result.error())};
+        return Failure{fmt::format("{}, {}: {}", options.base, options.compare, result.error())};
     }
     return FileComparison{std::move(base.value()), std::move(compare.value()),
                           std::move(result.value())};
@@ -244,18 +242,19 @@ std::string comparisonJson(const FileComparison& comparison, const CompareOption
         datasetJson(result.baseName(), options.base, result.base()),
         datasetJson(result.compareName(), options.compare, result.compare()),
         nameOf(result.rule().method()), jsonNumber(result.rule().criterion()),
-        jsonNumber(result.rule().delta()), result.sysInfo(),
-        comparison.isDifferent(options.strict), observationsJson(result), variablesJson(result),
-        valuesJson(result), jsonTexts(result.notes()));
+        jsonNumber(result.rule().delta()), result.sysInfo(), comparison.isDifferent(options.strict),
+        observationsJson(result), variablesJson(result), valuesJson(result),
+        jsonTexts(result.notes()));
 }
 
 ExitCode runCompare(const CompareOptions& options)
 {
     const bool isFolder = std::filesystem::is_directory(options.base);
     if (isFolder != std::filesystem::is_directory(options.compare)) {
-        return fail(options, fmt::format("{} is a folder and {} is none",
-                                         isFolder ? options.base : options.compare,
-                                         isFolder ? options.compare : options.base));
+        return fail(options,
+                    fmt::format("{} is a folder and {} is none",
+                                isFolder ? options.base : options.compare,
+                                isFolder ? options.compare : options.base));
     }
     if (isFolder) {
         return compareFolders(options);

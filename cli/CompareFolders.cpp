@@ -4,11 +4,12 @@
 
 #include <fmt/format.h>
 
+#include <QString>
+
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
 #include <map>
-#include <QString>
 
 namespace cli {
 
@@ -90,9 +91,10 @@ void keepIdVariablesOf(const StatDataset& dataset, std::vector<std::string>& id)
 std::vector<std::string> countsOf(const comparison::Comparison& result)
 {
     const auto& values = result.values();
-    const auto unequal = std::count_if(
-        values.begin(), values.end(),
-        [](const comparison::ComparedVariable& value) { return !value.unequal.empty(); });
+    const auto unequal =
+        std::count_if(values.begin(), values.end(), [](const comparison::ComparedVariable& value) {
+            return !value.unequal.empty();
+        });
     return {std::to_string(result.observations().base.read),
             std::to_string(result.observations().compare.read),
             std::to_string(result.observations().matched()),
@@ -120,7 +122,7 @@ void compareSources(const Source& base, const Source& compare, CompareOptions op
     }
     const FileComparison& comparison = compared.value();
     line.code = comparison.isDifferent(options.strict) ? Different : Done;
-    line.outcome = line.code == Different       ? "different"
+    line.outcome = line.code == Different  ? "different"
         : comparison.result.sysInfo() != 0 ? "equal but for attributes"
                                            : "equal";
     line.counts = countsOf(comparison.result);
@@ -160,9 +162,9 @@ void printJson(const std::vector<Line>& lines)
 {
     std::string datasets;
     for (const Line& line : lines) {
-        datasets += fmt::format(
-            "{}\n{{\"dataset\":{},\"outcome\":{},\"comparison\":{}}}", datasets.empty() ? "" : ",",
-            jsonText(line.name), jsonText(line.outcome), line.json);
+        datasets += fmt::format("{}\n{{\"dataset\":{},\"outcome\":{},\"comparison\":{}}}",
+                                datasets.empty() ? "" : ",", jsonText(line.name),
+                                jsonText(line.outcome), line.json);
     }
     print(fmt::format("{{\"equal\":{},\"different\":{},\"notCompared\":{},\"datasets\":[{}\n]}}\n",
                       countOf(lines, Done), countOf(lines, Different), countOf(lines, Failed),
@@ -183,8 +185,7 @@ void printTable(const std::vector<Line>& lines, OutputFormat format)
     table.finish();
     if (format == OutputFormat::Text) {
         print(fmt::format("\n{} datasets: {} equal, {} different, {} not compared\n", lines.size(),
-                          countOf(lines, Done), countOf(lines, Different),
-                          countOf(lines, Failed)));
+                          countOf(lines, Done), countOf(lines, Different), countOf(lines, Failed)));
     }
 }
 

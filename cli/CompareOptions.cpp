@@ -3,8 +3,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cctype>
+#include <charconv>
 #include <CLI/CLI.hpp>
 #include <map>
 
@@ -100,7 +100,8 @@ void list(ReportOptions& report, const std::string& what)
     }
     const auto found = lists.find(what);
     if (found == lists.end()) {
-        throw CLI::ValidationError("--list", what
+        throw CLI::ValidationError("--list",
+                                   what
                                        + " is none of all, var, obs, base, comp, basevar, compvar, "
                                          "baseobs, compobs and equalvar");
     }
@@ -144,12 +145,13 @@ void addReport(CLI::App& command, ReportOptions& report)
     command.add_flag("--transpose", report.transpose);
     command.add_flag("--stats", report.statistics);
     command.add_option("--fuzz", report.fuzz)->check(CLI::Range(0.0, 1.0));
-    command.add_option_function<std::vector<std::size_t>>(
-               "--maxprint",
-               [&report](const std::vector<std::size_t>& limits) {
-                   report.maxPerVariable = limits.front();
-                   report.maxTotal = limits.size() > 1 ? limits[1] : report.maxTotal;
-               })
+    command
+        .add_option_function<std::vector<std::size_t>>(
+            "--maxprint",
+            [&report](const std::vector<std::size_t>& limits) {
+                report.maxPerVariable = limits.front();
+                report.maxTotal = limits.size() > 1 ? limits[1] : report.maxTotal;
+            })
         ->expected(1, 2);
     command.add_option("--linesize", report.lineSize)
         ->check(CLI::Range(ReportOptions::smallestLine, ReportOptions::largestLine));

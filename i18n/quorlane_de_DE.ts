@@ -2260,6 +2260,123 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
 </context>
 <context>
+    <name>SessionNodes</name>
+    <message>
+        <source>Delete Session</source>
+        <translation>Sitzung löschen</translation>
+    </message>
+    <message>
+        <source>Do you want to delete the session &quot;%1&quot;?
+The files of its datasets stay.</source>
+        <translation>Soll die Sitzung „%1“ gelöscht werden?
+Die Dateien ihrer Datasets bleiben.</translation>
+    </message>
+</context>
+<context>
+    <name>SessionRegistry</name>
+    <message>
+        <source>Unable to access the session database.</source>
+        <translation>Auf die Datenbank der Sitzungen kann nicht zugegriffen werden.</translation>
+    </message>
+    <message>
+        <source>Failed to start a database transaction.</source>
+        <translation>Die Transaktion der Datenbank konnte nicht begonnen werden.</translation>
+    </message>
+    <message>
+        <source>Failed to commit the session data.</source>
+        <translation>Die Daten der Sitzung konnten nicht festgeschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Failed to persist dataset information for the session.</source>
+        <translation>Die Angaben zu einem Dataset der Sitzung konnten nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Failed to look up existing sessions.</source>
+        <translation>Die vorhandenen Sitzungen konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Failed to create a new session record.</source>
+        <translation>Die Sitzung konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Failed to update the session timestamp.</source>
+        <translation>Der Zeitpunkt der Sitzung konnte nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Failed to clear existing session datasets.</source>
+        <translation>Die bisherigen Datasets der Sitzung konnten nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Failed to read the session information.
+%1</source>
+        <translation>Die Angaben zur Sitzung konnten nicht gelesen werden.
+%1</translation>
+    </message>
+    <message>
+        <source>The selected session no longer exists.</source>
+        <translation>Die gewählte Sitzung gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Failed to load datasets for the session.
+%1</source>
+        <translation>Die Datasets der Sitzung konnten nicht gelesen werden.
+%1</translation>
+    </message>
+    <message>
+        <source>Failed to delete the session.</source>
+        <translation>Die Sitzung konnte nicht gelöscht werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Sessions</name>
+    <message>
+        <source>Save Session</source>
+        <translation>Sitzung speichern</translation>
+    </message>
+    <message>
+        <source>Session name:</source>
+        <translation>Name der Sitzung:</translation>
+    </message>
+    <message>
+        <source>Session %1</source>
+        <translation>Sitzung %1</translation>
+    </message>
+    <message>
+        <source>Session &quot;%1&quot; saved</source>
+        <translation>Sitzung „%1“ gespeichert</translation>
+    </message>
+    <message>
+        <source>Session name cannot be empty.</source>
+        <translation>Der Name der Sitzung darf nicht leer sein.</translation>
+    </message>
+    <message>
+        <source>No datasets are currently open to include in the session.</source>
+        <translation>Es ist kein Dataset geöffnet, das in die Sitzung aufgenommen werden könnte.</translation>
+    </message>
+    <message>
+        <source>Open Session</source>
+        <translation>Sitzung öffnen</translation>
+    </message>
+    <message>
+        <source>The session &quot;%1&quot; does not contain any datasets.</source>
+        <translation>Die Sitzung „%1“ enthält keine Datasets.</translation>
+    </message>
+    <message>
+        <source>Some datasets could not be restored:
+%1</source>
+        <translation>Einige Datasets konnten nicht wiederhergestellt werden:
+%1</translation>
+    </message>
+    <message>
+        <source>Session &quot;%1&quot; restored</source>
+        <translation>Sitzung „%1“ wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <translation>%1: %2 (%3)</translation>
+    </message>
+</context>
+<context>
     <name>ShortcutKeysWindow</name>
     <message>
         <source>Shortcut keys</source>

@@ -2260,6 +2260,123 @@ Data files are only ever read.</source>
     </message>
 </context>
 <context>
+    <name>SessionNodes</name>
+    <message>
+        <source>Delete Session</source>
+        <translation>删除会话</translation>
+    </message>
+    <message>
+        <source>Do you want to delete the session &quot;%1&quot;?
+The files of its datasets stay.</source>
+        <translation>要删除会话“%1”吗？
+其数据集的文件会保留。</translation>
+    </message>
+</context>
+<context>
+    <name>SessionRegistry</name>
+    <message>
+        <source>Unable to access the session database.</source>
+        <translation>无法访问会话数据库。</translation>
+    </message>
+    <message>
+        <source>Failed to start a database transaction.</source>
+        <translation>无法启动数据库事务。</translation>
+    </message>
+    <message>
+        <source>Failed to commit the session data.</source>
+        <translation>无法提交会话数据。</translation>
+    </message>
+    <message>
+        <source>Failed to persist dataset information for the session.</source>
+        <translation>无法保存会话的数据集信息。</translation>
+    </message>
+    <message>
+        <source>Failed to look up existing sessions.</source>
+        <translation>无法查找现有会话。</translation>
+    </message>
+    <message>
+        <source>Failed to create a new session record.</source>
+        <translation>无法创建新的会话记录。</translation>
+    </message>
+    <message>
+        <source>Failed to update the session timestamp.</source>
+        <translation>无法更新会话的时间戳。</translation>
+    </message>
+    <message>
+        <source>Failed to clear existing session datasets.</source>
+        <translation>无法清除会话中已有的数据集。</translation>
+    </message>
+    <message>
+        <source>Failed to read the session information.
+%1</source>
+        <translation>无法读取会话信息。
+%1</translation>
+    </message>
+    <message>
+        <source>The selected session no longer exists.</source>
+        <translation>所选会话已不存在。</translation>
+    </message>
+    <message>
+        <source>Failed to load datasets for the session.
+%1</source>
+        <translation>无法加载会话的数据集。
+%1</translation>
+    </message>
+    <message>
+        <source>Failed to delete the session.</source>
+        <translation>无法删除会话。</translation>
+    </message>
+</context>
+<context>
+    <name>Sessions</name>
+    <message>
+        <source>Save Session</source>
+        <translation>保存会话</translation>
+    </message>
+    <message>
+        <source>Session name:</source>
+        <translation>会话名称：</translation>
+    </message>
+    <message>
+        <source>Session %1</source>
+        <translation>会话 %1</translation>
+    </message>
+    <message>
+        <source>Session &quot;%1&quot; saved</source>
+        <translation>会话“%1”已保存</translation>
+    </message>
+    <message>
+        <source>Session name cannot be empty.</source>
+        <translation>会话名称不能为空。</translation>
+    </message>
+    <message>
+        <source>No datasets are currently open to include in the session.</source>
+        <translation>当前没有打开可加入会话的数据集。</translation>
+    </message>
+    <message>
+        <source>Open Session</source>
+        <translation>打开会话</translation>
+    </message>
+    <message>
+        <source>The session &quot;%1&quot; does not contain any datasets.</source>
+        <translation>会话“%1”不包含任何数据集。</translation>
+    </message>
+    <message>
+        <source>Some datasets could not be restored:
+%1</source>
+        <translation>部分数据集无法恢复：
+%1</translation>
+    </message>
+    <message>
+        <source>Session &quot;%1&quot; restored</source>
+        <translation>会话“%1”已恢复</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <translation>%1：%2（%3）</translation>
+    </message>
+</context>
+<context>
     <name>ShortcutKeysWindow</name>
     <message>
         <source>Shortcut keys</source>

@@ -8,6 +8,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QInputDialog>
 #include <QMessageBox>
 
 namespace {
@@ -128,6 +129,15 @@ UserPrompts::Unsaved DialogPrompts::askToSave(const QString& title, const QStrin
     default:
         return Unsaved::Cancel;
     }
+}
+
+std::optional<QString> DialogPrompts::askText(const QString& title, const QString& label,
+                                              const QString& text)
+{
+    bool isAccepted = false;
+    const QString answer =
+        QInputDialog::getText(m_parent, title, label, QLineEdit::Normal, text, &isAccepted);
+    return isAccepted ? std::optional(answer) : std::nullopt;
 }
 
 std::optional<QString> DialogPrompts::editDataFilter(const QString& condition)

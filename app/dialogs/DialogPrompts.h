@@ -26,6 +26,8 @@ public:
                                          const QString& filters) override;
     [[nodiscard]] Unsaved askToSave(const QString& title, const QString& question) override;
     [[nodiscard]] std::optional<QString> editDataFilter(const QString& condition) override;
+    [[nodiscard]] std::optional<QString> askText(const QString& title, const QString& label,
+                                                 const QString& text) override;
     [[nodiscard]] QString editOptions(const QString& uniqueVarName) override;
 
 private:

@@ -59,6 +59,11 @@ public:
                                                  const QString& filters) = 0;
     /// Asks about something that is not saved, Save being what Return gives, and Cancel Escape.
     [[nodiscard]] virtual Unsaved askToSave(const QString& title, const QString& question) = 0;
+    /// Lets the user write a line of text.
+    /// @param text  what is offered
+    /// @return      nothing when the user cancels
+    [[nodiscard]] virtual std::optional<QString> askText(const QString& title, const QString& label,
+                                                         const QString& text) = 0;
     /// Lets the user edit the condition of a dataset filter.
     /// @return  nothing when the user cancels
     [[nodiscard]] virtual std::optional<QString> editDataFilter(const QString& condition) = 0;

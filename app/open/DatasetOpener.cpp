@@ -285,6 +285,11 @@ void DatasetOpener::bringBack(const DatasetWindow& window, ViewState state)
     }
 }
 
+DatasetWindow* DatasetOpener::find(const QString& path, const QString& member) const
+{
+    return qobject_cast<DatasetWindow*>(m_openFiles.find(originOf(path, member).fileKey));
+}
+
 void DatasetOpener::forget(DatasetWindow* window)
 {
     m_openFiles.remove(window->fileKey(), window);

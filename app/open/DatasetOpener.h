@@ -67,6 +67,10 @@ public:
     /// Reads the active dataset anew, and keeps what its user has made of it. Where the file cannot
     /// be read the old one stays.
     void reloadActive();
+    /// The window of a dataset; null while it is not open.
+    /// @param member  empty for a file's only dataset
+    [[nodiscard]] DatasetWindow* find(const QString& path, const QString& member) const;
+    void activate(QMdiSubWindow* window);
     /// Takes a window that closes out of the map.
     void forget(DatasetWindow* window);
 
@@ -100,7 +104,6 @@ private:
     void show(std::unique_ptr<DatasetWindow> window);
     void reload(DatasetWindow& window);
     void bringBack(const DatasetWindow& window, ViewState state);
-    void activate(QMdiSubWindow* window);
     [[nodiscard]] QList<DatasetWindow*> windows() const;
     void followWindows();
     void lookAtActiveFile(Qt::ApplicationState state) const;

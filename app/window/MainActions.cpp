@@ -34,7 +34,6 @@ void MainActions::createOpeningActions()
     for (const auto& [kind, action] : openingActions()) {
         action->setEnabled(filekinds::entryOf(kind).isReadable());
     }
-    saveSession->setEnabled(false);  // what it needs is not part of this version
 }
 
 std::array<std::pair<FileKind, QAction*>, 6> MainActions::openingActions() const

@@ -14,6 +14,7 @@
 #include "app/look/GridLook.h"
 #include "app/look/Theme.h"
 #include "app/open/RecentFiles.h"
+#include "app/open/Sessions.h"
 #include "app/start/Settings.h"
 #include "app/start/UpdateCheck.h"
 #include "app/start/WebSite.h"
@@ -215,6 +216,7 @@ void MainWindow::connectActions()
     run(m_actions->openCsv, &MainWindow::on_actionOpenCsv_triggered);
     run(m_actions->openFolder, &MainWindow::cmdOpenFolder);
     run(m_actions->manageLibraries, &MainWindow::showManageLibrariesDialog);
+    run(m_actions->saveSession, &MainWindow::on_actionSaveSession_triggered);
     run(m_actions->newSasProgram, &MainWindow::on_actionNewSasProgram_triggered);
     connect(m_actions->openSasProgram, &QAction::triggered, this, [this] {
         m_arrangement->show(*m_docks->code());
@@ -269,6 +271,9 @@ void MainWindow::openWorkspace(std::unique_ptr<WorkspaceStore> store)
         m_store->loadOption(QStringLiteral("uniqueVarName"), uniqueVarName).trimmed();
     uniqueVarName = name.isEmpty() ? uniqueVarName : name;
     fillWorkspace();
+    m_sessions = std::make_unique<Sessions>(
+        Sessions::Surroundings{m_area->mdiArea(), *m_opener, *m_tree, *m_gridServices, *m_prompts},
+        *m_store);
     m_arrangement->restore();
 }
 

@@ -33,14 +33,15 @@ class QTableWidget;
 class QUrl;
 class PropertiesWindows;
 class RecentFiles;
+class Sessions;
 class Settings;
 class SidePanels;
 class StatusCounters;
 class UpdateCheck;
 class UserPrompts;
 class WindowArrangement;
-class WorkspaceTree;
 class WorkspaceStore;
+class WorkspaceTree;
 struct MainActions;
 
 /// What the main window takes from outside, so that tests can put something else in its place.
@@ -101,6 +102,7 @@ public slots:  // NOLINT(readability-redundant-access-specifiers): moc reads it
     void refreshFolder(QStandardItem* folderItem);
     void removeFolder();
     void setLibname();
+    void on_actionSaveSession_triggered();
     void onColumnHeaderLabelChanged(QAbstractButton* button);
     void onSwitchWindow();
     void handleTabSwitch();
@@ -161,6 +163,7 @@ private:
     std::unique_ptr<GridLook> m_look;
     std::unique_ptr<RecentFiles> m_recentFiles;
     std::unique_ptr<Libraries> m_libraries;
+    std::unique_ptr<Sessions> m_sessions;
     WorkspaceTree* m_tree = nullptr;
     MainToolBars* m_toolBars = nullptr;
     CommandBoxes* m_boxes = nullptr;

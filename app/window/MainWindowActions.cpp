@@ -4,6 +4,7 @@
 #include "app/docks/DockWindows.h"
 #include "app/docks/Libraries.h"
 #include "app/docks/WorkspaceTree.h"
+#include "app/open/Sessions.h"
 #include "app/start/UpdateCheck.h"
 #include "app/start/WebSite.h"
 #include "app/window/DatasetsArea.h"
@@ -92,6 +93,13 @@ void MainWindow::removeFolder()
 void MainWindow::setLibname()
 {
     m_tree->editName();
+}
+
+void MainWindow::on_actionSaveSession_triggered()
+{
+    if (m_sessions != nullptr) {
+        m_sessions->promptSaveSession();
+    }
 }
 
 void MainWindow::on_actionNewSasProgram_triggered()

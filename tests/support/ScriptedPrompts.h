@@ -22,6 +22,7 @@ public:
         QStringList chosenDatasets{};
         std::optional<QString> dataFilter{};  ///< once; then the user cancels
         QString savePath{};
+        std::optional<QString> text{};  ///< the user cancels without
         Unsaved unsaved = Unsaved::Cancel;
         QString uniqueVarName{};  ///< kept as it is when empty
         QStringList notes{};  ///< one line "kind|title|text|..." for each prompt, in order
@@ -88,6 +89,12 @@ public:
     {
         m_script.notes << QStringList({"unsaved", title, question}).join('|');
         return m_script.unsaved;
+    }
+    [[nodiscard]] std::optional<QString> askText(const QString& title, const QString& label,
+                                                 const QString& text) override
+    {
+        m_script.notes << QStringList({"text", title, label, text}).join('|');
+        return m_script.text;
     }
     [[nodiscard]] std::optional<QString> editDataFilter(const QString& condition) override
     {
