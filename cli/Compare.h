@@ -21,6 +21,8 @@ struct CompareOptions
     std::optional<std::string> where;
     comparison::Request request;
     comparison::ReportOptions report;
+    /// Of the ID variables for all datasets of a folder some have only a few.
+    bool passesOverAbsentId = false;
     bool strict = false;  ///< attributes alone make datasets different
     OutputFormat format = OutputFormat::Text;
 };

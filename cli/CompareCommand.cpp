@@ -5,9 +5,9 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
+#include <cstdio>
 #include <filesystem>
-#include <limits>
+#include <unistd.h>
 
 namespace cli {
 
@@ -18,9 +18,37 @@ using comparison::Comparison;
 using comparison::ObservationPair;
 using comparison::VariablePair;
 
+/// Sends to standard error what is printed while it lives: readers tell of a failed load on
+/// standard output, which is to be the result's alone.
+class OutputAside
+{
+public:
+    OutputAside()
+        : m_output(swapped(::dup(STDOUT_FILENO), STDERR_FILENO))
+    { }
+    OutputAside(const OutputAside&) = delete;
+    OutputAside& operator=(const OutputAside&) = delete;
+    ~OutputAside()
+    {
+        swapped(m_output, m_output);
+        ::close(m_output);
+    }
+
+private:
+    static int swapped(int kept, int target)
+    {
+        std::fflush(stdout);
+        ::dup2(target, STDOUT_FILENO);
+        return kept;
+    }
+
+    int m_output;
+};
+
 Result<OpenedDataset> open(const std::string& file, const std::string& member,
                            const std::optional<std::string>& where)
 {
+    const OutputAside aside;
     Result<OpenedDataset> opened = openDataset(filepath::fromBytes(file), {false, member});
     if (!opened) {
         return opened;
@@ -225,8 +253,14 @@ Result<FileComparison> compareFiles(const CompareOptions& options)
     if (!compare) {
         return Failure{compare.error()};
     }
+    comparison::Request request = options.request;
+    if (options.passesOverAbsentId) {
+        std::erase_if(request.id, [&](const std::string& name) {
+            return !variableNamed(*base.value().dataset, name);
+        });
+    }
     Result<Comparison> result =
-        Comparison::of(*base.value().dataset, *compare.value().dataset, options.request);
+        Comparison::of(*base.value().dataset, *compare.value().dataset, request);
     if (!result) {
         return Failure{fmt::format("{}, {}: {}", options.base, options.compare, result.error())};
     }

@@ -1,6 +1,5 @@
 #include "cli/Compare.h"
 #include "data/FilePath.h"
-#include "grid/filter/VariableNames.h"
 
 #include <fmt/format.h>
 
@@ -80,14 +79,6 @@ struct Line
     std::string json = "null";
 };
 
-/// The ID variables that the dataset has: of those for all datasets some have only a few.
-void keepIdVariablesOf(const StatDataset& dataset, std::vector<std::string>& id)
-{
-    std::erase_if(id, [&](const std::string& name) {
-        return !variablenames::find(dataset, QString::fromStdString(name));
-    });
-}
-
 std::vector<std::string> countsOf(const comparison::Comparison& result)
 {
     const auto& values = result.values();
@@ -110,10 +101,7 @@ void compareSources(const Source& base, const Source& compare, CompareOptions op
     options.baseMember = base.member;
     options.compare = compare.file;
     options.compareMember = compare.member;
-    const auto opened = openDataset(filepath::fromBytes(base.file), {true, base.member});
-    if (opened) {
-        keepIdVariablesOf(*opened.value().dataset, options.request.id);
-    }
+    options.passesOverAbsentId = true;
     Result<FileComparison> compared = compareFiles(options);
     if (!compared) {
         line.code = Failed;

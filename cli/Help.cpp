@@ -14,12 +14,13 @@ Commands:
   freq       count the values of variables
   stats      summarise a numeric variable
   find       list the cells that show a text
+  compare    compare two datasets, or those of two folders
 
 Options:
   --help     print this text, or that of a command: quorlane-cli rows --help
   --version  print the version
 
-Exit codes: 0 done, 2 not done, with the reason on standard error.
+Exit codes: 0 done, 1 datasets differ (compare), 2 not done, with the reason on standard error.
 )";
 
 constexpr std::string_view contents = R"(Usage: quorlane-cli contents FILE [OPTION...]
@@ -71,6 +72,43 @@ Options:
   --where CONDITION    only observations that meet it
 )";
 
+constexpr std::string_view compare = R"(Usage: quorlane-cli compare BASE COMPARE [OPTION...]
+
+Compares two datasets as PROC COMPARE does, or, of two folders, the datasets of one name.
+
+Which observations and variables:
+  --id VARIABLE...     match observations by these; by position without them
+  --var VARIABLE...    compare these only
+  --with VARIABLE...   the names of the --var variables in COMPARE, one for each
+  --where CONDITION    only observations that meet it, in both datasets
+  --compare-member NAME  as --member, for COMPARE
+
+What is equal:
+  --method METHOD      exact, absolute, relative, relative(DELTA) or percent
+  --criterion NUMBER   larger differences are unequal; a negative one counts machine epsilons
+  --criterion-for VARIABLE=NUMBER[:METHOD]...  a criterion of its own
+  --nomissing          missing values equal anything; --nomissbase, --nomisscomp: of one side
+
+The report:
+  --list WHAT...       all, var, obs, base, comp, basevar, compvar, baseobs, compobs, equalvar
+  --brief              sentences instead of the summaries
+  --nosummary, --novalues  leave out the summaries, the differing values
+  --transpose          differing values by observation
+  --stats              statistics of the numeric variables
+  --fuzz NUMBER        print smaller values as 0 and smaller differences not at all
+  --maxprint N [TOTAL] differing values for each variable (50) and in total (500)
+  --linesize N         80 to 256 characters (96)
+  --textwidth N        characters of a text value that are shown (20)
+
+Options:
+  --strict             attributes alone make datasets different
+  --format FORMAT      text (the default), json with every count, tsv with every difference
+  --member NAME        which dataset of a file that holds several; the first without it
+  --help               print this text
+
+Exit codes: 0 equal, 1 different, 2 not done.
+)";
+
 constexpr std::string_view ofAll = R"(  --format FORMAT      text (the default), json or tsv
   --member NAME        which dataset of a file that holds several; the first without it
   --help               print this text
@@ -80,6 +118,9 @@ constexpr std::string_view ofAll = R"(  --format FORMAT      text (the default),
 
 std::string helpOf(std::string_view command)
 {
+    if (command == "compare") {
+        return std::string(compare);
+    }
     const std::string_view own = command == "contents" ? contents
         : command == "rows"                            ? rows
         : command == "freq"                            ? freq

@@ -166,7 +166,7 @@ std::optional<Failure> Matcher::matchId()
         const std::optional<int> base = find(m_base, name);
         const std::optional<int> compare = find(m_compare, name);
         if (!base) {
-            return absent("ID variable " + name, m_request.baseName);
+            return absent(name, m_request.baseName);
         }
         if (!compare) {
             note(fmt::format("The ID variable {} is not in the data set {}; observations are "
