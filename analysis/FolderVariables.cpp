@@ -100,7 +100,8 @@ void markDifferences(Contents& contents)
     for (Variable& variable : contents.variables) {
         byName[keyOf(variable.name)].push_back(&variable);
     }
-    for (const auto& [name, alike] : byName) {
+    for (const auto& entry : byName) {
+        const std::vector<Variable*>& alike = entry.second;
         for (std::size_t a = 0; a < attributeCount; ++a) {
             const bool differs = std::any_of(alike.begin(), alike.end(), [&](const Variable* one) {
                 return one->attributes[a] != alike.front()->attributes[a];

@@ -37,7 +37,6 @@ FolderVariablesDialog::FolderVariablesDialog(const QString& name, const QString&
     : QDialog(parent)
     , m_model(new FolderVariablesModel(this))
     , m_filter(new FolderVariablesFilter(this))
-    , m_table(nullptr)
     , m_search(new QLineEdit(this))
     , m_onlyDifferent(new QCheckBox(tr("Only &differences"), this))
     , m_count(new QLabel(tr("Reading the folder..."), this))

@@ -41,7 +41,7 @@ private:
 
     FolderVariablesModel* m_model;
     FolderVariablesFilter* m_filter;
-    PanelTable* m_table;
+    PanelTable* m_table = nullptr;
     QLineEdit* m_search;
     QCheckBox* m_onlyDifferent;
     QLabel* m_count;

@@ -56,7 +56,7 @@ QVariant FolderVariablesModel::data(const QModelIndex& index, int role) const
     const int column = index.column();
     const auto attribute = attributeOf(column);
     switch (role) {
-    case SortRole:
+    case sortRole:
         return column == Length ? QVariant(text(row, column).toInt()) : text(row, column);
     case Qt::DisplayRole:
         return text(row, column);
@@ -131,7 +131,7 @@ FolderVariablesFilter::FolderVariablesFilter(QObject* parent)
     setFilterKeyColumn(-1);
     setFilterCaseSensitivity(Qt::CaseInsensitive);
     setSortCaseSensitivity(Qt::CaseInsensitive);
-    setSortRole(FolderVariablesModel::SortRole);
+    setSortRole(FolderVariablesModel::sortRole);
 }
 
 void FolderVariablesFilter::setText(const QString& text)

@@ -22,7 +22,7 @@ public:
         Differs,  ///< in words: "length, label"
         Columns
     };
-    static constexpr int SortRole = Qt::UserRole;
+    static constexpr int sortRole = Qt::UserRole;
 
     using QAbstractTableModel::QAbstractTableModel;
 

@@ -107,7 +107,7 @@ QStandardItem* WorkspaceTree::library(qint64 id) const
     return nullptr;
 }
 
-QStandardItem* WorkspaceTree::libraryOf(QStandardItem* item) const
+QStandardItem* WorkspaceTree::libraryOf(QStandardItem* item)
 {
     while (item != nullptr && item->data(KindRole).toInt() != LibraryFolder) {
         item = item->parent();

@@ -33,7 +33,7 @@ public:
     /// The item of a library; null for none.
     [[nodiscard]] QStandardItem* library(qint64 id) const;
     /// The library that an item is, or stands in; null for none.
-    [[nodiscard]] QStandardItem* libraryOf(QStandardItem* item) const;
+    [[nodiscard]] static QStandardItem* libraryOf(QStandardItem* item);
     /// The paths of the datasets that are selected, from top to bottom.
     [[nodiscard]] QStringList selectedPaths() const;
 

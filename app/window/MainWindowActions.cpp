@@ -84,7 +84,7 @@ void MainWindow::refreshFolder(QStandardItem* folderItem)
 /// Takes the library out that is, or holds, the tree's current item.
 void MainWindow::removeFolder()
 {
-    if (QStandardItem* library = m_tree->libraryOf(m_tree->itemAt(m_tree->currentIndex()))) {
+    if (QStandardItem* library = WorkspaceTree::libraryOf(m_tree->itemAt(m_tree->currentIndex()))) {
         m_libraries->remove(library);
     }
 }

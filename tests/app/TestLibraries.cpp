@@ -319,6 +319,7 @@ void TestLibraries::librarysFilterIsForWhatIsOpenedFromIt()
     trigger("actionCloseAll");
     QVERIFY(open("men/dm.csv"));
     QCOMPARE(status().at(3), "LF: where AGE > 30");
+    QVERIFY(!window->statusBar()->currentMessage().contains("cannot be used"));
 }
 
 void TestLibraries::typingNarrowsTheTree()
