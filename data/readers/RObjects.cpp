@@ -122,8 +122,7 @@ void RObjects::nameChildren(std::size_t first, const std::string& name,
         const auto at = static_cast<std::size_t>(m_frames[i].place.child);
         const bool isNamed = at < attributes.names.size() && !attributes.names[at].empty();
         std::string own = isNamed ? attributes.names[at] : fmt::format("[[{}]]", at + 1);
-        const char* const between = isNamed && !name.empty() ? "$" : "";
-        m_frames[i].name = name + between + own;
+        m_frames[i].name = fmt::format("{}{}{}", name, isNamed && !name.empty() ? "$" : "", own);
     }
 }
 

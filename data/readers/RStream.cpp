@@ -74,7 +74,8 @@ double realOf(std::string_view word)
         throw FileDamage(damaged);
     }
     // R writes 15 digits: those of the largest numbers are rounded beyond what a double holds.
-    const bool isHuge = word.find("e-") == word.npos && word.find("p-") == word.npos;
+    const bool isHuge =
+        word.find("e-") == std::string_view::npos && word.find("p-") == std::string_view::npos;
     if (code == std::errc::result_out_of_range && isHuge) {
         number = std::numeric_limits<double>::infinity();
     }

@@ -142,6 +142,7 @@ private:
     [[nodiscard]] std::string_view inUtf8(std::string_view raw, std::uint32_t flags);
     [[nodiscard]] std::string_view escaped(std::string_view raw);
     void skip(WaitingList& waiting);
+    [[nodiscard]] bool skipValues(RType type);
     void skipOne(const RItem& item, WaitingList& waiting);
     void skipCode(WaitingList& waiting);
     void skipCall(std::int32_t type, WaitingList& waiting);

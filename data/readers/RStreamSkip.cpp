@@ -56,6 +56,35 @@ void RStream::skip(WaitingList& waiting)
     }
 }
 
+/// Passes over what holds its values itself; false for an item of another kind.
+bool RStream::skipValues(RType type)
+{
+    switch (type) {
+    case RType::Special:
+    case RType::Builtin:
+        (void)view(static_cast<std::size_t>(length(1)));
+        return true;
+    case RType::Logical:
+    case RType::Integer:
+        skipNumbers(length(4), 4);
+        return true;
+    case RType::Real:
+        skipNumbers(length(8), 8);
+        return true;
+    case RType::Complex:
+        skipNumbers(length(16) * 2, 8);
+        return true;
+    case RType::Raw:
+        skipNumbers(length(1), 1);
+        return true;
+    case RType::Text:
+        skipTexts(length(4));
+        return true;
+    default:
+        return false;
+    }
+}
+
 void RStream::skipOne(const RItem& item, WaitingList& waiting)
 {
     // Some read on before the items that belong to them, in the order of the file.
@@ -93,29 +122,9 @@ void RStream::skipOne(const RItem& item, WaitingList& waiting)
     case RType::Dots:
         more += item.hasTag ? 3 : 2;
         break;
-    case RType::Special:
-    case RType::Builtin:
-        (void)view(static_cast<std::size_t>(length(1)));
-        break;
     case RType::Char:
         skipText(item);
         return;
-    case RType::Logical:
-    case RType::Integer:
-        skipNumbers(length(4), 4);
-        break;
-    case RType::Real:
-        skipNumbers(length(8), 8);
-        break;
-    case RType::Complex:
-        skipNumbers(length(16) * 2, 8);
-        break;
-    case RType::Raw:
-        skipNumbers(length(1), 1);
-        break;
-    case RType::Text:
-        skipTexts(length(4));
-        break;
     case RType::List:
     case RType::Expression:
         more += length(4);
@@ -144,7 +153,9 @@ void RStream::skipOne(const RItem& item, WaitingList& waiting)
     case RType::Null:
         return;
     default:
-        throw FileDamage(damaged);
+        if (!skipValues(item.type)) {
+            throw FileDamage(damaged);
+        }
     }
     if (waiting.back().count > std::numeric_limits<std::int64_t>::max() - more) {
         throw FileDamage(damaged);
