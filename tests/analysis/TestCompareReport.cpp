@@ -1,6 +1,7 @@
 #include "analysis/comparison/ComparedTexts.h"
 #include "analysis/comparison/CompareReport.h"
 #include "analysis/comparison/PairStatistics.h"
+#include "analysis/comparison/ReportTable.h"
 #include "tests/support/ScriptedDataset.h"
 
 #include <gtest/gtest.h>
@@ -140,6 +141,26 @@ TEST_F(CompareReport, summarisesAndListsValues)
                      "3  ||          4          8     4.0000   100.0000",
                      "4  ||          0          8     8.0000          .",
                      "________________________________________________________"}));
+}
+
+TEST_F(CompareReport, theLastObservationsOfOneSideComeAfterTheLastMatch)
+{
+    m_compare.datasetFilterMask().reset(3);
+    const Lines lines = part(text(), "Observation Summary", "Values Comparison Summary");
+    ASSERT_GT(lines.size(), 6U);
+    EXPECT_EQ(Lines(lines.begin() + 3, lines.begin() + 7),
+              (Lines{"Last  Unequal         3         3", "Last  Match           3         3",
+                     "Last  Obs             4         .", "Number of Observations in Common: 3."}));
+}
+
+TEST(ReportTable, textsGiveWayAndNumbersDoNot)
+{
+    comparison::ReportTable table({{"Name", false, true, 4}, {"N", true}});
+    table.add({"one two three", "1234567890123"});
+    EXPECT_EQ(
+        table.lines(22),
+        (Lines{"Name                 N", "", "one two  1234567890123", "three                 "}));
+    EXPECT_EQ(comparison::wrapped("abcdefgh i", 3), (Lines{"abc", "def", "gh", "i"}));
 }
 
 TEST_F(CompareReport, listsWhatIsAskedFor)

@@ -59,6 +59,9 @@ TEST(Comparison, aMethodMeasuresAndADifferenceOfTheCriterionIsEqual)
     EXPECT_EQ(unequal(x, y, {.method = Method::Percent, .criterion = 25}), (Places{4, 6}));
     // 0.25/1.125, 0.1/1.05, 0.1/0.55, 0.1/0.05, 1/4.5, inf, 0.2/1.1
     EXPECT_EQ(unequal(x, y, {.method = Method::Relative, .criterion = 0.2}), (Places{0, 4, 5, 6}));
+    EXPECT_EQ(unequal(x, y, {.method = Method::Relative, .criterion = 0.1}),
+              (Places{0, 2, 4, 5, 6, 7}))
+        << "1e308 + 1.2e308 is beyond a double, their mean is not";
     // 0.25/1.625, 0.1/1.55, 0.1/1.05, 0.1/0.55, 1/5, inf, 0.2/1.1
     EXPECT_EQ(unequal(x, y, {.method = Method::Relative, .criterion = 0.19, .delta = 0.5}),
               (Places{5, 6}));
@@ -257,6 +260,49 @@ TEST(Comparison, filtersAndHiddenVariablesAreLeftOut)
     base->visibleVariables().set(1);
     compare->visibleVariables().reset(1);
     EXPECT_EQ(compared(*base, *compare).sysInfo(), unsigned{comparison::BaseVariable});
+}
+
+TEST(Comparison, eachDifferenceHasItsBit)
+{
+    class Attributes : public ScriptedDataset
+    {
+    public:
+        Attributes()
+        {
+            variable("X", TypeCode::Double).variable("Y", TypeCode::Double);
+            row({1.0, 1.0});
+        }
+        using StatDataset::m_formats;
+        using StatDataset::m_header;
+        using StatDataset::m_informats;
+        using StatDataset::m_labels;
+        using StatDataset::m_lengths;
+        using StatDataset::m_typeCodes;
+    };
+    const auto bits = [](auto change, const Request& request = {}) {
+        Attributes base;
+        Attributes compare;
+        base.m_header.memberType = "DATA";
+        change(compare);
+        return compared(base, compare, request).sysInfo();
+    };
+    EXPECT_EQ(bits([](Attributes&) {}), 0U) << "a format without member types";
+    EXPECT_EQ(bits([](Attributes& d) { d.m_header.fileLabel = "x"; }), 1U);
+    EXPECT_EQ(bits([](Attributes& d) { d.m_header.memberType = "DATA CORR"; }), 2U);
+    EXPECT_EQ(bits([](Attributes& d) { d.m_informats[0] = "DATE9."; }), 4U);
+    EXPECT_EQ(bits([](Attributes& d) { d.m_formats[0] = "DATE"; }), 8U);
+    EXPECT_EQ(bits([](Attributes& d) { d.m_lengths[0] = 4; }), 16U);
+    EXPECT_EQ(bits([](Attributes& d) { d.m_labels[0] = "x"; }), 32U);
+    const auto conflict = [](Attributes& d) {
+        d.m_typeCodes[0] = TypeCode::Character;
+        d.m_labels[0] = "x";
+    };
+    EXPECT_EQ(bits(conflict), 8192U) << "no other attribute of it counts";
+    // The labels of the names agree, those of the pair do not.
+    Attributes both;
+    both.m_labels[0] = "x";
+    EXPECT_EQ(compared(both, both, {.var = {"X"}, .with = {"Y"}}).sysInfo(), 32U);
+    EXPECT_EQ(compared(both, both, {.id = {"Y"}}).values().size(), 1U) << "IDs are not compared";
 }
 
 /// What the procedure prints of its manual's students: 4 against 5 observations, by position.
