@@ -1,5 +1,7 @@
 #include "data/readers/RStream.h"
 
+#include <algorithm>
+#include <array>
 #include <limits>
 
 // Passing over items needs only to know how many more items belong to each, not which: a count
@@ -9,6 +11,19 @@ namespace {
 
 constexpr const char* damaged = "The objects in it are damaged";
 constexpr std::size_t deepest = 1 << 20;  ///< levels of compiled code
+
+/// Whether nothing belongs to an item but its type.
+bool isBare(RType type)
+{
+    constexpr std::array bare{RType::BaseEnvironment,
+                              RType::EmptyEnvironment,
+                              RType::BaseNamespace,
+                              RType::MissingArgument,
+                              RType::UnboundValue,
+                              RType::GlobalEnvironment,
+                              RType::Null};
+    return std::find(bare.begin(), bare.end(), type) != bare.end();
+}
 
 }  // namespace
 
@@ -87,6 +102,9 @@ bool RStream::skipValues(RType type)
 
 void RStream::skipOne(const RItem& item, WaitingList& waiting)
 {
+    if (isBare(item.type)) {
+        return;
+    }
     // Some read on before the items that belong to them, in the order of the file.
     std::int64_t more = item.hasAttributes ? 1 : 0;
     switch (item.type) {
@@ -143,14 +161,6 @@ void RStream::skipOne(const RItem& item, WaitingList& waiting)
         if (item.flags >> 8 == 0) {
             (void)integer();
         }
-        return;
-    case RType::BaseEnvironment:
-    case RType::EmptyEnvironment:
-    case RType::BaseNamespace:
-    case RType::MissingArgument:
-    case RType::UnboundValue:
-    case RType::GlobalEnvironment:
-    case RType::Null:
         return;
     default:
         if (!skipValues(item.type)) {
