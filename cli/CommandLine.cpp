@@ -109,6 +109,26 @@ int runContents(const Common& common)
     return Done;
 }
 
+void tellOfOthers(const Common& common, const OpenedDataset& opened)
+{
+    if (common.member.empty() && opened.members.size() > 1) {
+        fmt::print(stderr, "quorlane-cli: {}: {} of the datasets {}; --member picks another\n",
+                   common.file, opened.dataset->datasetName(), fmt::join(opened.members, ", "));
+    }
+}
+
+int runCode(const Common& common, const CodeRequest& request)
+{
+    const Result<OpenedDataset> opened = open(common, true);
+    if (!opened) {
+        return fail(opened.error());
+    }
+    tellOfOthers(common, opened.value());
+    const Result<bool> done = printCode(*opened.value().dataset, filepath::fromBytes(common.file),
+                                        request, common.format);
+    return done ? Done : fail(fmt::format("{}: {}", common.file, done.error()));
+}
+
 /// Opens the file, narrows it to the condition, and lets the command print it.
 int runOnRows(const Common& common, const std::optional<std::string>& where,
               const std::function<Result<bool>(const StatDataset&)>& print)
@@ -118,10 +138,7 @@ int runOnRows(const Common& common, const std::optional<std::string>& where,
         return fail(opened.error());
     }
     StatDataset& dataset = *opened.value().dataset;
-    if (common.member.empty() && opened.value().members.size() > 1) {
-        fmt::print(stderr, "quorlane-cli: {}: {} of the datasets {}; --member picks another\n",
-                   common.file, dataset.datasetName(), fmt::join(opened.value().members, ", "));
-    }
+    tellOfOthers(common, opened.value());
     Result<bool> done = selectWhere(dataset, where);
     if (done) {
         done = print(dataset);
@@ -139,6 +156,7 @@ struct Requests
     StatsRequest stats;
     std::string text;  ///< to find
     CompareOptions compare;
+    CodeRequest code;
 };
 
 CLI::App* addContents(CLI::App& app, Requests& requests)
@@ -192,6 +210,18 @@ CLI::App* addFind(CLI::App& app, Requests& requests)
     return command;
 }
 
+CLI::App* addCode(CLI::App& app, Requests& requests)
+{
+    CLI::App* command = app.add_subcommand("code");
+    addCommon(*command, requests.common);
+    CodeRequest& request = requests.code;
+    addWhere(*command, request.where);
+    command->add_option("--if", request.narrowing);
+    command->add_option("--by", request.by);
+    command->add_option("--keep", request.keep);
+    return command;
+}
+
 }  // namespace
 
 int run(int argc, char** argv)
@@ -211,6 +241,7 @@ int run(int argc, char** argv)
     CLI::App* find = addFind(app, requests);
     CLI::App* compare = addCompare(app, requests.compare);
     addFormat(*compare, requests.compare.format);
+    CLI::App* code = addCode(app, requests);
     addStats(app, requests);
     try {
         app.parse(argc, argv);
@@ -219,6 +250,9 @@ int run(int argc, char** argv)
         }
         if (compare->parsed()) {
             return runCompare(requests.compare);
+        }
+        if (code->parsed()) {
+            return runCode(common, requests.code);
         }
         return runOnRows(common, requests.where, [&](const StatDataset& dataset) {
             return rows->parsed() ? printRows(dataset, requests.rows, format)

@@ -5,7 +5,10 @@
 #include "data/Result.h"
 #include "data/StatDataset.h"
 
+#include <QString>
+
 #include <limits>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -56,6 +59,20 @@ struct StatsRequest
 /// each group of them. A failure names the variable, and nothing has been printed then.
 [[nodiscard]] Result<bool> printStatistics(const StatDataset& dataset, const StatsRequest& request,
                                            OutputFormat format);
+
+struct CodeRequest
+{
+    std::optional<std::string> where;  ///< the condition of the library filter
+    std::optional<std::string> narrowing;  ///< the condition of the dataset filter
+    std::vector<std::string> by;  ///< variable names
+    std::vector<std::string> keep;  ///< empty for all
+};
+
+/// Prints the SAS program of a view of the dataset. A failure names the option or the variable, and
+/// nothing has been printed then.
+/// @param file  where the dataset comes from
+[[nodiscard]] Result<bool> printCode(const StatDataset& dataset, const QString& file,
+                                     const CodeRequest& request, OutputFormat format);
 
 /// Prints every cell that shows the text, in any letter case: observation, variable and the text of
 /// the cell, in the order of the observations that the filters select.

@@ -15,6 +15,7 @@ Commands:
   stats      summarise a numeric variable
   find       list the cells that show a text
   compare    compare two datasets, or those of two folders
+  code       write the SAS program of a view
 
 Options:
   --help     print this text, or that of a command: quorlane-cli rows --help
@@ -109,6 +110,17 @@ Options:
 Exit codes: 0 equal, 1 different, 2 not done.
 )";
 
+constexpr std::string_view code = R"(Usage: quorlane-cli code FILE [OPTION...]
+
+Writes the SAS program that makes a view of the dataset, as the Program window shows it.
+
+Options:
+  --where CONDITION    the library filter
+  --if CONDITION       the dataset filter
+  --by VARIABLE...     the BY variables
+  --keep VARIABLE...   the variables shown
+)";
+
 constexpr std::string_view ofAll = R"(  --format FORMAT      text (the default), json or tsv
   --member NAME        which dataset of a file that holds several; the first without it
   --help               print this text
@@ -126,6 +138,7 @@ std::string helpOf(std::string_view command)
         : command == "freq"                            ? freq
         : command == "stats"                           ? stats
         : command == "find"                            ? find
+        : command == "code"                            ? code
                                                        : std::string_view();
     if (own.empty()) {
         return std::string(program);

@@ -2180,6 +2180,10 @@ Datendateien werden ausschließlich gelesen.</translation>
         <source>A quote or comment is not closed.</source>
         <translation>Ein Anführungszeichen oder Kommentar ist nicht geschlossen.</translation>
     </message>
+    <message>
+        <source>%1 is the SAS name of several variables: %2</source>
+        <translation>%1 ist der SAS-Name mehrerer Variablen: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgramWindow</name>

@@ -2180,6 +2180,10 @@ Data files are only ever read.</source>
         <source>A quote or comment is not closed.</source>
         <translation>引号或注释未结束。</translation>
     </message>
+    <message>
+        <source>%1 is the SAS name of several variables: %2</source>
+        <translation>%1 是多个变量的 SAS 名称：%2</translation>
+    </message>
 </context>
 <context>
     <name>ProgramWindow</name>

@@ -102,7 +102,7 @@ void CodeWindow::submit()
     ProgramEditor& editor = editorAt(currentIndex());
     const programrunner::Report report = [&] {
         const WaitCursor waitCursor;
-        return programrunner::run(editor.toPlainText(), *m_grid->opened());
+        return programrunner::run(editor.program(), *m_grid->opened());
     }();
     editor.setMarks(report.marks);
     const auto wrong = std::find_if(report.marks.begin(), report.marks.end(),
@@ -198,7 +198,7 @@ bool CodeWindow::saveTo(ProgramEditor& editor, const QString& path)
 {
     QSaveFile file(path);
     const bool isSaved = file.open(QIODevice::WriteOnly)
-        && file.write(editor.toPlainText().toUtf8()) >= 0 && file.commit();
+        && file.write(editor.program().toUtf8()) >= 0 && file.commit();
     if (!isSaved) {
         m_prompts.warn(tr("Save SAS Program"), tr("Failed to save the file: %1").arg(path),
                        file.errorString());

@@ -14,6 +14,8 @@ class ProgramEditor : public QPlainTextEdit
 public:
     explicit ProgramEditor(QWidget* parent = nullptr);
 
+    /// The program, also where it is not laid out yet.
+    [[nodiscard]] virtual QString program() const { return toPlainText(); }
     /// Underlines statements, with the reason as a tool tip, and goes to the first that is wrong. A
     /// mark goes as soon as its statement is changed.
     void setMarks(const std::vector<programrunner::Mark>& marks);

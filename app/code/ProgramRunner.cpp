@@ -1,12 +1,15 @@
 #include "app/code/ProgramRunner.h"
 
 #include "grid/filter/CommandParser.h"
+#include "grid/filter/VariableNames.h"
 #include "grid/opened/LibraryFilter.h"
 #include "grid/opened/OpenDataset.h"
+#include "workspace/program/ProgramText.h"
 
 #include <spdlog/spdlog.h>
 
 #include <QCoreApplication>
+#include <QMultiHash>
 
 #include <algorithm>
 #include <functional>
@@ -18,13 +21,62 @@ namespace {
 
 using InForce = CommandReading::InForce;
 
+/// The variables by the names that generated programs give them.
+class SasNames
+{
+public:
+    explicit SasNames(const OpenDataset& opened)
+        : m_opened(opened)
+    { }
+
+    /// Puts the names that the dataset has in the place of SAS names. A name of the dataset stays,
+    /// and one of nothing too.
+    [[nodiscard]] CommandOutcome resolve(std::vector<WrittenName>& names);
+
+private:
+    [[nodiscard]] const QMultiHash<QString, int>& all();
+
+    const OpenDataset& m_opened;
+    QMultiHash<QString, int> m_all;
+};
+
+const QMultiHash<QString, int>& SasNames::all()
+{
+    if (m_all.isEmpty()) {
+        for (int variable = 0; variable < m_opened.dataset().variableCount(); ++variable) {
+            m_all.insert(programtext::makeSasName(m_opened.nameOf(variable)), variable);
+        }
+    }
+    return m_all;
+}
+
+CommandOutcome SasNames::resolve(std::vector<WrittenName>& names)
+{
+    for (WrittenName& name : names) {
+        if (variablenames::find(m_opened.dataset(), name.name)) {
+            continue;
+        }
+        QStringList meant;
+        for (const int variable : all().values(name.name.toLower())) {
+            meant.prepend(m_opened.nameOf(variable));
+        }
+        if (meant.size() > 1) {
+            const QString message = QCoreApplication::translate(
+                "ProgramRunner", "%1 is the SAS name of several variables: %2");
+            return CommandFailure{message.arg(name.name, meant.join(u", "_s)), name.name};
+        }
+        name.name = meant.isEmpty() ? name.name : meant.front();
+    }
+    return std::nullopt;
+}
+
 /// A program as it is read and tried before any of it is run.
 class Plan
 {
 public:
     explicit Plan(OpenDataset& opened)
         : m_opened(opened)
-        , m_where(opened.libraryFilterText())
+        , m_sasNames(opened)
     { }
 
     void add(const ProgramStatement& statement);
@@ -34,12 +86,13 @@ private:
     void mark(const ProgramStatement& statement, const QString& message, bool isWrong);
     [[nodiscard]] CommandOutcome plan(const ProgramStatement& statement);
     [[nodiscard]] CommandOutcome planBy(const ProgramStatement& statement);
-    [[nodiscard]] CommandOutcome planWhere(const ParsedCondition& condition);
-    void planIf(ParsedCondition condition);
+    [[nodiscard]] CommandOutcome planChoice(QStringView word, std::vector<WrittenName> names);
+    [[nodiscard]] CommandOutcome planWhere(const Command& command);
     [[nodiscard]] QString conditionOfAll() const;
 
     OpenDataset& m_opened;
-    QString m_where;  ///< that is in force or will be
+    SasNames m_sasNames;
+    QString m_where;  ///< of the program
     std::vector<ParsedCondition> m_ifs;
     std::vector<std::function<CommandOutcome()>> m_steps;
     std::vector<Mark> m_marks;
@@ -87,17 +140,15 @@ CommandOutcome Plan::plan(const ProgramStatement& statement)
     CommandOutcome outcome;
     const CommandOutcome unread = failureOf(statement.text, [&] {
         Command command = CommandParser::parse(statement.text, Dialect::FilterText);
-        outcome = m_opened.check(command, statement.text);
-        if (outcome) {
-            return;
-        }
-        if (const auto* where = std::get_if<Command::SetLibraryFilter>(&command.action)) {
-            outcome = planWhere(where->condition);
+        if (std::holds_alternative<Command::SetLibraryFilter>(command.action)) {
+            outcome = planWhere(command);
         } else if (auto* narrowing = std::get_if<Command::AddDatasetFilter>(&command.action)) {
+            outcome = m_opened.check(command, statement.text);
             m_ifs.push_back(std::move(narrowing->condition));
-        } else {
-            m_steps.emplace_back(
-                [this, text = statement.text] { return m_opened.run(text, Dialect::FilterText); });
+        } else if (auto* kept = std::get_if<Command::KeepVariables>(&command.action)) {
+            outcome = planChoice(u"keep", std::move(kept->names));
+        } else if (auto* dropped = std::get_if<Command::DropVariables>(&command.action)) {
+            outcome = planChoice(u"drop", std::move(dropped->names));
         }
     });
     return unread ? unread : outcome;
@@ -109,16 +160,34 @@ CommandOutcome Plan::planBy(const ProgramStatement& statement)
     for (const QString& name : statement.names) {
         names.push_back({name});
     }
-    CommandOutcome outcome =
-        m_opened.check({Command::KeepVariables{names}, std::nullopt}, statement.text);
+    CommandOutcome outcome = m_sasNames.resolve(names);
+    if (!outcome) {
+        outcome = m_opened.check({Command::KeepVariables{names}, std::nullopt}, statement.text);
+    }
     m_steps.emplace_back([this, names] { return m_opened.setByVariables(names); });
     return outcome;
 }
 
-/// There is one library filter only.
-CommandOutcome Plan::planWhere(const ParsedCondition& condition)
+/// @param word  "keep" or "drop"
+CommandOutcome Plan::planChoice(QStringView word, std::vector<WrittenName> names)
 {
-    const QString text = u"where "_s + condition.text;
+    if (CommandOutcome outcome = m_sasNames.resolve(names)) {
+        return outcome;
+    }
+    QString text = word.toString();
+    for (const WrittenName& name : names) {
+        text += u' ' + variablenames::written(name.name);
+    }
+    m_steps.emplace_back([this, text] { return m_opened.run(text, Dialect::FilterText); });
+    return m_opened.check({Command::KeepVariables{std::move(names)}, std::nullopt}, text);
+}
+
+/// The program's one library filter takes the place of the one in force. That one passes also where
+/// it cannot filter this dataset.
+CommandOutcome Plan::planWhere(const Command& command)
+{
+    const QString text =
+        u"where "_s + std::get<Command::SetLibraryFilter>(command.action).condition.text;
     if (text == m_where) {
         return std::nullopt;
     }
@@ -126,8 +195,13 @@ CommandOutcome Plan::planWhere(const ParsedCondition& condition)
         return CommandFailure{QString::fromUtf8(LibraryFilter::oneLevelOnly), text};
     }
     m_where = text;
-    m_steps.emplace_back([this, text] { return m_opened.run(text, Dialect::FilterText); });
-    return std::nullopt;
+    if (text == m_opened.libraryFilterText()) {
+        return std::nullopt;
+    }
+    m_steps.emplace_back([this, text] {
+        return m_opened.run(text, CommandReading{Dialect::FilterText, InForce::IsReplaced});
+    });
+    return m_opened.check(command, text);
 }
 
 /// "if a = 1 and (b = 2 or c = 3)"

@@ -26,7 +26,8 @@ struct Report
 };
 
 /// Runs the statements, as often as is wanted with the same effect: a `where` that is in force
-/// passes, and all `if` statements together stand in the place of the dataset filter. What the
+/// passes, another one replaces it, and all `if` statements together stand in the place of the
+/// dataset filter. Variables may have the SAS names that generated programs give them. What the
 /// dataset does not know is passed over. With a statement that is wrong nothing is run.
 [[nodiscard]] Report run(const QString& program, OpenDataset& opened);
 

@@ -25,6 +25,11 @@ void ProgramWindow::showProgram(const QString& program)
     }
 }
 
+QString ProgramWindow::program() const
+{
+    return m_awaited.isEmpty() ? ProgramEditor::program() : m_awaited;
+}
+
 void ProgramWindow::showEvent(QShowEvent* event)
 {
     ProgramEditor::showEvent(event);

@@ -12,6 +12,7 @@ public:
 
     /// Shows a program; a very long one as soon as the window is seen.
     void showProgram(const QString& program);
+    [[nodiscard]] QString program() const override;
 
 protected:
     void showEvent(QShowEvent* event) override;

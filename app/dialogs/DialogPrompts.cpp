@@ -134,10 +134,13 @@ UserPrompts::Unsaved DialogPrompts::askToSave(const QString& title, const QStrin
 std::optional<QString> DialogPrompts::askText(const QString& title, const QString& label,
                                               const QString& text)
 {
-    bool isAccepted = false;
-    const QString answer =
-        QInputDialog::getText(m_parent, title, label, QLineEdit::Normal, text, &isAccepted);
-    return isAccepted ? std::optional(answer) : std::nullopt;
+    QInputDialog dialog(m_parent);
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(label);
+    dialog.setTextValue(text);
+    constexpr int pixels = 400;  // room for the title and for a longer text
+    dialog.resize(pixels, dialog.sizeHint().height());
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.textValue()) : std::nullopt;
 }
 
 std::optional<QString> DialogPrompts::editDataFilter(const QString& condition)

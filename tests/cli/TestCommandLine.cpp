@@ -126,6 +126,36 @@ TEST_F(CommandLine, rowsShowsCellsAsTheGridDoes)
     EXPECT_EQ(rows[1]["cells"], (json{"RASH\tred", "nan", "2.2"})) << "2.25 lies midway: to even";
 }
 
+TEST_F(CommandLine, codeWritesTheProgramOfAView)
+{
+    const Outcome outcome = run("code",
+                                "--where 'aeterm  ne  \"RASH\"' --if 'AVAL > -1 or ASTDT = .' "
+                                "--by astdt AETERM --keep aval AETERM AVAL");
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_NE(outcome.out.find("\n\ndata work.ae_view;\n    set "), std::string::npos);
+    const std::size_t rest = outcome.out.find(".ae;");
+    ASSERT_NE(rest, std::string::npos);
+    EXPECT_EQ(outcome.out.substr(rest),
+              ".ae;\n    where aeterm ne \"RASH\";\n    if AVAL > -1 or ASTDT = .;\n"
+              "    by astdt aeterm;\n    keep aeterm aval;\nrun;\n");
+    EXPECT_NE(outcome.out.find(" '" + m_folder.file("x").parent_path().string() + "';"),
+              std::string::npos);
+    EXPECT_EQ(json::parse(run("code", "--format json").out)["program"].get<std::string>() + "\n",
+              run("code").out);
+    EXPECT_EQ(run("code", "--keep AETERM ASTDT AVAL").out, run("code").out) << "all are shown";
+    for (const auto& [options, reason] :
+         {std::pair("--if 'AVALL = 1'",
+                    "ae.xpt: --if: There is no variable named AVALL (did you "
+                    "mean AVAL?)"),
+          std::pair("--where 'AVAL = 1 2'", "--where: "), std::pair("--by X", "named X"),
+          std::pair("--keep X", "named X")}) {
+        const Outcome failed = run("code", options);
+        EXPECT_EQ(failed.code, 2);
+        EXPECT_EQ(failed.out, "");
+        EXPECT_NE(failed.err.find(reason), std::string::npos) << failed.err;
+    }
+}
+
 TEST_F(CommandLine, rowsShowsStoredValuesOnRequest)
 {
     const auto rows = jsonLines(run("rows", "--raw --format json").out);
