@@ -71,6 +71,7 @@ std::string nameJson(const StatDataset& dataset, int variable)
 std::string namesJson(const StatDataset& dataset, const std::vector<int>& variables)
 {
     std::vector<std::string> names;
+    names.reserve(variables.size());
     for (const int variable : variables) {
         names.push_back(nameJson(dataset, variable));
     }

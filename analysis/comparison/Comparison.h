@@ -59,7 +59,7 @@ public:
     /// visibility of their variables count. A failure says what keeps the comparison from being
     /// done.
     [[nodiscard]] static Result<Comparison> of(const StatDataset& base, const StatDataset& compare,
-                                               const Request& request);
+                                               const Request& asked);
 
     [[nodiscard]] const StatDataset& base() const { return *m_base; }
     [[nodiscard]] const StatDataset& compare() const { return *m_compare; }

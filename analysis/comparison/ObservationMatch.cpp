@@ -42,7 +42,7 @@ std::strong_ordering compare(const Side& a, std::size_t i, const Side& b, std::s
 {
     for (std::size_t variable = 0; variable < a.keys.size(); ++variable) {
         const auto order = a.keys[variable][i] <=> b.keys[variable][j];
-        if (order != 0) {
+        if (std::is_neq(order)) {
             return order;
         }
     }
@@ -95,7 +95,7 @@ SideOfMatch sort(Side& side)
     side.order.resize(side.rows.size());
     std::iota(side.order.begin(), side.order.end(), 0U);
     for (std::size_t i = 1; i < side.rows.size() && found.isSorted; ++i) {
-        found.isSorted = compare(side, i - 1, side, i) <= 0;
+        found.isSorted = std::is_lteq(compare(side, i - 1, side, i));
     }
     for (std::size_t left = side.keys.size(); left > 0 && !found.isSorted; --left) {
         std::vector<RankedRow> entries;
@@ -108,7 +108,7 @@ SideOfMatch sort(Side& side)
                        [](const RankedRow& entry) { return entry.row; });
     }
     for (std::size_t i = 1; i < side.order.size(); ++i) {
-        if (compare(side, side.order[i - 1], side, side.order[i]) == 0) {
+        if (std::is_eq(compare(side, side.order[i - 1], side, side.order[i]))) {
             found.firstDuplicate = std::min(found.firstDuplicate, side.rows[side.order[i]]);
             ++found.duplicates;
         }
@@ -126,14 +126,14 @@ void merge(const Side& base, const Side& compareSide, ObservationMatch& match)
             ? std::strong_ordering::less
             : compare(base, base.order[b], compareSide, compareSide.order[c]);
         ObservationPair pair;
-        if (order <= 0) {
+        if (std::is_lteq(order)) {
             pair.base = base.rows[base.order[b++]];
         }
-        if (order >= 0) {
+        if (std::is_gteq(order)) {
             pair.compare = compareSide.rows[compareSide.order[c++]];
         }
-        match.base.unmatched += order < 0 ? 1U : 0U;
-        match.compare.unmatched += order > 0 ? 1U : 0U;
+        match.base.unmatched += std::is_lt(order) ? 1U : 0U;
+        match.compare.unmatched += std::is_gt(order) ? 1U : 0U;
         match.pairs.push_back(pair);
     }
 }
