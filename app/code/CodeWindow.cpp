@@ -79,6 +79,7 @@ void CodeWindow::generate()
     const OpenDataset& opened = *m_grid->opened();
     programtext::View view{m_filePath};
     view.datasetName = m_datasetName;
+    view.library = m_libraryOf ? m_libraryOf(m_filePath) : programtext::Library();
     view.libraryFilter = opened.libraryFilterText();
     view.datasetFilter = opened.datasetFilterText();
     for (const std::string& name : opened.byVariables()) {

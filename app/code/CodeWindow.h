@@ -1,8 +1,13 @@
 #pragma once
 
+#include "workspace/program/ProgramText.h"
+
 #include <QPointer>
 #include <QString>
 #include <QTabWidget>
+
+#include <functional>
+#include <utility>
 
 class GridServices;
 class MainTableView;
@@ -22,8 +27,14 @@ public:
     CodeWindow(GridServices& services, UserPrompts& prompts, Settings& settings,
                QWidget* parent = nullptr);
 
+    /// Tells the library that holds a file; one without a folder for none.
+    using LibraryOf = std::function<programtext::Library(const QString& filePath)>;
+    void setLibraries(LibraryOf libraryOf) { m_libraryOf = std::move(libraryOf); }
+
     /// Shows the program of what a grid shows from now on; null for none.
     void follow(MainTableView* grid);
+    /// Writes that program anew.
+    void generate();
 
     void addProgram();
     void openPrograms();
@@ -48,7 +59,6 @@ private:
     bool saveTo(ProgramEditor& editor, const QString& path);
     void close(int tab);
     void showTitle(ProgramEditor& editor);
-    void generate();
 
     GridServices& m_services;
     UserPrompts& m_prompts;
@@ -57,5 +67,6 @@ private:
     QPointer<MainTableView> m_grid;
     QString m_filePath;
     QString m_datasetName;
+    LibraryOf m_libraryOf;
     int m_untitled = 0;
 };

@@ -89,6 +89,7 @@ void Libraries::show(const QList<Library>& libraries)
     qDeleteAll(present);
     tree.setExpanded(tree.indexOf(top), true);
     watch();
+    emit signalChanged();
 }
 
 void Libraries::watch()
@@ -234,6 +235,7 @@ void Libraries::rename(QStandardItem* library, const QString& name)
     }
     renamed.name = name;
     static_cast<LibraryItem*>(library)->setLibrary(renamed);
+    emit signalChanged();
 }
 
 void Libraries::showVariables(QStandardItem* library)
@@ -244,6 +246,18 @@ void Libraries::showVariables(QStandardItem* library)
     connect(dialog, &FolderVariablesDialog::signalVariableRequested, this,
             &Libraries::signalVariableRequested);
     dialog->show();
+}
+
+programtext::Library Libraries::libraryOf(const QString& path) const
+{
+    const QString folder = QFileInfo(path).path();
+    for (const LibraryItem* item : items()) {
+        const Library& library = item->library();
+        if (library.dir == folder) {
+            return {library.dir, library.alias, library.name};
+        }
+    }
+    return {};
 }
 
 void Libraries::applyFilterOf(const QString& path)

@@ -4,6 +4,7 @@
 #include "workspace/Library.h"
 #include "workspace/LibraryPrompts.h"
 #include "workspace/LibraryRegistry.h"
+#include "workspace/program/ProgramText.h"
 
 #include <QObject>
 
@@ -47,6 +48,8 @@ public:
     void rename(QStandardItem* library, const QString& name);
     /// Shows the variables of all datasets of a library.
     void showVariables(QStandardItem* library);
+    /// The library that a file stands in; one without a folder for none.
+    [[nodiscard]] programtext::Library libraryOf(const QString& path) const;
     /// Puts the filter of the library that a file has been opened from in force, if none is.
     void applyFilterOf(const QString& path);
 
@@ -54,6 +57,8 @@ signals:
     /// A variable of a dataset is to be shown.
     void signalVariableRequested(const QString& path, const QString& member,
                                  const QString& variable);
+    /// Libraries have come, gone or changed.
+    void signalChanged();
     /// Files in the folder have come, gone or changed.
     void signalFolderChanged(const QString& folder);
 

@@ -298,6 +298,8 @@ void MainWindow::fillWorkspace()
     connect(m_libraries.get(), &Libraries::signalFolderChanged, m_opener,
             &DatasetOpener::lookAtFiles);
     connect(m_opener, &DatasetOpener::signalRead, m_libraries.get(), &Libraries::applyFilterOf);
+    m_code->setLibraries([this](const QString& path) { return m_libraries->libraryOf(path); });
+    connect(m_libraries.get(), &Libraries::signalChanged, m_code, &CodeWindow::generate);
     m_libraries->fill();
 }
 

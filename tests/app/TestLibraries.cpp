@@ -390,6 +390,10 @@ void TestLibraries::menusHoldWhatIsAliveAndDoIt()
     QCOMPARE(menuOf(file(0), "Open").first(), "Open");
     QTRY_COMPARE(loaded, QStringList("ae.csv"));
     QCOMPARE(menuOf(file(0)), QStringList({"Open", "Properties"}));
+    // The program of its dataset speaks of the library as it is called now.
+    QTRY_VERIFY(window->activeView() != nullptr);
+    emit tree().signalRenameRequested(tree().library(1), "Week 12");
+    QVERIFY(child<QPlainTextEdit>("programWindow")->toPlainText().contains("libname week_12 '"));
 
     QSignalSpy joined(&tree(), &WorkspaceTree::signalJoinRequested);
     QSignalSpy compared(&tree(), &WorkspaceTree::signalCompareRequested);
