@@ -114,7 +114,7 @@ std::string criterionText(double criterion)
     std::string text = fmt::format("{:.15f}", criterion);
     text.erase(text.find_last_not_of('0') + 1);
     // Digits that a double does not have are not shown.
-    const std::string shortest = numbertext::shortest(criterion);
+    std::string shortest = numbertext::shortest(criterion);
     if (shortest.find('e') == std::string::npos) {
         return shortest;
     }

@@ -206,6 +206,7 @@ std::vector<std::string> ReportTable::ruledLines(std::size_t lineSize) const
     }
     addTitles(widths, out);
     std::vector<Lines> rules;
+    rules.reserve(widths.size());
     for (const std::size_t width : widths) {
         rules.push_back({std::string(width, '_')});
     }
