@@ -110,7 +110,7 @@ void Sessions::restoreSession(qint64 id)
     m_surroundings.services.showMessage(tr("Session \"%1\" restored").arg(session.name));
 }
 
-void Sessions::closeAll()
+void Sessions::closeAll() const
 {
     for (QMdiSubWindow* window : m_surroundings.area.subWindowList()) {
         if (window->close()) {

@@ -44,9 +44,9 @@ public:
 
 private:
     [[nodiscard]] QList<SavedDataset> openDatasets() const;
-    void closeAll();
+    void closeAll() const;
     [[nodiscard]] DatasetWindow* restore(const SavedDataset& saved, QStringList& failures);
-    void bringBack(const SavedDataset& saved, DatasetWindow& window, QStringList& failures);
+    static void bringBack(const SavedDataset& saved, DatasetWindow& window, QStringList& failures);
 
     Surroundings m_surroundings;
     SessionRegistry m_registry;
