@@ -95,6 +95,8 @@ bool RStream::skipValues(RType type)
     case RType::Text:
         skipTexts(length(4));
         return true;
+    case RType::S4:
+        return true;  // all of it are its attributes
     default:
         return false;
     }
@@ -127,11 +129,9 @@ void RStream::skipOne(const RItem& item, WaitingList& waiting)
         more = 4;
         break;
     case RType::Pointer:
-        m_references.emplace_back();
-        more += 2;
-        break;
     case RType::WeakReference:
         m_references.emplace_back();
+        more += item.type == RType::Pointer ? 2 : 0;
         break;
     case RType::Pairlist:
     case RType::Call:
@@ -154,8 +154,6 @@ void RStream::skipOne(const RItem& item, WaitingList& waiting)
         return;
     case RType::Altrep:
         more = 3;
-        break;
-    case RType::S4:
         break;
     case RType::Reference:
         if (item.flags >> 8 == 0) {

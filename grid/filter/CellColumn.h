@@ -12,10 +12,12 @@ public:
     /// The dataset keeps its cells for as long as this is used.
     CellColumn(const StatDataset& dataset, int variable)
     {
-        if (dataset.observationCount() > 0) {
+        // A dataset that was read without its values has observations, but no cells.
+        const int rows = dataset.cellCount() > 0 ? dataset.observationCount() : 0;
+        if (rows > 0) {
             m_first = &dataset.cell(0, variable);
         }
-        if (dataset.observationCount() > 1) {
+        if (rows > 1) {
             m_stride = &dataset.cell(1, variable) - m_first;
         }
     }

@@ -97,8 +97,10 @@ TEST(Comparison, aMissingNumberEqualsTheSameMissingOnly)
     EXPECT_EQ(all.values().at(0).maximum, 0) << "a missing number is no distance away";
     EXPECT_EQ(unequal(x, y, {.missingBaseEqualsAll = true}), (Places{4}));
     EXPECT_EQ(unequal(x, y, {.missingCompareEqualsAll = true}), (Places{5}));
-    const auto neither = compared(*numbers(x), *numbers(y),
-                                  {.missingBaseEqualsAll = true, .missingCompareEqualsAll = true});
+    const auto base = numbers(x);
+    const auto compare = numbers(y);
+    const auto neither =
+        compared(*base, *compare, {.missingBaseEqualsAll = true, .missingCompareEqualsAll = true});
     EXPECT_EQ(neither.unequalValues(), 0U);
     EXPECT_EQ(neither.inexactValues(), 4U);
     EXPECT_EQ(neither.sysInfo(), 0U);
