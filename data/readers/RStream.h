@@ -143,6 +143,7 @@ private:
     [[nodiscard]] std::string_view escaped(std::string_view raw);
     void skip(WaitingList& waiting);
     [[nodiscard]] bool skipValues(RType type);
+    [[nodiscard]] std::optional<std::int64_t> skipReferenced(const RItem& item);
     void skipOne(const RItem& item, WaitingList& waiting);
     void skipCode(WaitingList& waiting);
     void skipCall(std::int32_t type, WaitingList& waiting);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <optional>
 
 // Passing over items needs only to know how many more items belong to each, not which: a count
 // takes the place of recursion. Compiled code alone is laid out otherwise.
@@ -23,6 +24,14 @@ bool isBare(RType type)
                               RType::GlobalEnvironment,
                               RType::Null};
     return std::find(bare.begin(), bare.end(), type) != bare.end();
+}
+
+void addItems(std::int64_t& count, std::int64_t more)
+{
+    if (count > std::numeric_limits<std::int64_t>::max() - more) {
+        throw FileDamage(damaged);
+    }
+    count += more;
 }
 
 }  // namespace
@@ -102,6 +111,36 @@ bool RStream::skipValues(RType type)
     }
 }
 
+/// Passes over the beginning of what later items refer to by its number.
+/// @return  how many items belong to it; nothing for an item of another kind
+std::optional<std::int64_t> RStream::skipReferenced(const RItem& item)
+{
+    const std::int64_t attributes = item.hasAttributes ? 1 : 0;
+    switch (item.type) {
+    case RType::Symbol: {
+        const RItem name = this->item();
+        m_references.emplace_back(text(name).value_or(std::string_view()));
+        return 0;
+    }
+    case RType::Persistent:
+    case RType::Package:
+    case RType::Namespace:
+        m_references.emplace_back();
+        (void)integer();
+        return length(4);
+    case RType::Environment:
+        m_references.emplace_back();
+        (void)integer();  // whether it is locked
+        return 4;
+    case RType::Pointer:
+    case RType::WeakReference:
+        m_references.emplace_back();
+        return attributes + (item.type == RType::Pointer ? 2 : 0);
+    default:
+        return std::nullopt;
+    }
+}
+
 void RStream::skipOne(const RItem& item, WaitingList& waiting)
 {
     if (isBare(item.type)) {
@@ -109,30 +148,11 @@ void RStream::skipOne(const RItem& item, WaitingList& waiting)
     }
     // Some read on before the items that belong to them, in the order of the file.
     std::int64_t more = item.hasAttributes ? 1 : 0;
-    switch (item.type) {
-    case RType::Symbol: {
-        const RItem name = this->item();
-        m_references.emplace_back(text(name).value_or(std::string_view()));
-        more = 0;
-        break;
+    if (const std::optional<std::int64_t> known = skipReferenced(item)) {
+        addItems(waiting.back().count, *known);
+        return;
     }
-    case RType::Persistent:
-    case RType::Package:
-    case RType::Namespace:
-        m_references.emplace_back();
-        (void)integer();
-        more = length(4);
-        break;
-    case RType::Environment:
-        m_references.emplace_back();
-        (void)integer();  // whether it is locked
-        more = 4;
-        break;
-    case RType::Pointer:
-    case RType::WeakReference:
-        m_references.emplace_back();
-        more += item.type == RType::Pointer ? 2 : 0;
-        break;
+    switch (item.type) {
     case RType::Pairlist:
     case RType::Call:
     case RType::Closure:
@@ -165,10 +185,7 @@ void RStream::skipOne(const RItem& item, WaitingList& waiting)
             throw FileDamage(damaged);
         }
     }
-    if (waiting.back().count > std::numeric_limits<std::int64_t>::max() - more) {
-        throw FileDamage(damaged);
-    }
-    waiting.back().count += more;
+    addItems(waiting.back().count, more);
 }
 
 /// The instructions, a vector of integers, and the constants behind them.
