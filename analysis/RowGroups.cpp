@@ -180,3 +180,10 @@ std::vector<std::uint32_t> selectedObservations(const StatDataset& dataset)
     }
     return observations;
 }
+
+std::vector<std::uint32_t> allObservations(const StatDataset& dataset)
+{
+    std::vector<std::uint32_t> rows(static_cast<std::size_t>(dataset.observationCount()));
+    std::iota(rows.begin(), rows.end(), 0U);
+    return rows;
+}

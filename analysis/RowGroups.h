@@ -71,3 +71,6 @@ private:
 
 /// The observations that both filters select, in ascending order.
 [[nodiscard]] std::vector<std::uint32_t> selectedObservations(const StatDataset& dataset);
+
+/// All observations, in ascending order.
+[[nodiscard]] std::vector<std::uint32_t> allObservations(const StatDataset& dataset);

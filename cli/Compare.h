@@ -23,6 +23,9 @@ struct CompareOptions
     comparison::ReportOptions report;
     /// Of the ID variables for all datasets of a folder some have only a few.
     bool passesOverAbsentId = false;
+    bool proposesId = false;  ///< ID variables that suggest themselves
+    bool writesProgram = false;  ///< instead of comparing
+    bool listsDifferences = false;  ///< in JSON
     bool strict = false;  ///< attributes alone make datasets different
     OutputFormat format = OutputFormat::Text;
 };

@@ -1,9 +1,15 @@
 #include "analysis/comparison/ComparedTexts.h"
+#include "analysis/comparison/CompareJson.h"
+#include "analysis/comparison/CompareProgram.h"
+#include "analysis/comparison/KeyProposal.h"
 #include "cli/Compare.h"
 #include "cli/Selection.h"
 #include "data/FilePath.h"
+#include "workspace/program/ProgramText.h"
 
 #include <fmt/format.h>
+
+#include <QFileInfo>
 
 #include <cstdio>
 #include <filesystem>
@@ -61,105 +67,6 @@ Result<OpenedDataset> open(const std::string& file, const std::string& member,
         return Failure{fmt::format("{}: {}", file, selected.error())};
     }
     return opened;
-}
-
-std::string nameJson(const StatDataset& dataset, int variable)
-{
-    return jsonText(dataset.names()[static_cast<std::size_t>(variable)]);
-}
-
-std::string namesJson(const StatDataset& dataset, const std::vector<int>& variables)
-{
-    std::vector<std::string> names;
-    names.reserve(variables.size());
-    for (const int variable : variables) {
-        names.push_back(nameJson(dataset, variable));
-    }
-    return fmt::format("[{}]", fmt::join(names, ","));
-}
-
-std::string datasetJson(const std::string& name, const std::string& file,
-                        const StatDataset& dataset)
-{
-    return fmt::format(R"({{"name":{},"file":{},"label":{},"observations":{},"variables":{}}})",
-                       jsonText(name), jsonText(file), jsonText(dataset.header().fileLabel),
-                       dataset.observationCount(), dataset.variableCount());
-}
-
-std::string attributesJson(const StatDataset& dataset, int variable)
-{
-    const auto place = static_cast<std::size_t>(variable);
-    return fmt::format(
-        R"({{"name":{},"type":"{}","length":{},"format":{},"informat":{},"label":{}}})",
-        nameJson(dataset, variable), dataset.isNumeric(variable) ? "num" : "char",
-        dataset.lengths()[place], jsonText(dataset.writtenFormat(variable)),
-        jsonText(dataset.informats()[place]), jsonText(dataset.labels()[place]));
-}
-
-/// Pairs of variables whose types, or else whose other attributes differ.
-std::string differingJson(const Comparison& result, bool types)
-{
-    std::vector<std::string> pairs;
-    for (const VariablePair& pair : result.variables().common) {
-        if (types ? pair.hasConflictingTypes : !pair.hasConflictingTypes && pair.differing.any()) {
-            pairs.push_back(fmt::format(R"({{"base":{},"compare":{}}})",
-                                        attributesJson(result.base(), pair.base),
-                                        attributesJson(result.compare(), pair.compare)));
-        }
-    }
-    return fmt::format("[{}]", fmt::join(pairs, ","));
-}
-
-std::string variablesJson(const Comparison& result)
-{
-    const comparison::VariableMatch& variables = result.variables();
-    std::vector<int> id;
-    for (const VariablePair& pair : variables.id) {
-        id.push_back(pair.base);
-    }
-    return fmt::format(
-        R"({{"common":{},"baseOnly":{},"compareOnly":{},"id":{},"conflictingTypes":{},"differingAttributes":{}}})",
-        variables.common.size(), namesJson(result.base(), variables.baseOnly),
-        namesJson(result.compare(), variables.compareOnly), namesJson(result.base(), id),
-        differingJson(result, true), differingJson(result, false));
-}
-
-std::string observationsJson(const Comparison& result)
-{
-    const comparison::ObservationMatch& match = result.observations();
-    const std::size_t unequal = result.unequalObservations().count();
-    return fmt::format(
-        R"({{"common":{},"baseOnly":{},"compareOnly":{},"baseRead":{},"compareRead":{},"baseDuplicates":{},"compareDuplicates":{},"unequal":{},"equal":{}}})",
-        match.matched(), match.base.unmatched, match.compare.unmatched, match.base.read,
-        match.compare.read, match.base.duplicates, match.compare.duplicates, unequal,
-        match.matched() - unequal);
-}
-
-std::string valueJson(const Comparison& result, const ComparedVariable& variable)
-{
-    return fmt::format(
-        R"({{"base":{},"compare":{},"type":"{}","method":"{}","criterion":{},"unequal":{},"notExactlyEqual":{},"missing":{},"maximum":{}}})",
-        nameJson(result.base(), variable.variables.base),
-        nameJson(result.compare(), variable.variables.compare), variable.isNumeric ? "num" : "char",
-        nameOf(variable.rule.method()), jsonNumber(variable.rule.criterion()),
-        variable.unequal.size(), variable.inexact, variable.missingDifferences,
-        variable.isNumeric ? jsonNumber(variable.maximum) : "null");
-}
-
-std::string valuesJson(const Comparison& result)
-{
-    std::vector<std::string> variables;
-    std::size_t equal = 0;
-    std::size_t missing = 0;
-    for (const ComparedVariable& variable : result.values()) {
-        equal += variable.unequal.empty() ? 1U : 0U;
-        missing += variable.missingDifferences > 0 ? 1U : 0U;
-        variables.push_back(valueJson(result, variable));
-    }
-    return fmt::format(
-        R"({{"variables":{},"allEqual":{},"someUnequal":{},"withMissingDifferences":{},"unequal":{},"notExactlyEqual":{},"byVariable":[{}]}})",
-        result.values().size(), equal, result.values().size() - equal, missing,
-        result.unequalValues(), result.inexactValues(), fmt::join(variables, ","));
 }
 
 /// One line for each observation of one side and for each value that differs.
@@ -242,6 +149,36 @@ ExitCode fail(const CompareOptions& options, const std::string& text)
     return Failed;
 }
 
+comparison::ProgramSource sourceOf(const std::string& file, const OpenedDataset& opened,
+                                   const std::optional<std::string>& where)
+{
+    const QString name = QString::fromStdString(opened.dataset->datasetName());
+    comparison::ProgramSource source{
+        QFileInfo(filepath::fromBytes(file)).absoluteFilePath().toStdString(),
+        programtext::makeSasName(name).toStdString()};
+    if (where) {
+        source.filters.push_back(fmt::format("where {};", *where));
+    }
+    return source;
+}
+
+ExitCode printProgram(const CompareOptions& options)
+{
+    const Result<OpenedDataset> base = open(options.base, options.baseMember, {});
+    const Result<OpenedDataset> compare = open(options.compare, options.compareMember, {});
+    if (!base || !compare) {
+        return fail(options, base ? compare.error() : base.error());
+    }
+    comparison::Request request = options.request;
+    if (options.proposesId) {
+        request.id = comparison::proposedKeys(*base.value().dataset, *compare.value().dataset);
+    }
+    print(comparison::programText(sourceOf(options.base, base.value(), options.where),
+                                  sourceOf(options.compare, compare.value(), options.where),
+                                  request, options.report));
+    return Done;
+}
+
 }  // namespace
 
 Result<FileComparison> compareFiles(const CompareOptions& options)
@@ -255,6 +192,9 @@ Result<FileComparison> compareFiles(const CompareOptions& options)
         return Failure{compare.error()};
     }
     comparison::Request request = options.request;
+    if (options.proposesId) {
+        request.id = comparison::proposedKeys(*base.value().dataset, *compare.value().dataset);
+    }
     if (options.passesOverAbsentId) {
         std::erase_if(request.id, [&](const std::string& name) {
             return !variableNamed(*base.value().dataset, name);
@@ -271,15 +211,9 @@ Result<FileComparison> compareFiles(const CompareOptions& options)
 
 std::string comparisonJson(const FileComparison& comparison, const CompareOptions& options)
 {
-    const Comparison& result = comparison.result;
-    return fmt::format(
-        R"({{"base":{},"compare":{},"method":"{}","criterion":{},"delta":{},"sysinfo":{},"different":{},"observations":{},"variables":{},"values":{},"notes":[{}]}})",
-        datasetJson(result.baseName(), options.base, result.base()),
-        datasetJson(result.compareName(), options.compare, result.compare()),
-        nameOf(result.rule().method()), jsonNumber(result.rule().criterion()),
-        jsonNumber(result.rule().delta()), result.sysInfo(), comparison.isDifferent(options.strict),
-        observationsJson(result), variablesJson(result), valuesJson(result),
-        jsonTexts(result.notes()));
+    return comparison::json(comparison.result,
+                            {options.base, options.compare, comparison.isDifferent(options.strict),
+                             options.listsDifferences});
 }
 
 ExitCode runCompare(const CompareOptions& options)
@@ -293,6 +227,9 @@ ExitCode runCompare(const CompareOptions& options)
     }
     if (isFolder) {
         return compareFolders(options);
+    }
+    if (options.writesProgram) {
+        return printProgram(options);
     }
     const Result<FileComparison> compared = compareFiles(options);
     if (!compared) {

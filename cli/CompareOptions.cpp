@@ -1,10 +1,10 @@
+#include "analysis/comparison/CompareWords.h"
 #include "cli/Compare.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <cctype>
-#include <charconv>
 #include <CLI/CLI.hpp>
 #include <map>
 
@@ -12,7 +12,6 @@ namespace cli {
 
 namespace {
 
-using comparison::Method;
 using comparison::ReportOptions;
 using comparison::Request;
 
@@ -23,61 +22,28 @@ std::string lowered(std::string text)
     return text;
 }
 
-double numberOf(const std::string& option, const std::string& text)
+/// What was read of an option, whose mistakes end the program with a message.
+template <typename T>
+T checked(const std::string& option, const Result<T>& read)
 {
-    double number = 0;
-    const char* const end = text.data() + text.size();
-    const auto [stopped, error] = std::from_chars(text.data(), end, number);
-    if (error != std::errc() || stopped != end) {
-        throw CLI::ValidationError(option, text + " is no number");
+    if (!read) {
+        throw CLI::ValidationError(option, read.error());
     }
-    return number;
-}
-
-Method methodNamed(const std::string& option, const std::string& name)
-{
-    static const std::map<std::string, Method> methods{
-        {"exact", Method::Exact},
-        {"absolute", Method::Absolute},
-        {"relative", Method::Relative},
-        {"percent", Method::Percent},
-    };
-    const auto found = methods.find(lowered(name));
-    if (found == methods.end()) {
-        throw CLI::ValidationError(option,
-                                   name + " is none of exact, absolute, relative and percent");
-    }
-    return found->second;
+    return read.value();
 }
 
 /// "relative", or "relative(0.5)" with a delta.
 void setMethod(Request& request, const std::string& text)
 {
     const std::size_t open = text.find('(');
-    request.method = methodNamed("--method", text.substr(0, open));
+    request.method = checked("--method", comparison::methodNamed(text.substr(0, open)));
     if (open != std::string::npos) {
         if (!text.ends_with(')')) {
             throw CLI::ValidationError("--method", text + " lacks its closing bracket");
         }
-        request.delta = numberOf("--method", text.substr(open + 1, text.size() - open - 2));
+        request.delta = checked(
+            "--method", comparison::numberOf(text.substr(open + 1, text.size() - open - 2)));
     }
-}
-
-/// "AVAL=0.001", or "AVAL=0.001:absolute".
-comparison::VariableCriterion criterionOf(const std::string& text)
-{
-    const std::size_t equals = text.rfind('=');
-    if (equals == std::string::npos || equals == 0) {
-        throw CLI::ValidationError("--criterion-for", text + " is not VARIABLE=NUMBER[:METHOD]");
-    }
-    const std::string rest = text.substr(equals + 1);
-    const std::size_t colon = rest.find(':');
-    comparison::VariableCriterion criterion{text.substr(0, equals),
-                                            numberOf("--criterion-for", rest.substr(0, colon))};
-    if (colon != std::string::npos) {
-        criterion.method = methodNamed("--criterion-for", rest.substr(colon + 1));
-    }
-    return criterion;
 }
 
 void list(ReportOptions& report, const std::string& what)
@@ -121,7 +87,8 @@ void addEquality(CLI::App& command, Request& request)
     command.add_option_function<std::vector<std::string>>(
         "--criterion-for", [&request](const std::vector<std::string>& texts) {
             for (const std::string& text : texts) {
-                request.variableCriteria.push_back(criterionOf(text));
+                request.variableCriteria.push_back(
+                    checked("--criterion-for", comparison::criterionOf(text)));
             }
         });
     command.add_flag("--nomissbase", request.missingBaseEqualsAll);
@@ -168,6 +135,9 @@ CLI::App* addCompare(CLI::App& app, CompareOptions& options)
     command->add_option("--member", options.baseMember);
     command->add_option("--compare-member", options.compareMember);
     command->add_option("--where", options.where);
+    command->add_flag("--propose-id", options.proposesId);
+    command->add_flag("--program", options.writesProgram);
+    command->add_flag("--differences", options.listsDifferences);
     command->add_flag("--strict", options.strict);
     addEquality(*command, options.request);
     addReport(*command, options.report);

@@ -79,6 +79,7 @@ Compares two datasets as PROC COMPARE does, or, of two folders, the datasets of 
 
 Which observations and variables:
   --id VARIABLE...     match observations by these; by position without them
+  --propose-id         match them by what suggests itself: key variables, subject, sequence number
   --var VARIABLE...    compare these only
   --with VARIABLE...   the names of the --var variables in COMPARE, one for each
   --where CONDITION    only observations that meet it, in both datasets
@@ -102,6 +103,8 @@ The report:
   --textwidth N        characters of a text value that are shown (20)
 
 Options:
+  --program            write the SAS program of the comparison instead
+  --differences        every value that differs, in json
   --strict             attributes alone make datasets different
   --format FORMAT      text (the default), json with every count, tsv with every difference
   --member NAME        which dataset of a file that holds several; the first without it

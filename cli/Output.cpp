@@ -1,10 +1,6 @@
 #include "cli/Output.h"
 
-#include <fmt/format.h>
-
-#include <cmath>
 #include <cstdio>
-#include <nlohmann/json.hpp>
 
 namespace cli {
 
@@ -13,32 +9,6 @@ namespace {
 constexpr std::size_t linesAlignedTogether = 1000;
 
 }  // namespace
-
-std::string jsonText(std::string_view text)
-{
-    return nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
-}
-
-std::string jsonTexts(const std::vector<std::string>& texts)
-{
-    std::string out;
-    for (const std::string& text : texts) {
-        out += out.empty() ? "" : ",";
-        out += jsonText(text);
-    }
-    return out;
-}
-
-std::string jsonNumber(double number)
-{
-    if (std::isnan(number)) {
-        return "null";
-    }
-    if (std::isinf(number)) {
-        return number > 0 ? "\"Infinity\"" : "\"-Infinity\"";  // JSON has no infinite numbers
-    }
-    return fmt::format("{:.17g}", number);
-}
 
 void print(std::string_view text)
 {

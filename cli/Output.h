@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/values/AlignedText.h"
+#include "data/values/WrittenJson.h"
 
 #include <string>
 #include <string_view>
@@ -14,15 +15,6 @@ enum class OutputFormat
     Json,
     Tsv
 };
-
-/// A JSON string with its quotes; bytes that are no UTF-8 become U+FFFD.
-[[nodiscard]] std::string jsonText(std::string_view text);
-
-/// Such strings, parted by commas.
-[[nodiscard]] std::string jsonTexts(const std::vector<std::string>& texts);
-
-/// A number with 17 significant digits, which read back to the same double; null where missing.
-[[nodiscard]] std::string jsonNumber(double number);
 
 /// Writes to standard output.
 void print(std::string_view text);

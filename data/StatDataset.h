@@ -146,6 +146,9 @@ public:
     /// How it counts dates and times; as SAS does unless the reader knows better.
     [[nodiscard]] virtual DateScale dateScale(int column) const;
 
+    /// Whether it only counts the observations, and is none of the dataset's own variables.
+    [[nodiscard]] virtual bool countsRows(int /*column*/) const { return false; }
+
     [[nodiscard]] const DatasetHeader& header() const { return m_header; }
     [[nodiscard]] SourceKind sourceKind() const { return m_sourceKind; }
     void setSourceKind(SourceKind kind) { m_sourceKind = kind; }

@@ -44,6 +44,9 @@ struct Request
     bool missingBaseEqualsAll = false;
     bool missingCompareEqualsAll = false;
 
+    /// Whether observations and variables that the datasets do not show are compared, too.
+    bool passesOverFilters = false;
+
     /// What the datasets are called in reports; their own names where empty.
     std::string baseName{};
     std::string compareName{};

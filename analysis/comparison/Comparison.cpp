@@ -83,7 +83,8 @@ Result<Comparison> Comparison::of(const StatDataset& base, const StatDataset& co
     if (std::optional<Failure> failure = result.setRules(request)) {
         return *failure;
     }
-    result.m_observations = matchObservations(base, compare, result.m_variables.id);
+    result.m_observations =
+        matchObservations(base, compare, result.m_variables.id, request.passesOverFilters);
     const std::vector<ObservationPair>& pairs = result.m_observations.pairs;
     compareValues(base, compare, request, pairs, result.m_values);
     result.m_unequalObservations = BitVector(pairs.size());

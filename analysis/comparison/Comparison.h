@@ -56,8 +56,8 @@ class Comparison
 {
 public:
     /// Compares the observations and variables that both datasets show: their filters and the
-    /// visibility of their variables count. A failure says what keeps the comparison from being
-    /// done.
+    /// visibility of their variables count, unless they are passed over. A failure says what keeps
+    /// the comparison from being done.
     [[nodiscard]] static Result<Comparison> of(const StatDataset& base, const StatDataset& compare,
                                                const Request& asked);
 

@@ -157,10 +157,11 @@ ObservationMatch byPosition(const Rows& base, const Rows& compare)
 }  // namespace
 
 ObservationMatch matchObservations(const StatDataset& base, const StatDataset& compare,
-                                   const std::vector<VariablePair>& id)
+                                   const std::vector<VariablePair>& id, bool passesOverFilters)
 {
-    Side baseSide{selectedObservations(base), {}, {}};
-    Side compareSide{selectedObservations(compare), {}, {}};
+    const auto rowsOf = passesOverFilters ? &allObservations : &selectedObservations;
+    Side baseSide{rowsOf(base), {}, {}};
+    Side compareSide{rowsOf(compare), {}, {}};
     if (id.empty()) {
         return byPosition(baseSide.rows, compareSide.rows);
     }

@@ -43,13 +43,14 @@ struct ObservationMatch
     [[nodiscard]] std::size_t matched() const { return base.read - base.unmatched; }
 };
 
-/// Matches the observations that the filters of the datasets select: by position without ID
-/// variables. Otherwise by the values of these, which need not be sorted; observations with the
-/// same values are paired in their order. Missing numbers come before all others, each special one
-/// on its own; texts are told apart as values are compared, without blanks at their ends.
-/// Linear in the observations for each variable, plus the bytes that tell its texts apart.
+/// Matches the observations that the filters of the datasets select, or all of them: by position
+/// without ID variables. Otherwise by the values of these, which need not be sorted; observations
+/// with the same values are paired in their order. Missing numbers come before all others, each
+/// special one on its own; texts are told apart as values are compared, without blanks at their
+/// ends. Linear in the observations for each variable, plus the bytes that tell its texts apart.
 [[nodiscard]] ObservationMatch matchObservations(const StatDataset& base,
                                                  const StatDataset& compare,
-                                                 const std::vector<VariablePair>& id);
+                                                 const std::vector<VariablePair>& id,
+                                                 bool passesOverFilters = false);
 
 }  // namespace comparison

@@ -41,7 +41,7 @@ private:
     static std::size_t placeOf(const PooledText* record)
     {
         // Fibonacci hashing: the upper bits of the product depend on all bits of the address.
-        return std::hash<const PooledText*>{}(record) * 0x9E3779B97F4A7C15U >> (64 - bits);
+        return std::hash<const PooledText*>{}(record)*0x9E3779B97F4A7C15U >> (64 - bits);
     }
 
     std::array<Entry, std::size_t{1} << bits> m_entries;

@@ -24,15 +24,22 @@ AttributeDifferences differing(const StatDataset& base, const StatDataset& compa
             base.informats()[i] != compare.informats()[j], base.labels()[i] != compare.labels()[j]};
 }
 
+/// Whether a variable counts as there.
+bool isCompared(const StatDataset& dataset, std::size_t variable, const Request& request)
+{
+    return request.passesOverFilters ? !dataset.countsRows(static_cast<int>(variable))
+                                     : dataset.visibleVariables()[variable];
+}
+
 /// Finds each variable of the compare dataset once: the one of that very name first.
 class NameTable
 {
 public:
-    explicit NameTable(const StatDataset& dataset)
+    NameTable(const StatDataset& dataset, const Request& request)
         : m_isTaken(dataset.names().size())
     {
         for (std::size_t i = 0; i < m_isTaken.size(); ++i) {
-            m_isTaken[i] = !dataset.visibleVariables()[i];
+            m_isTaken[i] = !isCompared(dataset, i, request);
             m_exact.emplace(dataset.names()[i], i);
             m_folded.emplace(folded(dataset.names()[i]), i);
         }
@@ -138,12 +145,12 @@ private:
 
 void Matcher::matchNames()
 {
-    NameTable table(m_compare);
+    NameTable table(m_compare, m_request);
     const auto count = static_cast<std::size_t>(m_base.variableCount());
     std::vector<std::optional<int>> partner(count);
     for (const bool exactly : {true, false}) {
         for (std::size_t i = 0; i < count; ++i) {
-            if (!partner[i] && m_base.visibleVariables()[i]) {
+            if (!partner[i] && isCompared(m_base, i, m_request)) {
                 const std::string& name = m_base.names()[i];
                 partner[i] = exactly ? table.takeExact(name) : table.takeFolded(name);
             }
@@ -153,7 +160,7 @@ void Matcher::matchNames()
         const int variable = static_cast<int>(i);
         if (partner[i]) {
             m_match.common.push_back(pairOf(variable, *partner[i]));
-        } else if (m_base.visibleVariables()[i]) {
+        } else if (isCompared(m_base, i, m_request)) {
             m_match.baseOnly.push_back(variable);
         }
     }

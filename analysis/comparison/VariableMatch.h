@@ -40,8 +40,8 @@ struct VariableMatch
     std::vector<std::string> notes;  ///< what was asked for and passed over, a sentence each
 };
 
-/// Matches the variables that the datasets show. A failure names the variable without which there
-/// is nothing to compare.
+/// Matches the variables that the datasets show, or all where filters are passed over. A failure
+/// names the variable without which there is nothing to compare.
 [[nodiscard]] Result<VariableMatch>
 matchVariables(const StatDataset& base, const StatDataset& compare, const Request& request);
 

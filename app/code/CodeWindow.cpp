@@ -2,6 +2,7 @@
 
 #include "app/code/ProgramRunner.h"
 #include "app/code/ProgramWindow.h"
+#include "app/dialogs/FileSaving.h"
 #include "app/dialogs/UserPrompts.h"
 #include "app/start/Settings.h"
 #include "app/window/DatasetWindow.h"
@@ -14,7 +15,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QTabBar>
 
 #include <algorithm>
@@ -156,9 +156,11 @@ void CodeWindow::showTitle(ProgramEditor& editor)
     setTabToolTip(tab, QDir::toNativeSeparators(path));
 }
 
-void CodeWindow::addProgram()
+void CodeWindow::addProgram(const QString& text)
 {
-    addEditor(QString(), QString())->setFocus();
+    ProgramEditor* editor = addEditor(QString(), text);
+    editor->document()->setModified(!text.isEmpty());
+    editor->setFocus();
 }
 
 void CodeWindow::openPrograms()
@@ -197,12 +199,7 @@ bool CodeWindow::saveAs()
 /// A program that was generated stays where it is; what is saved of it is a copy.
 bool CodeWindow::saveTo(ProgramEditor& editor, const QString& path)
 {
-    QSaveFile file(path);
-    const bool isSaved = file.open(QIODevice::WriteOnly)
-        && file.write(editor.program().toUtf8()) >= 0 && file.commit();
-    if (!isSaved) {
-        m_prompts.warn(tr("Save SAS Program"), tr("Failed to save the file: %1").arg(path),
-                       file.errorString());
+    if (!filesaving::save(m_prompts, tr("Save SAS Program"), path, editor.program())) {
         return false;
     }
     if (&editor != m_generated) {

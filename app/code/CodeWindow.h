@@ -36,7 +36,8 @@ public:
     /// Writes that program anew.
     void generate();
 
-    void addProgram();
+    /// Adds a program of the user's, not saved yet.
+    void addProgram(const QString& text = {});
     void openPrograms();
     /// Saves the program in front, or asks where.
     /// @return  whether it is saved

@@ -1,6 +1,7 @@
 #include "app/dialogs/DatasetPropertiesDialog.h"
 
 #include "analysis/panels/PanelTable.h"
+#include "app/dialogs/FileSaving.h"
 #include "app/dialogs/UserPrompts.h"
 #include "data/StatDataset.h"
 #include "grid/opened/EngineMessages.h"
@@ -12,7 +13,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QStandardItemModel>
@@ -183,10 +183,5 @@ void DatasetPropertiesDialog::save()
         return;
     }
     const bool isCsv = path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write((isCsv ? m_csv : m_text).toUtf8()) < 0
-        || !file.commit()) {
-        m_prompts.warn(tr("Save Properties"), tr("The file could not be written: %1").arg(path),
-                       file.errorString());
-    }
+    filesaving::save(m_prompts, tr("Save Properties"), path, isCsv ? m_csv : m_text);
 }

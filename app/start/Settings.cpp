@@ -92,3 +92,15 @@ void Settings::setRecentFiles(const QStringList& paths)
 {
     m_store.setValue(u"recentFiles", paths);
 }
+
+QVariant Settings::compareOption(const QString& name, const QVariant& fallback) const
+{
+    const QVariant value = m_store.value(u"compare/" + name, fallback);
+    // Some stores keep texts only.
+    return value.canConvert(fallback.metaType()) ? value : fallback;
+}
+
+void Settings::setCompareOption(const QString& name, const QVariant& value)
+{
+    m_store.setValue(u"compare/" + name, value);
+}

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 
 class QSettings;
 
@@ -43,6 +44,10 @@ public:
     /// The paths of the files opened last, the latest first.
     [[nodiscard]] QStringList recentFiles() const;
     void setRecentFiles(const QStringList& paths);
+
+    /// How datasets were compared last, by the name of the option; the fallback before the first.
+    [[nodiscard]] QVariant compareOption(const QString& name, const QVariant& fallback) const;
+    void setCompareOption(const QString& name, const QVariant& value);
 
 private:
     QSettings& m_store;

@@ -54,7 +54,7 @@ QString DatasetOrigin::member() const
     return fileKey.mid(filePath.size() + 2);
 }
 
-DatasetWindow::DatasetWindow(std::unique_ptr<StatDataset> dataset, const DatasetOrigin& origin,
+DatasetWindow::DatasetWindow(std::shared_ptr<StatDataset> dataset, const DatasetOrigin& origin,
                              OpenDatasets& shared)
     : m_dataset(std::move(dataset))
     , m_opened(std::make_unique<OpenDataset>(*m_dataset, &shared))

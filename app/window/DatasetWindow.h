@@ -33,12 +33,14 @@ class DatasetWindow : public QMdiSubWindow
 
 public:
     /// @param shared  what this dataset shares with the others; outlives the window
-    DatasetWindow(std::unique_ptr<StatDataset> dataset, const DatasetOrigin& origin,
+    DatasetWindow(std::shared_ptr<StatDataset> dataset, const DatasetOrigin& origin,
                   OpenDatasets& shared);
     ~DatasetWindow() override;
 
     [[nodiscard]] MainTableView* view() const { return m_view; }
     [[nodiscard]] StatDataset* dataset() const { return m_dataset.get(); }
+    /// For those who read it longer than this window lives.
+    [[nodiscard]] std::shared_ptr<StatDataset> sharedDataset() const { return m_dataset; }
     [[nodiscard]] QString fileKey() const { return m_origin.fileKey; }
     [[nodiscard]] const DatasetOrigin& origin() const { return m_origin; }
     /// What the user calls the dataset: the name that it has itself, else the file's without its
@@ -73,7 +75,7 @@ private:
     void dropSystemMenuShortcuts();
     void addCloseKey();
 
-    std::unique_ptr<StatDataset> m_dataset;
+    std::shared_ptr<StatDataset> m_dataset;
     std::unique_ptr<OpenDataset> m_opened;
     DatasetOrigin m_origin;
     QString m_datasetName;

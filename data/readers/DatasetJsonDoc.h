@@ -34,6 +34,10 @@ public:
     [[nodiscard]] bool isNumeric(int column) const override;
     [[nodiscard]] bool isCharacter(int column) const override;
     [[nodiscard]] std::string writtenFormat(int column) const override;
+    [[nodiscard]] bool countsRows(int column) const override
+    {
+        return m_hidesFirst && column == 0;
+    }
 
 private:
     friend class DatasetJsonLoad;

@@ -1,0 +1,26 @@
+#include "app/compare/ComparisonWindow.h"
+
+#include "app/compare/DifferenceWindow.h"
+#include "app/compare/LinkedGrids.h"
+#include "app/window/PlainTitle.h"
+
+#include <QAction>
+#include <QMenu>
+
+ComparisonWindow::ComparisonWindow(std::shared_ptr<const ComparedDatasets> comparison)
+    : m_comparison(std::move(comparison))
+    , m_differences(new DifferenceWindow(
+          std::shared_ptr<const comparison::Comparison>(m_comparison, &m_comparison->result), this))
+    , m_grids(new LinkedGrids(*m_comparison, this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWidget(m_differences);
+    setWindowTitle(plainTitle(m_differences->windowTitle()));
+    setWindowIcon(m_differences->windowIcon());
+    // The keys of its own menu are the main window's, and of two actions for one key Qt runs none.
+    for (QAction* action : systemMenu()->actions()) {
+        action->setShortcuts(QList<QKeySequence>());
+    }
+    connect(m_differences, &DifferenceWindow::signalTogetherChanged, m_grids,
+            &LinkedGrids::setActive);
+}
