@@ -1,6 +1,6 @@
-#include "analysis/comparison/ComparedTexts.h"
 #include "analysis/comparison/CompareJson.h"
 #include "analysis/comparison/CompareProgram.h"
+#include "analysis/comparison/DifferenceList.h"
 #include "analysis/comparison/KeyProposal.h"
 #include "cli/Compare.h"
 #include "cli/Selection.h"
@@ -69,75 +69,15 @@ Result<OpenedDataset> open(const std::string& file, const std::string& member,
     return opened;
 }
 
-/// One line for each observation of one side and for each value that differs.
-class DifferencePrinter
+void printDifferences(const Comparison& result)
 {
-public:
-    explicit DifferencePrinter(const Comparison& result)
-        : m_result(result)
-        , m_table(OutputFormat::Tsv)
-    {
-        std::vector<std::string> titles{"Kind", "Variable", "BaseObs", "CompareObs"};
-        for (const VariablePair& id : result.variables().id) {
-            titles.push_back(result.base().names()[static_cast<std::size_t>(id.base)]);
-        }
-        titles.insert(titles.end(), {"Base", "Compare", "Difference", "Percent"});
-        m_table.add(titles);
-    }
-
-    void print()
-    {
-        for (const ObservationPair& pair : m_result.observations().pairs) {
-            if (!pair.isMatched()) {
-                add(pair.compare == comparison::noObservation ? "base only" : "compare only", "",
-                    pair, {"", "", "", ""});
-            }
-        }
-        for (const ComparedVariable& variable : m_result.values()) {
-            for (const std::uint32_t place : variable.unequal) {
-                add(variable, m_result.observations().pairs[place]);
-            }
-        }
-        m_table.finish();
-    }
-
-private:
-    static std::string numberText(double number)
-    {
-        const std::string text = jsonNumber(number);
-        return text == "null" ? "." : text;
-    }
-    void add(const ComparedVariable& variable, const ObservationPair& pair)
-    {
-        const comparison::ValueTexts texts = valueTexts(m_result, variable, pair);
-        std::string difference;
-        std::string percent;
-        if (variable.isNumeric) {
-            const comparison::NumberDifference numbers = m_result.numbers(variable, pair);
-            difference = numberText(numbers.difference);
-            percent = numberText(numbers.percent);
-        }
-        add("value", pairName(m_result, variable.variables), pair,
-            {texts.base, texts.compare, difference, percent});
-    }
-    void add(const char* kind, const std::string& variable, const ObservationPair& pair,
-             const std::vector<std::string>& values)
-    {
-        const auto number = [](std::uint32_t observation) {
-            return observation == comparison::noObservation ? std::string()
-                                                            : std::to_string(observation + 1);
-        };
-        std::vector<std::string> line{kind, variable, number(pair.base), number(pair.compare)};
-        for (const VariablePair& id : m_result.variables().id) {
-            line.push_back(idText(m_result, id, pair));
-        }
-        line.insert(line.end(), values.begin(), values.end());
-        m_table.add(line);
-    }
-
-    const Comparison& m_result;
-    TableWriter m_table;
-};
+    using comparison::ListFormat;
+    const comparison::DifferenceList differences(result);
+    print(listLine(differences.titles(), ListFormat::Tsv));
+    differences.forEachLine([](const comparison::DifferenceList::Line& line) {
+        print(listLine(line, ListFormat::Tsv));
+    });
+}
 
 ExitCode fail(const CompareOptions& options, const std::string& text)
 {
@@ -241,7 +181,7 @@ ExitCode runCompare(const CompareOptions& options)
         print(comparisonJson(comparison, options) + '\n');
         break;
     case OutputFormat::Tsv:
-        DifferencePrinter(comparison.result).print();
+        printDifferences(comparison.result);
         break;
     case OutputFormat::Text:
         print(comparison::reportText(comparison.result, options.report));

@@ -53,6 +53,19 @@ ValueTexts valueTexts(const Comparison& comparison, const ComparedVariable& vari
             shown.compare.empty() ? stored.compare : shown.compare};
 }
 
+ValueTexts cellTexts(const Comparison& comparison, const ComparedVariable& variable,
+                     const ObservationPair& pair, bool isUnequal)
+{
+    const auto [base, compare] = std::pair(variable.variables.base, variable.variables.compare);
+    ValueTexts shown{comparison.base().cellText(static_cast<int>(pair.base), base),
+                     comparison.compare().cellText(static_cast<int>(pair.compare), compare)};
+    if (!isUnequal || shown.base != shown.compare) {
+        return shown;
+    }
+    return {storedText(comparison.base(), pair.base, base),
+            storedText(comparison.compare(), pair.compare, compare)};
+}
+
 std::string idText(const Comparison& comparison, const VariablePair& id,
                    const ObservationPair& pair)
 {

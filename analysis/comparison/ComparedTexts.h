@@ -17,6 +17,11 @@ struct ValueTexts
 [[nodiscard]] ValueTexts valueTexts(const Comparison& comparison, const ComparedVariable& variable,
                                     const ObservationPair& pair);
 
+/// The values of a pair of matched observations as grids show them; as they are stored where these
+/// texts are the same and the values are not.
+[[nodiscard]] ValueTexts cellTexts(const Comparison& comparison, const ComparedVariable& variable,
+                                   const ObservationPair& pair, bool isUnequal);
+
 /// The ID values of an observation as "A=1 B=x", in the names of the side that has it; the numbers
 /// of the observations without ID variables.
 [[nodiscard]] std::string observationText(const Comparison& comparison,
