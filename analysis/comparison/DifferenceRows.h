@@ -12,6 +12,8 @@ struct DifferenceFilter
     bool percent = false;  ///< a line for differences in percent, too
     BitVector
         hidden{};  ///< variables that count for nothing, as Comparison::values(); may be empty
+
+    bool operator==(const DifferenceFilter&) const = default;
 };
 
 /// The rows of a grid of differences: for each observation that is shown one below the other what

@@ -146,4 +146,11 @@ QColor frameColour(const QPalette& palette)
             between(window.blue(), text.blue())};
 }
 
+DifferenceColours differenceColours(const QPalette& palette)
+{
+    return isDark(palette)
+        ? DifferenceColours{0x4a3a12, 0x7d5a00, 0xffb74d, 0xffc978, 0x4a2626, 0x1f3d2b}
+        : DifferenceColours{0xfff0cc, 0xffd166, 0xc26a00, 0x8a4400, 0xfde7e4, 0xe0f3e6};
+}
+
 }  // namespace theme

@@ -25,4 +25,16 @@ void apply(bool dark);
 /// The colour of a frame round what can be typed or clicked into.
 [[nodiscard]] QColor frameColour(const QPalette& palette);
 
+/// How differences stand out in a table.
+struct DifferenceColours
+{
+    QColor ground;  ///< of an unequal value
+    QColor letters;  ///< the ground of its letters that differ
+    QColor mark;  ///< in the corner of its cell
+    QColor difference;  ///< a number that tells how far values are apart
+    QColor baseOnly;  ///< the ground of an observation of one side
+    QColor compareOnly;
+};
+[[nodiscard]] DifferenceColours differenceColours(const QPalette& palette);
+
 }  // namespace theme
