@@ -338,7 +338,6 @@ QString DifferenceModel::titleTip(int column) const
     if (column < leadingColumns()) {
         return asPlainText(label);
     }
-    const int count = static_cast<int>(variable(column).unequal.size());
-    const QString differences = tr("%n value(s) differ", nullptr, count);
+    const QString differences = tr("Unequal values: %L1").arg(variable(column).unequal.size());
     return asPlainText(label.isEmpty() ? differences : label + u'\n' + differences);
 }

@@ -365,5 +365,8 @@ void DifferenceView::showEvent(QShowEvent* event)
     PanelTable::showEvent(event);
     if (!m_leadingAreFitted) {
         fitNewColumns();
+        if (currentIndex().isValid()) {
+            scrollTo(currentIndex());
+        }
     }
 }

@@ -97,11 +97,12 @@ QBoxLayout* DifferenceWindow::createSummary()
         return label;
     };
     const auto& observations = m_comparison->observations();
-    const auto count = [](std::size_t read) { return static_cast<int>(read); };
-    add(tr("Base: %1 with %n observation(s)", nullptr, count(observations.base.read))
-            .arg(QString::fromStdString(m_comparison->baseName())));
-    add(tr("Compare: %1 with %n observation(s)", nullptr, count(observations.compare.read))
-            .arg(QString::fromStdString(m_comparison->compareName())));
+    add(tr("Base: %1 (observations: %L2)")
+            .arg(QString::fromStdString(m_comparison->baseName()))
+            .arg(observations.base.read));
+    add(tr("Compare: %1 (observations: %L2)")
+            .arg(QString::fromStdString(m_comparison->compareName()))
+            .arg(observations.compare.read));
     add(tr("Method: %1").arg(QString::fromStdString(ruleText(m_comparison->rule()))));
     const unsigned sysInfo = m_comparison->sysInfo();
     QLabel* outcome = add(sysInfo == 0 ? tr("Equal") : tr("SYSINFO: %1").arg(sysInfo));
@@ -126,10 +127,10 @@ QBoxLayout* DifferenceWindow::createBar()
         connect(box, &QCheckBox::toggled, this, &DifferenceWindow::applyFilter);
     }
     bar->addSpacing(8);
-    m_previous = addWay(*bar, tr("Previous Difference"), Qt::UpArrow,
+    m_previous = addWay(*bar, tr("Previous"), tr("Previous difference (%1 or %2)"), Qt::UpArrow,
                         {Qt::SHIFT | Qt::Key_F8, Qt::ALT | Qt::Key_Up},
                         &DifferenceView::goToPrevious);
-    m_next = addWay(*bar, tr("Next Difference"), Qt::DownArrow,
+    m_next = addWay(*bar, tr("Next"), tr("Next difference (%1 or %2)"), Qt::DownArrow,
                     {Qt::Key_F8, Qt::ALT | Qt::Key_Down}, &DifferenceView::goToNext);
     m_place->setObjectName(QStringLiteral("place"));
     m_wrapping->setObjectName(QStringLiteral("wrapping"));
@@ -151,7 +152,8 @@ QBoxLayout* DifferenceWindow::createBar()
 }
 
 /// A button and its keys, which act wherever the focus is in this window.
-QToolButton* DifferenceWindow::addWay(QBoxLayout& bar, const QString& text, Qt::ArrowType arrow,
+QToolButton* DifferenceWindow::addWay(QBoxLayout& bar, const QString& text, const QString& tip,
+                                      Qt::ArrowType arrow,
                                       const QList<QKeySequence>& keys,
                                       void (DifferenceView::*go)())
 {
@@ -159,10 +161,10 @@ QToolButton* DifferenceWindow::addWay(QBoxLayout& bar, const QString& text, Qt::
     button->setArrowType(arrow);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
-    button->setAccessibleName(text);
-    button->setToolTip(tr("%1 (%2 or %3)")
-                           .arg(text, keys.first().toString(QKeySequence::NativeText),
-                                keys.last().toString(QKeySequence::NativeText)));
+    button->setText(text);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setToolTip(tip.arg(keys.first().toString(QKeySequence::NativeText),
+                           keys.last().toString(QKeySequence::NativeText)));
     connect(button, &QToolButton::clicked, m_view, go);
     bar.addWidget(button);
     auto* shortcut = new QShortcut(this);
@@ -191,14 +193,14 @@ void DifferenceWindow::showPlace()
         m_place->setText(
             tr("Difference %L1 of %L2").arg(rows.differencesBefore(model.placeOf(current)) + 1).arg(count));
     } else {
-        m_place->setText(tr("%Ln difference(s)", nullptr, static_cast<int>(count)));
+        m_place->setText(tr("Differences: %L1").arg(count));
     }
     m_wrapping->clear();
     m_previous->setEnabled(count > 0);
     m_next->setEnabled(count > 0);
     const int hidden = m_view->hiddenVariables();
     m_hidden->setHidden(hidden == 0);
-    m_hidden->setText(tr("%n variable(s) hidden", nullptr, hidden));
+    m_hidden->setText(tr("Hidden variables: %1").arg(hidden));
 }
 
 void DifferenceWindow::showWrapping(bool forwards)

@@ -41,7 +41,7 @@ signals:
 private:
     [[nodiscard]] QBoxLayout* createSummary();
     [[nodiscard]] QBoxLayout* createBar();
-    QToolButton* addWay(QBoxLayout& bar, const QString& text, Qt::ArrowType arrow,
+    QToolButton* addWay(QBoxLayout& bar, const QString& text, const QString& tip, Qt::ArrowType arrow,
                         const QList<QKeySequence>& keys, void (DifferenceView::*go)());
     void applyFilter();
     void showPlace();

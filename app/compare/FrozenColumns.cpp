@@ -3,6 +3,7 @@
 #include "grid/GridHeader.h"
 
 #include <QHeaderView>
+#include <QPainter>
 #include <QScrollBar>
 
 FrozenColumns::FrozenColumns(QTableView& table, int count)
@@ -85,4 +86,14 @@ void FrozenColumns::place()
     show();
     raise();
     verticalScrollBar()->setValue(m_table.verticalScrollBar()->value());
+}
+
+/// A line parts what stays from what moves below it.
+void FrozenColumns::paintEvent(QPaintEvent* event)
+{
+    QTableView::paintEvent(event);
+    QPainter painter(viewport());
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    const int right = viewport()->width() - 1;
+    painter.drawLine(right, 0, right, viewport()->height());
 }

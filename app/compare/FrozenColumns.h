@@ -21,6 +21,9 @@ public:
     /// Covers what has to be covered; to be called when the table has another size.
     void place();
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     void followColumns();
 
