@@ -410,6 +410,251 @@ Möchten Sie das Dataset neu laden?</translation>
     </message>
 </context>
 <context>
+    <name>DifferenceModel</name>
+    <message>
+        <source>Base</source>
+        <translation>Basis</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Vergleich</translation>
+    </message>
+    <message>
+        <source>Diff.</source>
+        <translation>Diff.</translation>
+    </message>
+    <message>
+        <source>% Diff</source>
+        <translation>% Diff</translation>
+    </message>
+    <message>
+        <source>Only in base</source>
+        <translation>Nur in der Basis</translation>
+    </message>
+    <message>
+        <source>Only in compare</source>
+        <translation>Nur im Vergleich</translation>
+    </message>
+    <message>
+        <source>Base: %1</source>
+        <translation>Basis: %1</translation>
+    </message>
+    <message>
+        <source>Compare: %1</source>
+        <translation>Vergleich: %1</translation>
+    </message>
+    <message>
+        <source>Difference: %1</source>
+        <translation>Differenz: %1</translation>
+    </message>
+    <message>
+        <source>Difference: %1 (%2 %)</source>
+        <translation>Differenz: %1 (%2 %)</translation>
+    </message>
+    <message>
+        <source>%1, differs</source>
+        <translation>%1, weicht ab</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Obs</source>
+        <translation>Beob.</translation>
+    </message>
+    <message>
+        <source>The number of the observation</source>
+        <translation>Die Nummer der Beobachtung</translation>
+    </message>
+    <message>
+        <source>Unequal values: %L1</source>
+        <translation>Ungleiche Werte: %L1</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceView</name>
+    <message>
+        <source>Differences</source>
+        <translation>Unterschiede</translation>
+    </message>
+    <message>
+        <source>Next Difference	F8</source>
+        <translation>Nächster Unterschied	F8</translation>
+    </message>
+    <message>
+        <source>Previous Difference	Shift+F8</source>
+        <translation>Voriger Unterschied	Shift+F8</translation>
+    </message>
+    <message>
+        <source>Go to the Datasets	Return</source>
+        <translation>Zu den Datasets gehen	Return</translation>
+    </message>
+    <message>
+        <source>Hide Variable	H</source>
+        <translation>Variable ausblenden	H</translation>
+    </message>
+    <message>
+        <source>Unhide Variables	U</source>
+        <translation>Variablen einblenden	U</translation>
+    </message>
+    <message>
+        <source>Copy	Ctrl+C</source>
+        <translation>Kopieren	Ctrl+C</translation>
+    </message>
+    <message>
+        <source>The variables that are shown have no differences.
+U shows the hidden ones.</source>
+        <translation>Die gezeigten Variablen weisen keine Unterschiede auf.
+U zeigt die ausgeblendeten.</translation>
+    </message>
+    <message>
+        <source>There are no differences: all compared values are equal,
+and no observation is in one dataset only.</source>
+        <translation>Es gibt keine Unterschiede: Alle verglichenen Werte sind gleich,
+und keine Beobachtung steht nur in einem der Datasets.</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceWindow</name>
+    <message>
+        <source>Dataset labels differ</source>
+        <translation>Die Labels der Datasets sind verschieden</translation>
+    </message>
+    <message>
+        <source>Dataset types differ</source>
+        <translation>Die Typen der Datasets sind verschieden</translation>
+    </message>
+    <message>
+        <source>Informats differ</source>
+        <translation>Informate sind verschieden</translation>
+    </message>
+    <message>
+        <source>Formats differ</source>
+        <translation>Formate sind verschieden</translation>
+    </message>
+    <message>
+        <source>Lengths differ</source>
+        <translation>Längen sind verschieden</translation>
+    </message>
+    <message>
+        <source>Labels differ</source>
+        <translation>Labels sind verschieden</translation>
+    </message>
+    <message>
+        <source>Observations are only in base</source>
+        <translation>Beobachtungen stehen nur in der Basis</translation>
+    </message>
+    <message>
+        <source>Observations are only in compare</source>
+        <translation>Beobachtungen stehen nur im Vergleich</translation>
+    </message>
+    <message>
+        <source>Variables are only in base</source>
+        <translation>Variablen stehen nur in der Basis</translation>
+    </message>
+    <message>
+        <source>Variables are only in compare</source>
+        <translation>Variablen stehen nur im Vergleich</translation>
+    </message>
+    <message>
+        <source>Values are unequal</source>
+        <translation>Werte sind ungleich</translation>
+    </message>
+    <message>
+        <source>Types of variables conflict</source>
+        <translation>Typen von Variablen widersprechen sich</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Only differing &amp;variables</source>
+        <translation>Nur abweichende &amp;Variablen</translation>
+    </message>
+    <message>
+        <source>Only differing &amp;observations</source>
+        <translation>Nur abweichende &amp;Beobachtungen</translation>
+    </message>
+    <message>
+        <source>&amp;Percent</source>
+        <translation>&amp;Prozent</translation>
+    </message>
+    <message>
+        <source>Compare %1 with %2</source>
+        <translation>%1 mit %2 vergleichen</translation>
+    </message>
+    <message>
+        <source>Base: %1 (observations: %L2)</source>
+        <translation>Basis: %1 (Beobachtungen: %L2)</translation>
+    </message>
+    <message>
+        <source>Compare: %1 (observations: %L2)</source>
+        <translation>Vergleich: %1 (Beobachtungen: %L2)</translation>
+    </message>
+    <message>
+        <source>Method: %1</source>
+        <translation>Methode: %1</translation>
+    </message>
+    <message>
+        <source>Equal</source>
+        <translation>Gleich</translation>
+    </message>
+    <message>
+        <source>SYSINFO: %1</source>
+        <translation>SYSINFO: %1</translation>
+    </message>
+    <message>
+        <source>Show differences in percent of the base, too</source>
+        <translation>Unterschiede auch in Prozent der Basis zeigen</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Voriger</translation>
+    </message>
+    <message>
+        <source>Previous difference (%1 or %2)</source>
+        <translation>Voriger Unterschied (%1 oder %2)</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nächster</translation>
+    </message>
+    <message>
+        <source>Next difference (%1 or %2)</source>
+        <translation>Nächster Unterschied (%1 oder %2)</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Speichern...</translation>
+    </message>
+    <message>
+        <source>Save all differences as a table</source>
+        <translation>Alle Unterschiede als Tabelle speichern</translation>
+    </message>
+    <message>
+        <source>Difference %L1 of %L2</source>
+        <translation>Unterschied %L1 von %L2</translation>
+    </message>
+    <message>
+        <source>Differences: %L1</source>
+        <translation>Unterschiede: %L1</translation>
+    </message>
+    <message>
+        <source>Hidden variables: %1</source>
+        <translation>Ausgeblendete Variablen: %1</translation>
+    </message>
+    <message>
+        <source>Went on from the first difference</source>
+        <translation>Beim ersten Unterschied fortgesetzt</translation>
+    </message>
+    <message>
+        <source>Went on from the last difference</source>
+        <translation>Beim letzten Unterschied fortgesetzt</translation>
+    </message>
+</context>
+<context>
     <name>DistributionChart</name>
     <message>
         <source>Distribution</source>

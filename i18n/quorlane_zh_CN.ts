@@ -410,6 +410,251 @@ Do you want to reload it?</source>
     </message>
 </context>
 <context>
+    <name>DifferenceModel</name>
+    <message>
+        <source>Base</source>
+        <translation>基准</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>对比</translation>
+    </message>
+    <message>
+        <source>Diff.</source>
+        <translation>差值</translation>
+    </message>
+    <message>
+        <source>% Diff</source>
+        <translation>差值 %</translation>
+    </message>
+    <message>
+        <source>Only in base</source>
+        <translation>仅在基准中</translation>
+    </message>
+    <message>
+        <source>Only in compare</source>
+        <translation>仅在对比中</translation>
+    </message>
+    <message>
+        <source>Base: %1</source>
+        <translation>基准：%1</translation>
+    </message>
+    <message>
+        <source>Compare: %1</source>
+        <translation>对比：%1</translation>
+    </message>
+    <message>
+        <source>Difference: %1</source>
+        <translation>差值：%1</translation>
+    </message>
+    <message>
+        <source>Difference: %1 (%2 %)</source>
+        <translation>差值：%1（%2 %）</translation>
+    </message>
+    <message>
+        <source>%1, differs</source>
+        <translation>%1，不一致</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Obs</source>
+        <translation>观测</translation>
+    </message>
+    <message>
+        <source>The number of the observation</source>
+        <translation>观测号</translation>
+    </message>
+    <message>
+        <source>Unequal values: %L1</source>
+        <translation>不相等的值：%L1</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceView</name>
+    <message>
+        <source>Differences</source>
+        <translation>差异</translation>
+    </message>
+    <message>
+        <source>Next Difference	F8</source>
+        <translation>下一处差异	F8</translation>
+    </message>
+    <message>
+        <source>Previous Difference	Shift+F8</source>
+        <translation>上一处差异	Shift+F8</translation>
+    </message>
+    <message>
+        <source>Go to the Datasets	Return</source>
+        <translation>转到数据集	Return</translation>
+    </message>
+    <message>
+        <source>Hide Variable	H</source>
+        <translation>隐藏变量	H</translation>
+    </message>
+    <message>
+        <source>Unhide Variables	U</source>
+        <translation>取消隐藏变量	U</translation>
+    </message>
+    <message>
+        <source>Copy	Ctrl+C</source>
+        <translation>复制	Ctrl+C</translation>
+    </message>
+    <message>
+        <source>The variables that are shown have no differences.
+U shows the hidden ones.</source>
+        <translation>显示的变量没有差异。
+按 U 显示隐藏的变量。</translation>
+    </message>
+    <message>
+        <source>There are no differences: all compared values are equal,
+and no observation is in one dataset only.</source>
+        <translation>没有差异：所有对比的值都相等，
+也没有仅在一个数据集中的观测。</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceWindow</name>
+    <message>
+        <source>Dataset labels differ</source>
+        <translation>数据集标签不同</translation>
+    </message>
+    <message>
+        <source>Dataset types differ</source>
+        <translation>数据集类型不同</translation>
+    </message>
+    <message>
+        <source>Informats differ</source>
+        <translation>输入格式不同</translation>
+    </message>
+    <message>
+        <source>Formats differ</source>
+        <translation>格式不同</translation>
+    </message>
+    <message>
+        <source>Lengths differ</source>
+        <translation>长度不同</translation>
+    </message>
+    <message>
+        <source>Labels differ</source>
+        <translation>标签不同</translation>
+    </message>
+    <message>
+        <source>Observations are only in base</source>
+        <translation>有观测仅在基准中</translation>
+    </message>
+    <message>
+        <source>Observations are only in compare</source>
+        <translation>有观测仅在对比中</translation>
+    </message>
+    <message>
+        <source>Variables are only in base</source>
+        <translation>有变量仅在基准中</translation>
+    </message>
+    <message>
+        <source>Variables are only in compare</source>
+        <translation>有变量仅在对比中</translation>
+    </message>
+    <message>
+        <source>Values are unequal</source>
+        <translation>有值不相等</translation>
+    </message>
+    <message>
+        <source>Types of variables conflict</source>
+        <translation>变量类型冲突</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Only differing &amp;variables</source>
+        <translation>仅显示有差异的变量(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Only differing &amp;observations</source>
+        <translation>仅显示有差异的观测(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Percent</source>
+        <translation>百分比(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Compare %1 with %2</source>
+        <translation>%1 与 %2 对比</translation>
+    </message>
+    <message>
+        <source>Base: %1 (observations: %L2)</source>
+        <translation>基准：%1（观测数：%L2）</translation>
+    </message>
+    <message>
+        <source>Compare: %1 (observations: %L2)</source>
+        <translation>对比：%1（观测数：%L2）</translation>
+    </message>
+    <message>
+        <source>Method: %1</source>
+        <translation>方法：%1</translation>
+    </message>
+    <message>
+        <source>Equal</source>
+        <translation>相等</translation>
+    </message>
+    <message>
+        <source>SYSINFO: %1</source>
+        <translation>SYSINFO：%1</translation>
+    </message>
+    <message>
+        <source>Show differences in percent of the base, too</source>
+        <translation>同时以基准的百分比显示差值</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>上一处</translation>
+    </message>
+    <message>
+        <source>Previous difference (%1 or %2)</source>
+        <translation>上一处差异（%1 或 %2）</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一处</translation>
+    </message>
+    <message>
+        <source>Next difference (%1 or %2)</source>
+        <translation>下一处差异（%1 或 %2）</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>保存(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Save all differences as a table</source>
+        <translation>将所有差异保存为表格</translation>
+    </message>
+    <message>
+        <source>Difference %L1 of %L2</source>
+        <translation>差异 %L1 / %L2</translation>
+    </message>
+    <message>
+        <source>Differences: %L1</source>
+        <translation>差异：%L1</translation>
+    </message>
+    <message>
+        <source>Hidden variables: %1</source>
+        <translation>隐藏的变量：%1</translation>
+    </message>
+    <message>
+        <source>Went on from the first difference</source>
+        <translation>已从第一处差异继续</translation>
+    </message>
+    <message>
+        <source>Went on from the last difference</source>
+        <translation>已从最后一处差异继续</translation>
+    </message>
+</context>
+<context>
     <name>DistributionChart</name>
     <message>
         <source>Distribution</source>

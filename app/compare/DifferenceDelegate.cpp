@@ -24,9 +24,9 @@ QBrush groundOf(const Cell& cell, const QPalette& palette)
     case Line::CompareOnly:
         return colours.compareOnly;
     default:
-        return cell.isUnequal ? QBrush(colours.ground)
-                              : palette.brush(cell.isOddGroup ? QPalette::AlternateBase
-                                                              : QPalette::Base);
+        return cell.isUnequal
+            ? QBrush(colours.ground)
+            : palette.brush(cell.isOddGroup ? QPalette::AlternateBase : QPalette::Base);
     }
 }
 
@@ -36,8 +36,8 @@ QColor textOf(const Cell& cell, const QPalette& palette)
     if (cell.isUnequal && showsDifference) {
         return theme::differenceColours(palette).difference;
     }
-    const bool repeats = cell.line == Line::Compare && !cell.isUnequal
-        && (cell.isLeading || !showsDifference);
+    const bool repeats =
+        cell.line == Line::Compare && !cell.isUnequal && (cell.isLeading || !showsDifference);
     const bool isDimmed = repeats || (showsDifference && !cell.isUnequal);
     return palette.color(isDimmed ? QPalette::PlaceholderText : QPalette::Text);
 }
@@ -209,16 +209,15 @@ void DifferenceDelegate::paintLetters(QPainter* painter, QStyleOptionViewItem& o
     const comparison::ValueTexts texts = m_model.texts(index);
     const auto [base, compare] = comparison::textDifference(texts.base, texts.compare);
     const bool isBase = m_model.cell(index).line == Line::Base;
-    Letters letters = isBase ? lettersOf(texts.base, base, differs)
-                             : lettersOf(texts.compare, compare, differs);
+    Letters letters =
+        isBase ? lettersOf(texts.base, base, differs) : lettersOf(texts.compare, compare, differs);
     const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, &option) + 1;
     const int width = room.width() - 2 * margin;
     // The beginning is cut at one place in both texts, which share all of it.
     const std::size_t shared =
         std::min(base.empty() ? texts.base.size() : base.front().begin,
                  compare.empty() ? texts.compare.size() : compare.front().begin);
-    const QString beginning =
-        QString::fromUtf8(texts.base.data(), static_cast<qsizetype>(shared));
+    const QString beginning = QString::fromUtf8(texts.base.data(), static_cast<qsizetype>(shared));
     bringIntoSight(letters, static_cast<int>(beginning.size()), width, option.fontMetrics);
     QTextLayout layout(QString(), option.font);
     layOut(layout, letters);

@@ -104,9 +104,9 @@ ValueTexts DifferenceModel::texts(const QModelIndex& index) const
 
 DifferenceModel::Place DifferenceModel::placeOf(const QModelIndex& index) const
 {
-    return {m_rows.row(static_cast<std::size_t>(index.row())).group,
-            std::max(index.column() - leadingColumns(),
-                     comparison::DifferenceRows::wholeObservation)};
+    return {
+        m_rows.row(static_cast<std::size_t>(index.row())).group,
+        std::max(index.column() - leadingColumns(), comparison::DifferenceRows::wholeObservation)};
 }
 
 QModelIndex DifferenceModel::indexOf(const Place& place, Line line) const
@@ -124,8 +124,7 @@ QModelIndex DifferenceModel::indexOf(const Place& place, Line line) const
 
 std::pair<int, int> DifferenceModel::observationsOf(int row) const
 {
-    const ObservationPair& pair =
-        m_rows.pair(m_rows.row(static_cast<std::size_t>(row)).group);
+    const ObservationPair& pair = m_rows.pair(m_rows.row(static_cast<std::size_t>(row)).group);
     const auto number = [](std::uint32_t observation) {
         return observation == comparison::noObservation ? -1 : static_cast<int>(observation);
     };
@@ -248,8 +247,7 @@ QString DifferenceModel::differenceText(std::size_t group, Line line, int column
     if (!isSome) {
         return {};
     }
-    return line == Line::Difference ? differenceOf(numbers.difference)
-                                    : percentOf(numbers.percent);
+    return line == Line::Difference ? differenceOf(numbers.difference) : percentOf(numbers.percent);
 }
 
 /// The values of a difference with all that the cells have no room for.

@@ -146,8 +146,9 @@ void DifferenceView::restore(const Whereabouts& place)
 std::optional<std::size_t> DifferenceView::currentVariable() const
 {
     const int column = currentIndex().column() - m_model->leadingColumns();
-    return column < 0 ? std::nullopt
-                      : std::optional(m_model->rows().variables()[static_cast<std::size_t>(column)]);
+    return column < 0
+        ? std::nullopt
+        : std::optional(m_model->rows().variables()[static_cast<std::size_t>(column)]);
 }
 
 void DifferenceView::hideVariable()

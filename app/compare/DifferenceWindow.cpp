@@ -127,9 +127,9 @@ QBoxLayout* DifferenceWindow::createBar()
         connect(box, &QCheckBox::toggled, this, &DifferenceWindow::applyFilter);
     }
     bar->addSpacing(8);
-    m_previous = addWay(*bar, tr("Previous"), tr("Previous difference (%1 or %2)"), Qt::UpArrow,
-                        {Qt::SHIFT | Qt::Key_F8, Qt::ALT | Qt::Key_Up},
-                        &DifferenceView::goToPrevious);
+    m_previous =
+        addWay(*bar, tr("Previous"), tr("Previous difference (%1 or %2)"), Qt::UpArrow,
+               {Qt::SHIFT | Qt::Key_F8, Qt::ALT | Qt::Key_Up}, &DifferenceView::goToPrevious);
     m_next = addWay(*bar, tr("Next"), tr("Next difference (%1 or %2)"), Qt::DownArrow,
                     {Qt::Key_F8, Qt::ALT | Qt::Key_Down}, &DifferenceView::goToNext);
     m_place->setObjectName(QStringLiteral("place"));
@@ -153,8 +153,7 @@ QBoxLayout* DifferenceWindow::createBar()
 
 /// A button and its keys, which act wherever the focus is in this window.
 QToolButton* DifferenceWindow::addWay(QBoxLayout& bar, const QString& text, const QString& tip,
-                                      Qt::ArrowType arrow,
-                                      const QList<QKeySequence>& keys,
+                                      Qt::ArrowType arrow, const QList<QKeySequence>& keys,
                                       void (DifferenceView::*go)())
 {
     auto* button = new QToolButton(this);
@@ -164,7 +163,7 @@ QToolButton* DifferenceWindow::addWay(QBoxLayout& bar, const QString& text, cons
     button->setText(text);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setToolTip(tip.arg(keys.first().toString(QKeySequence::NativeText),
-                           keys.last().toString(QKeySequence::NativeText)));
+                               keys.last().toString(QKeySequence::NativeText)));
     connect(button, &QToolButton::clicked, m_view, go);
     bar.addWidget(button);
     auto* shortcut = new QShortcut(this);
@@ -190,8 +189,9 @@ void DifferenceWindow::showPlace()
     const std::size_t count = rows.differenceCount();
     const QModelIndex current = m_view->currentIndex();
     if (current.isValid() && rows.isDifference(model.placeOf(current))) {
-        m_place->setText(
-            tr("Difference %L1 of %L2").arg(rows.differencesBefore(model.placeOf(current)) + 1).arg(count));
+        m_place->setText(tr("Difference %L1 of %L2")
+                             .arg(rows.differencesBefore(model.placeOf(current)) + 1)
+                             .arg(count));
     } else {
         m_place->setText(tr("Differences: %L1").arg(count));
     }

@@ -41,8 +41,9 @@ signals:
 private:
     [[nodiscard]] QBoxLayout* createSummary();
     [[nodiscard]] QBoxLayout* createBar();
-    QToolButton* addWay(QBoxLayout& bar, const QString& text, const QString& tip, Qt::ArrowType arrow,
-                        const QList<QKeySequence>& keys, void (DifferenceView::*go)());
+    QToolButton* addWay(QBoxLayout& bar, const QString& text, const QString& tip,
+                        Qt::ArrowType arrow, const QList<QKeySequence>& keys,
+                        void (DifferenceView::*go)());
     void applyFilter();
     void showPlace();
     void showWrapping(bool forwards);

@@ -2,9 +2,11 @@
 
 #include "grid/GridHeader.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QPainter>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 FrozenColumns::FrozenColumns(QTableView& table, int count)
     : QTableView(&table)
@@ -19,6 +21,7 @@ FrozenColumns::FrozenColumns(QTableView& table, int count)
     setFrameShape(QFrame::NoFrame);
     setWordWrap(false);
     setShowGrid(table.showGrid());
+    setAutoScroll(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(table.verticalScrollMode());
@@ -41,10 +44,10 @@ FrozenColumns::FrozenColumns(QTableView& table, int count)
                     m_table.setColumnWidth(column, width);
                 }
             });
-    connect(table.verticalScrollBar(), &QAbstractSlider::valueChanged, verticalScrollBar(),
-            &QAbstractSlider::setValue);
-    connect(verticalScrollBar(), &QAbstractSlider::valueChanged, table.verticalScrollBar(),
-            &QAbstractSlider::setValue);
+    // The table may be scrolled before this one knows that it has so many rows.
+    connect(table.verticalScrollBar(), &QAbstractSlider::valueChanged, this,
+            &FrozenColumns::followRows);
+    connect(verticalScrollBar(), &QAbstractSlider::rangeChanged, this, &FrozenColumns::followRows);
     connect(table.horizontalScrollBar(), &QAbstractSlider::valueChanged, this,
             &FrozenColumns::place);
 }
@@ -81,11 +84,20 @@ void FrozenColumns::place()
     }
     const int headerHeight = m_table.horizontalHeader()->height();
     horizontalHeader()->setFixedHeight(headerHeight);
-    setGeometry(ground.left(), ground.top() - headerHeight, wanted,
-                ground.height() + headerHeight);
+    setGeometry(ground.left(), ground.top() - headerHeight, wanted, ground.height() + headerHeight);
     show();
     raise();
+    followRows();
+}
+
+void FrozenColumns::followRows()
+{
     verticalScrollBar()->setValue(m_table.verticalScrollBar()->value());
+}
+
+void FrozenColumns::wheelEvent(QWheelEvent* event)
+{
+    QCoreApplication::sendEvent(m_table.viewport(), event);
 }
 
 /// A line parts what stays from what moves below it.

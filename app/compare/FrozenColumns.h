@@ -23,9 +23,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     void followColumns();
+    void followRows();
 
     QTableView& m_table;
     int m_count;
