@@ -11,8 +11,8 @@
 #include "grid/WaitCursor.h"
 
 #include <QComboBox>
-#include <QDir>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -65,6 +65,8 @@ CompareDialog::CompareDialog(Settings& settings, QWidget* parent)
     createSide(*m_compare, QStringLiteral("comboBoxCompare"));
     createVariables();
     createLayout();
+    constexpr QSize roomy(780, 720);
+    resize(roomy);
     constexpr int pauseInTyping = 250;  // milliseconds
     m_keysTimer.setSingleShot(true);
     m_keysTimer.setInterval(pauseInTyping);
@@ -182,9 +184,9 @@ void CompareDialog::setDatasets(const QList<DatasetWindow*>& windows)
         const QSignalBlocker quiet(side);
         side->clear();
         for (const DatasetWindow* window : windows) {
-            side->addItem(window->windowIcon(),
-                          tr("%1 - %2").arg(window->datasetName(),
-                                            QDir::toNativeSeparators(window->path())));
+            side->addItem(
+                window->windowIcon(),
+                tr("%1 - %2").arg(window->datasetName(), QDir::toNativeSeparators(window->path())));
         }
         side->setCurrentIndex(-1);
     }
@@ -230,7 +232,8 @@ void CompareDialog::followSides()
 {
     m_problem->clear();
     const bool areBoth = base() != nullptr && compare() != nullptr;
-    for (QWidget* part : std::initializer_list<QWidget*>{m_run, m_program, m_propose, m_id, m_var}) {
+    for (QWidget* part :
+         std::initializer_list<QWidget*>{m_run, m_program, m_propose, m_id, m_var}) {
         part->setEnabled(areBoth);
     }
     if (!areBoth) {
@@ -267,9 +270,9 @@ void CompareDialog::showVariables(const DatasetWindow& base, const DatasetWindow
     const auto sizes = [](const StatDataset& dataset) {
         return tr("%1 x %2").arg(dataset.observationCount()).arg(dataset.variableCount());
     };
-    m_about->setText(tr("Observations x variables: %1 and %2, %n variable(s) in common", nullptr,
-                        static_cast<int>(matched.value().common.size()))
-                         .arg(sizes(one), sizes(other)));
+    m_about->setText(tr("Observations x variables: %1 and %2; variables in common: %3")
+                         .arg(sizes(one), sizes(other))
+                         .arg(matched.value().common.size()));
 }
 
 // ID variables
@@ -312,10 +315,9 @@ QString CompareDialog::keysText() const
         }
         repeated += found.value();
     }
-    return repeated == 0
-        ? tr("Each observation has ID values of its own.")
-        : tr("%n observation(s) repeat ID values; they are paired in their order.", nullptr,
-             static_cast<int>(repeated));
+    return repeated == 0 ? tr("Each observation has ID values of its own.")
+                         : tr("%n observation(s) repeat ID values; they are paired in their order.",
+                              nullptr, static_cast<int>(repeated));
 }
 
 // What is asked for

@@ -96,8 +96,7 @@ QGroupBox* CompareOptionsPanel::createReport()
 {
     auto* group = new QGroupBox(tr("Report"), this);
     auto* boxes = new QGridLayout;
-    addBox(*boxes, 0, 0, u"listVariables"_s, tr("Variables of one side"))
-        ->setToolTip(u"LISTVAR"_s);
+    addBox(*boxes, 0, 0, u"listVariables"_s, tr("Variables of one side"))->setToolTip(u"LISTVAR"_s);
     addBox(*boxes, 1, 0, u"listObservations"_s, tr("Observations of one side"))
         ->setToolTip(u"LISTOBS"_s);
     addBox(*boxes, 2, 0, u"listEqual"_s, tr("Variables with equal values"))
@@ -127,8 +126,8 @@ QGroupBox* CompareOptionsPanel::createReport()
 
     auto* form = new QFormLayout(group);
     form->addRow(boxes);
-    form->addRow(tr("Di&fferences per variable:"), limits);
-    form->addRow(tr("&Width of lines:"), widths);
+    form->addRow(tr("Differences per variable:"), limits);
+    form->addRow(tr("Width of lines:"), widths);
     form->addRow(tr("F&uzz:"), m_fuzz);
     return group;
 }

@@ -5,8 +5,8 @@
 
 #include <memory>
 
-/// A comparison of two open datasets, which it keeps for as long as it is shown, whatever becomes of
-/// their windows.
+/// A comparison of two open datasets, which it keeps for as long as it is shown, whatever becomes
+/// of their windows.
 struct ComparedDatasets
 {
     std::shared_ptr<StatDataset> base;

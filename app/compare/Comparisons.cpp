@@ -11,7 +11,6 @@
 #include "app/dialogs/UserPrompts.h"
 #include "app/docks/OutputView.h"
 #include "app/open/DatasetOpener.h"
-#include "app/open/DialogFilter.h"
 #include "app/start/Settings.h"
 #include "data/readers/FileKinds.h"
 #include "grid/MainTableView.h"
@@ -69,7 +68,8 @@ Comparisons::Comparisons(const Surroundings& surroundings)
 QList<DatasetWindow*> Comparisons::datasets() const
 {
     QList<DatasetWindow*> windows;
-    for (QMdiSubWindow* each : m_surroundings.area.subWindowList(QMdiArea::ActivationHistoryOrder)) {
+    for (QMdiSubWindow* each :
+         m_surroundings.area.subWindowList(QMdiArea::ActivationHistoryOrder)) {
         if (auto* window = qobject_cast<DatasetWindow*>(each)) {
             windows.prepend(window);
         }
@@ -86,8 +86,7 @@ void Comparisons::showDialog()
     dialog->choose(windows.value(0), windows.value(1));
     connect(dialog, &CompareDialog::signalOpenRequested, this,
             [this, dialog](bool isBase) { open(*dialog, isBase); });
-    connect(dialog, &CompareDialog::signalCompareRequested, this,
-            [this, dialog] { run(*dialog); });
+    connect(dialog, &CompareDialog::signalCompareRequested, this, [this, dialog] { run(*dialog); });
     connect(dialog, &CompareDialog::signalProgramRequested, this,
             [this, dialog] { writeProgram(*dialog); });
     dialog->open();
@@ -119,10 +118,9 @@ DatasetWindow* Comparisons::windowOf(const QString& path) const
 void Comparisons::open(CompareDialog& dialog, bool isBase)
 {
     Settings& settings = m_surroundings.settings;
-    const QString filters = filekinds::allFilters();
-    const QStringList paths =
-        m_surroundings.prompts.chooseFiles(tr("Open File"), settings.lastFolder(), filters,
-                                           filters.section(u";;"_s, 0, 0));
+    const QString filters = filekinds::filtersOfAll();
+    const QStringList paths = m_surroundings.prompts.chooseFiles(
+        tr("Open File"), settings.lastFolder(), filters, filters);
     for (const QString& path : paths) {
         settings.setLastFolder(QFileInfo(path).absolutePath());
         DatasetWindow* window = windowOf(path);
@@ -169,10 +167,9 @@ void Comparisons::run(CompareDialog& dialog)
 
 void Comparisons::report(const ComparedDatasets& compared, const CompareDialog& dialog)
 {
-    m_surroundings.output.add(
-        QString::fromStdString(
-            comparison::reportText(compared.result, dialog.reportOptions().value())),
-        u"compare-%1.txt"_s.arg(dialog.base()->datasetName().toLower()));
+    m_surroundings.output.add(QString::fromStdString(comparison::reportText(
+                                  compared.result, dialog.reportOptions().value())),
+                              u"compare-%1.txt"_s.arg(dialog.base()->datasetName().toLower()));
     emit signalReported();
 }
 
@@ -211,10 +208,9 @@ void Comparisons::writeProgram(CompareDialog& dialog)
         dialog.tell(translated(request ? options.error() : request.error()));
         return;
     }
-    m_surroundings.code.addProgram(QString::fromStdString(
-        comparison::programText(sourceOf(*dialog.base(), dialog.filtersCount()),
-                                sourceOf(*dialog.compare(), dialog.filtersCount()),
-                                request.value(), options.value())));
+    m_surroundings.code.addProgram(QString::fromStdString(comparison::programText(
+        sourceOf(*dialog.base(), dialog.filtersCount()),
+        sourceOf(*dialog.compare(), dialog.filtersCount()), request.value(), options.value())));
     dialog.rememberOptions();
     dialog.accept();
     emit signalProgramWritten();
@@ -292,11 +288,11 @@ void Comparisons::save(const ComparisonWindow& window)
         const comparison::Comparison& result = compared.result;
         filesaving::save(
             m_surroundings.prompts, title, path,
-            QString::fromStdString(comparison::json(
-                result,
-                {compared.baseOrigin.filePath.toStdString(),
-                 compared.compareOrigin.filePath.toStdString(),
-                 result.sysInfo() >= comparison::firstDataBit, /*listsDifferences=*/true}))
+            QString::fromStdString(comparison::json(result,
+                                                    {compared.baseOrigin.filePath.toStdString(),
+                                                     compared.compareOrigin.filePath.toStdString(),
+                                                     result.sysInfo() >= comparison::firstDataBit,
+                                                     /*listsDifferences=*/true}))
                 + u'\n');
     } else if (const std::optional<QString> problem = window.differences().save(path)) {
         m_surroundings.prompts.warn(title, tr("Failed to save the file: %1").arg(path), *problem);

@@ -18,8 +18,8 @@ class Settings;
 class UserPrompts;
 struct ComparedDatasets;
 
-/// Comparing open datasets: the dialog that asks for it, the report, the grid of the differences and
-/// the ways from there into the datasets.
+/// Comparing open datasets: the dialog that asks for it, the report, the grid of the differences
+/// and the ways from there into the datasets.
 class Comparisons : public QObject
 {
     Q_OBJECT

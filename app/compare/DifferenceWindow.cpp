@@ -109,6 +109,11 @@ QBoxLayout* DifferenceWindow::createSummary()
     outcome->setObjectName(QStringLiteral("outcome"));
     outcome->setToolTip(meaningOf(sysInfo));
     row->addStretch();
+    auto* together = new QCheckBox(tr("Scroll &together"), this);
+    together->setToolTip(tr("Going to a row of one dataset goes to its partner in the other"));
+    together->setChecked(true);
+    connect(together, &QCheckBox::toggled, this, &DifferenceWindow::signalTogetherChanged);
+    row->addWidget(together);
     return row;
 }
 

@@ -37,6 +37,8 @@ signals:
                          int compareVariable);
     /// The user wants the differences in a file.
     void signalSaveRequested();
+    /// Whether the grids of the two datasets are to follow each other.
+    void signalTogetherChanged(bool areTogether);
 
 private:
     [[nodiscard]] QBoxLayout* createSummary();

@@ -45,12 +45,10 @@ void LinkedGrids::link(MainTableView* base, MainTableView* compare)
     if (base == nullptr || compare == nullptr || base == compare) {
         return;
     }
-    connect(base, &GridTable::signalCurrentCellChanged, this, [this] {
-        follow(m_base, m_compare, m_observationsOfBase, m_variablesOfBase);
-    });
-    connect(compare, &GridTable::signalCurrentCellChanged, this, [this] {
-        follow(m_compare, m_base, m_observationsOfCompare, m_variablesOfCompare);
-    });
+    connect(base, &GridTable::signalCurrentCellChanged, this,
+            [this] { follow(m_base, m_compare, m_observationsOfBase, m_variablesOfBase); });
+    connect(compare, &GridTable::signalCurrentCellChanged, this,
+            [this] { follow(m_compare, m_base, m_observationsOfCompare, m_variablesOfCompare); });
 }
 
 void LinkedGrids::setActive(bool isActive)

@@ -97,8 +97,7 @@ void NamePicker::toggle(const QListWidgetItem& item)
     QStringList names;
     bool isThere = false;
     for (const QString& name : typed()) {
-        const bool isItem =
-            name.section(u'=', 0, 0).compare(item.text(), Qt::CaseInsensitive) == 0;
+        const bool isItem = name.section(u'=', 0, 0).compare(item.text(), Qt::CaseInsensitive) == 0;
         isThere = isThere || isItem;
         if (!isItem || item.checkState() == Qt::Checked) {
             names << (name.contains(u'=') ? name : variablenames::written(name));

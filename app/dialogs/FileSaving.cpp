@@ -13,10 +13,10 @@ bool save(UserPrompts& prompts, const QString& title, const QString& path, const
     const bool isSaved =
         file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) >= 0 && file.commit();
     if (!isSaved) {
-        prompts.warn(title,
-                     QCoreApplication::translate("FileSaving", "Failed to save the file: %1")
-                         .arg(path),
-                     file.errorString());
+        prompts.warn(
+            title,
+            QCoreApplication::translate("FileSaving", "Failed to save the file: %1").arg(path),
+            file.errorString());
     }
     return isSaved;
 }

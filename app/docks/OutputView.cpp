@@ -166,8 +166,7 @@ void OutputView::find(bool forwards)
     const QTextCursor place = m_text->textCursor();
     m_text->moveCursor(forwards ? QTextCursor::Start : QTextCursor::End);
     if (m_text->find(wanted, flags)) {
-        m_found->setText(forwards ? tr("Went on from the beginning")
-                                  : tr("Went on from the end"));
+        m_found->setText(forwards ? tr("Went on from the beginning") : tr("Went on from the end"));
     } else {
         m_text->setTextCursor(place);
         m_found->setText(tr("Not found"));
@@ -188,9 +187,8 @@ void OutputView::save()
     if (m_text->document()->isEmpty()) {
         return;
     }
-    const QString path =
-        m_prompts.chooseSaveFile(tr("Save Output"), m_fileName,
-                                 tr("Text Files (*.txt);;Listings (*.lst);;All Files (*)"));
+    const QString path = m_prompts.chooseSaveFile(
+        tr("Save Output"), m_fileName, tr("Text Files (*.txt);;Listings (*.lst);;All Files (*)"));
     if (!path.isEmpty()) {
         filesaving::save(m_prompts, tr("Save Output"), path, text() + u'\n');
     }

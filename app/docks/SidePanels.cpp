@@ -52,7 +52,7 @@ void PanelPlace::setPanel(QWidget* panel)
 }
 
 SidePanels::SidePanels(const DockWindows& docks)
-    : m_variables(fill(*docks.variables(), tr("Open a dataset to see its variables.")))
+    : m_variables(fill(*docks.variables(), tr("Open or choose a dataset to see its variables.")))
     , m_frequency(fill(*docks.frequency(),
                        tr("Press F in a grid to count the values of the selected variables, or N "
                           "to count distinct subjects.")))

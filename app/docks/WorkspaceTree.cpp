@@ -419,7 +419,11 @@ void WorkspaceTree::fillDatasetMenu(QMenu& menu, const QStandardItem& dataset)
     if (supplementOf(dataset) != nullptr) {
         add(&WorkspaceTree::signalJoinRequested, tr("Join SUPP--"));
     }
-    add(&WorkspaceTree::signalCompareRequested, tr("Compare With..."));
+    const QStringList paths = pathsWith(path);
+    if (isHeard(&WorkspaceTree::signalCompareRequested) && paths.size() <= 2) {
+        menu.addAction(paths.size() == 2 ? tr("Compare...") : tr("Compare With..."), this,
+                       [this, paths] { emit signalCompareRequested(paths); });
+    }
 }
 
 void WorkspaceTree::fillSessionMenu(QMenu& menu, const QStandardItem& session)

@@ -55,7 +55,8 @@ signals:
     void signalVariablesRequested(QStandardItem* library);
     void signalPropertiesRequested(QString path);
     void signalJoinRequested(QString path);
-    void signalCompareRequested(QString path);
+    /// One dataset, or two that are selected together.
+    void signalCompareRequested(QStringList paths);
     void signalSessionOpenRequested(qint64 id);
     void signalSessionDeleteRequested(qint64 id);
     void signalAddLibraryRequested();

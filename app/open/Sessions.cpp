@@ -43,12 +43,13 @@ bool Sessions::saveSession(const QString& name)
         prompts.warn(tr("Save Session"), tr("Session name cannot be empty."), QString());
         return false;
     }
-    if (m_surroundings.area.subWindowList().isEmpty()) {
+    const QList<SavedDataset> datasets = openDatasets();
+    if (datasets.isEmpty()) {
         prompts.inform(tr("Save Session"),
                        tr("No datasets are currently open to include in the session."));
         return false;
     }
-    if (const Result<bool> done = m_registry.save({trimmed, openDatasets()}); !done) {
+    if (const Result<bool> done = m_registry.save({trimmed, datasets}); !done) {
         prompts.critical(tr("Save Session"), QString::fromStdString(done.error()));
         return false;
     }

@@ -95,12 +95,12 @@ void Settings::setRecentFiles(const QStringList& paths)
 
 QVariant Settings::compareOption(const QString& name, const QVariant& fallback) const
 {
-    const QVariant value = m_store.value(u"compare/" + name, fallback);
+    const QVariant value = m_store.value(QLatin1String("compare/") + name, fallback);
     // Some stores keep texts only.
     return value.canConvert(fallback.metaType()) ? value : fallback;
 }
 
 void Settings::setCompareOption(const QString& name, const QVariant& value)
 {
-    m_store.setValue(u"compare/" + name, value);
+    m_store.setValue(QLatin1String("compare/") + name, value);
 }

@@ -1,5 +1,6 @@
 #include "app/window/DatasetsArea.h"
 
+#include "app/compare/ComparisonWindow.h"
 #include "app/window/DatasetWindow.h"
 
 #include <QMdiArea>
@@ -61,6 +62,11 @@ void DatasetsArea::showDatasets(bool areOpen)
 DatasetWindow* DatasetsArea::currentDataset() const
 {
     return qobject_cast<DatasetWindow*>(m_mdiArea->currentSubWindow());
+}
+
+QMdiSubWindow* DatasetsArea::currentComparison() const
+{
+    return qobject_cast<ComparisonWindow*>(m_mdiArea->currentSubWindow());
 }
 
 void DatasetsArea::closeCurrent()

@@ -4,6 +4,7 @@
 
 class DatasetWindow;
 class QMdiArea;
+class QMdiSubWindow;
 class QStackedLayout;
 
 /// The middle of the main window: the open datasets as tabs, or, while there are none, what says
@@ -21,6 +22,8 @@ public:
     void showDatasets(bool areOpen);
     /// The dataset in front, or null.
     [[nodiscard]] DatasetWindow* currentDataset() const;
+    /// The comparison in front, or nullptr where a dataset, or nothing, is.
+    [[nodiscard]] QMdiSubWindow* currentComparison() const;
     void closeCurrent();
 
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -99,7 +99,6 @@ void MainActions::createOtherActions()
     toggleDarkMode = add("actionToggleDarkMode", tr("Toggle Dark Mode"));
     toggleDarkMode->setStatusTip(tr("Toggle between light and dark mode"));
     toggleDarkMode->setShortcut(Qt::CTRL | Qt::Key_D);
-    compare->setEnabled(false);  // its dialog is not part of this version
 }
 
 void MainActions::createBarActions()
@@ -180,6 +179,15 @@ void MainActions::setDatasetOpen(bool isOpen)
          {reload, properties, close, closeAll, find, findNext, findPrevious, submit, editDataFilter,
           goToDatasetFilter, copyStoredValues, copyWithNames, nextDataset}) {
         action->setEnabled(isOpen);
+    }
+}
+
+void MainActions::setComparisonOpen(bool isOpen)
+{
+    if (isOpen) {
+        for (QAction* action : {close, closeAll, nextDataset}) {
+            action->setEnabled(true);
+        }
     }
 }
 

@@ -29,6 +29,8 @@ public:
     [[nodiscard]] QList<QAction*> readableKinds() const;
     /// Switches off what has nothing to work on while no dataset is open.
     void setDatasetOpen(bool isOpen);
+    /// What a comparison in front can do as well as a dataset.
+    void setComparisonOpen(bool isOpen);
 
     QAction* openSasData = nullptr;
     QAction* openDatasetJson = nullptr;

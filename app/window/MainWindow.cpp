@@ -3,10 +3,12 @@
 #include "app/boxes/CommandBar.h"
 #include "app/boxes/CommandBoxes.h"
 #include "app/code/CodeWindow.h"
+#include "app/compare/Comparisons.h"
 #include "app/dialogs/DialogPrompts.h"
 #include "app/docks/CellDocks.h"
 #include "app/docks/DockWindows.h"
 #include "app/docks/Libraries.h"
+#include "app/docks/OutputView.h"
 #include "app/docks/ShortcutKeysWindow.h"
 #include "app/docks/SidePanels.h"
 #include "app/docks/WorkspaceTree.h"
@@ -45,7 +47,6 @@
 #include <QMdiArea>
 #include <QMenu>
 #include <QMimeData>
-#include <QPlainTextEdit>
 #include <QSettings>
 #include <QStandardItemModel>
 #include <QStatusBar>
@@ -185,13 +186,25 @@ void MainWindow::fillDocks()
     m_docks->code()->setWidget(m_code);
     connect(m_code, &CodeWindow::signalLeft, this, &MainWindow::handleTabSwitch);
     m_docks->log()->setWidget(new LogView(spdlog::default_logger(), m_docks->log()));
-    auto* output = new QPlainTextEdit(m_docks->output());
-    output->setObjectName(QStringLiteral("textOutput"));
-    output->setReadOnly(true);
-    output->setAccessibleName(tr("Output"));
-    m_docks->output()->setWidget(output);
+    m_output = new OutputView(*m_prompts, m_docks->output());
+    m_docks->output()->setWidget(m_output);
+    connect(m_output, &OutputView::signalLeft, this, &MainWindow::handleTabSwitch);
+    createComparisons();
     m_docks->shortcutKeys()->setWidget(new ShortcutKeysWindow(m_docks->shortcutKeys()));
     m_cellDocks = std::make_unique<CellDocks>(*m_docks, *m_arrangement, *m_counters);
+}
+
+void MainWindow::createComparisons()
+{
+    m_comparisons = new Comparisons(
+        {*this, m_area->mdiArea(), *m_opener, *m_prompts, *m_settings, *m_output, *m_code});
+    connect(m_comparisons, &Comparisons::signalReported, this,
+            [this] { m_arrangement->show(*m_docks->output()); });
+    connect(m_comparisons, &Comparisons::signalProgramWritten, this,
+            [this] { m_arrangement->show(*m_docks->code()); });
+    connect(m_comparisons, &Comparisons::signalMessage, m_gridServices.get(),
+            &GridServices::showMessage);
+    connect(m_comparisons, &Comparisons::signalWindowsChanged, this, &MainWindow::showWhatIsOpen);
 }
 
 void MainWindow::createMenus()
@@ -235,6 +248,7 @@ void MainWindow::connectActions()
     run(m_actions->toggleDarkMode, &MainWindow::toggleDarkMode);
     run(m_actions->editDataFilter, &MainWindow::editDataFilter);
     run(m_actions->properties, &MainWindow::datasetProperty);
+    run(m_actions->compare, &MainWindow::showCompareDialog);
     run(m_actions->nextDataset, &MainWindow::onSwitchWindow);
     connect(m_actions->reload, &QAction::triggered, m_opener, &DatasetOpener::reloadActive);
     connect(m_actions->resetArrangement, &QAction::triggered, this,
@@ -292,6 +306,8 @@ void MainWindow::fillWorkspace()
     connect(m_tree, &WorkspaceTree::signalRemoveRequested, this, &MainWindow::removeFolder);
     connect(m_tree, &WorkspaceTree::signalPropertiesRequested, m_properties,
             [this](const QString& path) { m_properties->showOfFile(path); });
+    connect(m_tree, &WorkspaceTree::signalCompareRequested, m_comparisons,
+            &Comparisons::showDialogFor);
     connect(m_tree, &WorkspaceTree::signalOpenRequested, m_opener, &DatasetOpener::openLater);
     connect(m_libraries.get(), &Libraries::signalVariableRequested, this,
             &MainWindow::showVariable);
@@ -355,8 +371,16 @@ void MainWindow::activeWindow(QMdiSubWindow* window)
 {
     // Qt also says "none" when the whole window loses the focus, where nothing changes for the
     // user.
+    if (window == nullptr) {
+        return;
+    }
     auto* active = qobject_cast<DatasetWindow*>(window);
-    if (active == nullptr || active->view() == m_activeView) {
+    if (active == nullptr) {
+        leaveGrid();
+        showWhatIsOpen();
+        return;
+    }
+    if (active->view() == m_activeView) {
         return;
     }
     if (m_activeView != nullptr) {
@@ -380,26 +404,37 @@ void MainWindow::subWindowClosed(DatasetWindow* closedWindow)
 {
     m_opener->forget(closedWindow);
     if (closedWindow->view() == m_activeView) {
-        disconnect(m_activeView, nullptr, this, nullptr);
-        m_activeView = nullptr;
-        m_boxes->setGrid(nullptr);
-        m_navigation->setGrid(nullptr);
-        m_cellDocks->follow(nullptr);
-        m_operator->follow(nullptr);
-        generateSasCode();
-        m_sidePanels->setGrid(nullptr);
+        leaveGrid();
     }
     showWhatIsOpen();
+}
+
+/// No dataset is in front any more.
+void MainWindow::leaveGrid()
+{
+    if (m_activeView != nullptr) {
+        disconnect(m_activeView, nullptr, this, nullptr);
+    }
+    m_activeView = nullptr;
+    m_boxes->setGrid(nullptr);
+    m_navigation->setGrid(nullptr);
+    m_cellDocks->follow(nullptr);
+    m_operator->follow(nullptr);
+    generateSasCode();
+    m_sidePanels->setGrid(nullptr);
 }
 
 /// Brings what depends on whether there is a dataset up to date.
 void MainWindow::showWhatIsOpen()
 {
-    const bool isAny = !openFiles().isEmpty();
+    const QMdiSubWindow* comparison = m_area->currentComparison();
+    const bool isAny = !openFiles().isEmpty() && comparison == nullptr;
     m_actions->setDatasetOpen(isAny);
-    m_area->showDatasets(isAny);
+    m_actions->setComparisonOpen(comparison != nullptr);
+    m_area->showDatasets(isAny || comparison != nullptr);
     if (!isAny) {
-        setWindowTitle(tr("Quorlane"));
+        setWindowTitle(comparison == nullptr ? tr("Quorlane")
+                                             : tr("%1 - Quorlane").arg(comparison->windowTitle()));
         m_counters->showNothingOpen();
         m_counters->setLibraryFilter(m_gridServices->datasets().libraryFilter.text(), QString());
         m_docks->showTitlesOf(QString());
@@ -417,6 +452,8 @@ void MainWindow::handleTabSwitch()
 {
     if (m_activeView != nullptr) {
         m_activeView->setFocus();
+    } else if (const QMdiSubWindow* comparison = m_area->currentComparison()) {
+        comparison->widget()->setFocus();
     }
 }
 

@@ -10,6 +10,7 @@
 
 class CellDocks;
 class CodeWindow;
+class Comparisons;
 class CommandBoxes;
 class DatasetWindow;
 class DatasetsArea;
@@ -23,6 +24,7 @@ class Libraries;
 class MainToolBars;
 class Navigation;
 class OperatorLabel;
+class OutputView;
 class QAbstractButton;
 class QAction;
 class QDockWidget;
@@ -117,6 +119,7 @@ public slots:  // NOLINT(readability-redundant-access-specifiers): moc reads it
     void showDockDesc(QTableWidget* tableWidget);
     void showDockVar();
     void datasetProperty();
+    void showCompareDialog();
     void updateStatus();
     void editDataFilter();
     void generateSasCode(MainTableView* view = nullptr);
@@ -136,6 +139,7 @@ private:
     void createToolBars();
     void createDocks();
     void fillDocks();
+    void createComparisons();
     void createMenus();
     void connectActions();
     void connectGrid(MainTableView* view);
@@ -144,6 +148,7 @@ private:
     void fillWorkspace();
     void showVariable(const QString& path, const QString& member, const QString& name);
     void showWhatIsOpen();
+    void leaveGrid();
     void openPage(const QUrl& url);
     void showPanel(QDockWidget& dock);
 
@@ -172,6 +177,8 @@ private:
     DatasetsArea* m_area = nullptr;
     DatasetOpener* m_opener = nullptr;
     CodeWindow* m_code = nullptr;
+    OutputView* m_output = nullptr;
+    Comparisons* m_comparisons = nullptr;
     OperatorLabel* m_operator = nullptr;
     UpdateCheck* m_updateCheck = nullptr;
     QPointer<MainTableView> m_activeView;

@@ -1,5 +1,6 @@
 #include "app/boxes/CommandBoxes.h"
 #include "app/code/CodeWindow.h"
+#include "app/compare/Comparisons.h"
 #include "app/dialogs/UserPrompts.h"
 #include "app/docks/DockWindows.h"
 #include "app/docks/Libraries.h"
@@ -161,6 +162,11 @@ void MainWindow::on_actionOptions_triggered()
 void MainWindow::datasetProperty()
 {
     m_properties->showOf(m_area->currentDataset());
+}
+
+void MainWindow::showCompareDialog()
+{
+    m_comparisons->showDialog();
 }
 
 void MainWindow::editDataFilter()

@@ -34,10 +34,7 @@ public:
     [[nodiscard]] bool isNumeric(int column) const override;
     [[nodiscard]] bool isCharacter(int column) const override;
     [[nodiscard]] std::string writtenFormat(int column) const override;
-    [[nodiscard]] bool countsRows(int column) const override
-    {
-        return m_hidesFirst && column == 0;
-    }
+    [[nodiscard]] bool countsRows(int column) const override { return m_hidesFirst && column == 0; }
 
 private:
     friend class DatasetJsonLoad;

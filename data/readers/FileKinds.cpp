@@ -12,6 +12,7 @@
 #include <fmt/format.h>
 
 #include <QCoreApplication>
+#include <QStringList>
 
 #include <algorithm>
 #include <array>
@@ -133,6 +134,17 @@ std::span<const Entry> table()
 const Entry& entryOf(FileKind kind)
 {
     return entries.at(static_cast<std::size_t>(kind));
+}
+
+QString filtersOfAll()
+{
+    QStringList patterns;
+    for (const Entry& entry : entries) {
+        for (const Suffix& suffix : entry.suffixes) {
+            patterns << QStringLiteral("*.") + QString::fromLatin1(suffix.suffix);
+        }
+    }
+    return QCoreApplication::translate("FileKinds", "Datasets (%1)").arg(patterns.join(u' '));
 }
 
 const Suffix* suffixOf(const QString& path)

@@ -49,6 +49,8 @@ struct Entry
 /// All kinds in the order of the enumeration.
 [[nodiscard]] std::span<const Entry> table();
 [[nodiscard]] const Entry& entryOf(FileKind kind);
+/// What a file dialog shows that takes every kind, translated.
+[[nodiscard]] QString filtersOfAll();
 /// The suffix that a file's name ends with, in any letter case; null for one of no kind.
 [[nodiscard]] const Suffix* suffixOf(const QString& path);
 [[nodiscard]] bool isOfKind(const QString& path, FileKind kind);
