@@ -41,7 +41,9 @@ DifferenceView::DifferenceView(std::shared_ptr<const comparison::Comparison> com
         });
     }
     followLetters();
-    goToNext();
+    if (const DifferenceRows& rows = m_model->rows(); rows.differenceCount() > 0) {
+        setCurrentIndex(m_model->indexOf(rows.difference(0), DifferenceModel::Line::Base));
+    }
 }
 
 void DifferenceView::setUpHeaders()
