@@ -5,6 +5,7 @@
 #include "app/code/CodeWindow.h"
 #include "app/compare/CompareDialog.h"
 #include "app/compare/ComparisonWindow.h"
+#include "app/compare/DifferenceView.h"
 #include "app/compare/DifferenceWindow.h"
 #include "app/compare/LinkedGrids.h"
 #include "app/dialogs/FileSaving.h"
@@ -196,6 +197,10 @@ void Comparisons::show(const std::shared_ptr<const ComparedDatasets>& compared)
     m_surroundings.area.addSubWindow(window);
     window->showMaximized();
     window->differences().setFocus();
+    DifferenceView& view = window->differences().view();
+    emit signalShown(view);
+    connect(&view, &DifferenceView::signalFontSizeChanged, this,
+            &Comparisons::signalFontSizeChanged);
     linkGrids();
     emit signalWindowsChanged();
 }

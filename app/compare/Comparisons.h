@@ -10,6 +10,7 @@ class CompareDialog;
 class ComparisonWindow;
 class DatasetOpener;
 class DatasetWindow;
+class DifferenceView;
 class MainTableView;
 class OutputView;
 class QMainWindow;
@@ -50,6 +51,9 @@ signals:
     void signalReported();
     /// The code window has a new program.
     void signalProgramWritten();
+    /// The differences are on the screen. Under a style sheet they have the fonts that they keep.
+    void signalShown(DifferenceView& view);
+    void signalFontSizeChanged(int points);
     /// A sub-window has been opened or closed.
     void signalWindowsChanged();
     /// Something told in passing.

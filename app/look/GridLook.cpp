@@ -1,5 +1,8 @@
 #include "app/look/GridLook.h"
 
+#include "app/compare/ComparisonWindow.h"
+#include "app/compare/DifferenceView.h"
+#include "app/compare/DifferenceWindow.h"
 #include "app/look/Theme.h"
 #include "app/start/Settings.h"
 #include "app/window/DatasetWindow.h"
@@ -15,6 +18,7 @@ void GridLook::toggleDarkMode()
     theme::apply(m_settings.darkMode());
     // The style sheet takes the letters away from grids that have their own.
     forEachGrid([this](MainTableView& grid) { applyFontTo(grid); });
+    forEachComparison([this](DifferenceView& view) { applyFontTo(view); });
 }
 
 void GridLook::setFontSize(int points)
@@ -22,6 +26,7 @@ void GridLook::setFontSize(int points)
     const WaitCursor waitCursor;
     m_settings.setFontSize(points);
     forEachGrid([points](MainTableView& grid) { grid.setFontSize(points); });
+    forEachComparison([points](DifferenceView& view) { view.setFontSize(points); });
 }
 
 void GridLook::setHeaderMode(HeaderMode mode)
@@ -39,6 +44,22 @@ void GridLook::applyFontTo(MainTableView& grid) const
 {
     if (const int points = m_settings.fontSize(); points > 0) {
         grid.setFontSize(points);
+    }
+}
+
+void GridLook::applyFontTo(DifferenceView& view) const
+{
+    if (const int points = m_settings.fontSize(); points > 0) {
+        view.setFontSize(points);
+    }
+}
+
+void GridLook::forEachComparison(const std::function<void(DifferenceView&)>& visit) const
+{
+    for (QMdiSubWindow* window : m_area.subWindowList()) {
+        if (auto* comparison = qobject_cast<ComparisonWindow*>(window)) {
+            visit(comparison->differences().view());
+        }
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+class DifferenceView;
 class MainTableView;
 class QMdiArea;
 class Settings;
@@ -25,8 +26,10 @@ public:
     [[nodiscard]] HeaderMode headerMode() const;
     /// Gives a grid that has come to the screen the letters of the others.
     void applyFontTo(MainTableView& grid) const;
+    void applyFontTo(DifferenceView& view) const;
 
 private:
+    void forEachComparison(const std::function<void(DifferenceView&)>& visit) const;
     void forEachGrid(const std::function<void(MainTableView&)>& visit) const;
 
     Settings& m_settings;

@@ -204,6 +204,10 @@ void MainWindow::createComparisons()
             [this] { m_arrangement->show(*m_docks->code()); });
     connect(m_comparisons, &Comparisons::signalMessage, m_gridServices.get(),
             &GridServices::showMessage);
+    connect(m_comparisons, &Comparisons::signalShown, this,
+            [this](DifferenceView& view) { m_look->applyFontTo(view); });
+    connect(m_comparisons, &Comparisons::signalFontSizeChanged, m_gridServices.get(),
+            &GridServices::signalFontSizeChanged);
     connect(m_comparisons, &Comparisons::signalWindowsChanged, this, &MainWindow::showWhatIsOpen);
 }
 
