@@ -389,7 +389,7 @@ void TestLibraries::menusHoldWhatIsAliveAndDoIt()
     QVERIFY(tree().viewport()->findChild<QLineEdit*>() != nullptr);
     QCOMPARE(menuOf(file(0), "Open").first(), "Open");
     QTRY_COMPARE(loaded, QStringList("ae.csv"));
-    QCOMPARE(menuOf(file(0)), QStringList({"Open", "Properties"}));
+    QCOMPARE(menuOf(file(0)), QStringList({"Open", "Properties", "Compare With..."}));
     // The program of its dataset speaks of the library as it is called now.
     QTRY_VERIFY(window->activeView() != nullptr);
     emit tree().signalRenameRequested(tree().library(1), "Week 12");

@@ -104,7 +104,7 @@ void TestProperties::areCopiedAndSaved()
     script.savePath = path("none/a.txt");
     press("Save As...");
     QCOMPARE(notes().last().section('|', 0, 2),
-             "warn|Save Properties|The file could not be written: " + path("none/a.txt"));
+             "warn|Save Properties|Failed to save the file: " + path("none/a.txt"));
 }
 
 void TestProperties::stayWhenTheDatasetCloses()
