@@ -4,6 +4,7 @@
 #include "cli/Compare.h"
 #include "cli/Help.h"
 #include "cli/Selection.h"
+#include "cli/Supp.h"
 #include "data/FilePath.h"
 #include "data/Version.h"
 
@@ -156,6 +157,7 @@ struct Requests
     StatsRequest stats;
     std::string text;  ///< to find
     CompareOptions compare;
+    SuppOptions supp;
     CodeRequest code;
 };
 
@@ -171,12 +173,7 @@ CLI::App* addRows(CLI::App& app, Requests& requests)
     CLI::App* command = app.add_subcommand("rows");
     addCommon(*command, requests.common);
     addWhere(*command, requests.where);
-    RowsRequest& request = requests.rows;
-    command->add_option("--keep", request.keep);
-    command->add_option("--drop", request.drop);
-    command->add_option("--sort", request.sort);
-    command->add_option("--first", request.first)->check(CLI::NonNegativeNumber);
-    command->add_flag("--raw", request.raw);
+    addRowsOptions(*command, requests.rows);
     return command;
 }
 
@@ -241,6 +238,8 @@ int run(int argc, char** argv)
     CLI::App* find = addFind(app, requests);
     CLI::App* compare = addCompare(app, requests.compare);
     addFormat(*compare, requests.compare.format);
+    CLI::App* supp = addSupp(app, requests.supp);
+    addFormat(*supp, requests.supp.format);
     CLI::App* code = addCode(app, requests);
     addStats(app, requests);
     try {
@@ -250,6 +249,9 @@ int run(int argc, char** argv)
         }
         if (compare->parsed()) {
             return runCompare(requests.compare);
+        }
+        if (supp->parsed()) {
+            return runSupp(requests.supp);
         }
         if (code->parsed()) {
             return runCode(common, requests.code);
@@ -266,7 +268,9 @@ int run(int argc, char** argv)
         app.exit(error);
         return Failed;
     } catch (const std::exception& error) {
-        const std::string& file = compare->parsed() ? requests.compare.base : common.file;
+        const std::string& file = compare->parsed() ? requests.compare.base
+            : supp->parsed()                        ? requests.supp.file
+                                                    : common.file;
         return fail(fmt::format("{}: {}", file, error.what()));
     }
 }

@@ -12,6 +12,10 @@
 #include <string>
 #include <vector>
 
+namespace CLI {
+class App;
+}
+
 namespace cli {
 
 /// Prints what a file says of its dataset and variables.
@@ -30,6 +34,9 @@ struct RowsRequest
     int first = std::numeric_limits<int>::max();
     bool raw = false;
 };
+
+/// Adds the options of the request to a command.
+void addRowsOptions(CLI::App& command, RowsRequest& request);
 
 /// Prints the observations that the dataset's filter selects: number and cells, as the grid shows
 /// them or as they are stored. A failure names the variable, and nothing has been printed then.

@@ -15,6 +15,7 @@ Commands:
   stats      summarise a numeric variable
   find       list the cells that show a text
   compare    compare two datasets, or those of two folders
+  supp       join a dataset with its supplemental qualifiers (SUPP--)
   code       write the SAS program of a view
 
 Options:
@@ -113,6 +114,23 @@ Options:
 Exit codes: 0 equal, 1 different, 2 not done.
 )";
 
+constexpr std::string_view supp = R"(Usage: quorlane-cli supp FILE SUPPFILE... [OPTION...]
+
+Joins the supplemental qualifiers of SUPP-- datasets to the observations that they belong to, and
+prints these with a variable for each QNAM. What matches no observation, or conflicts, is told on
+standard error.
+
+Options:
+  --problems           list what matches no observation or conflicts, in place of the observations
+  --supp-member NAME...  as --member, for each SUPPFILE; without it SUPPAE of AE, or else the first
+  --where CONDITION    only observations that meet it
+  --keep VARIABLE...   only these variables, in this order
+  --drop VARIABLE...   all variables but these
+  --sort VARIABLE...   sort by these; a name followed by :desc in descending order
+  --first NUMBER       at most so many observations
+  --raw                values as they are stored, not as their formats show them
+)";
+
 constexpr std::string_view code = R"(Usage: quorlane-cli code FILE [OPTION...]
 
 Writes the SAS program that makes a view of the dataset, as the Program window shows it.
@@ -141,6 +159,7 @@ std::string helpOf(std::string_view command)
         : command == "freq"                            ? freq
         : command == "stats"                           ? stats
         : command == "find"                            ? find
+        : command == "supp"                            ? supp
         : command == "code"                            ? code
                                                        : std::string_view();
     if (own.empty()) {

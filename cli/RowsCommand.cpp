@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <CLI/CLI.hpp>
 #include <numeric>
 #include <optional>
 #include <span>
@@ -140,6 +141,15 @@ void RowPrinter::printTable(std::span<const std::uint32_t> observations, OutputF
 }
 
 }  // namespace
+
+void addRowsOptions(CLI::App& command, RowsRequest& request)
+{
+    command.add_option("--keep", request.keep);
+    command.add_option("--drop", request.drop);
+    command.add_option("--sort", request.sort);
+    command.add_option("--first", request.first)->check(CLI::NonNegativeNumber);
+    command.add_flag("--raw", request.raw);
+}
 
 Result<bool> printRows(const StatDataset& dataset, const RowsRequest& request, OutputFormat format)
 {

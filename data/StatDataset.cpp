@@ -50,7 +50,7 @@ std::string StatDataset::cellText(int row, int column) const
     const auto variable = static_cast<std::size_t>(column);
     switch (m_typeCodes[variable]) {
     case TypeCode::Character:
-        return texts::trimmed(stringValue(row, column));
+        return shownText(heldText(row, column), column);
     case TypeCode::Double:
         return texts::trimmed(formatNumeric(numericValue(row, column), m_formats[variable],
                                             m_formatWidths[variable], m_formatDecimals[variable]));
@@ -142,6 +142,16 @@ std::string_view StatDataset::missingText(int) const
 std::string StatDataset::writtenFormat(int column) const
 {
     return m_formats[static_cast<std::size_t>(column)];
+}
+
+std::string StatDataset::shownText(std::string_view text, int) const
+{
+    return std::string(texts::trimmedView(text));
+}
+
+std::string StatDataset::variableOrigin(int) const
+{
+    return {};
 }
 
 DateScale StatDataset::dateScale(int column) const

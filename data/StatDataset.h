@@ -143,6 +143,11 @@ public:
     [[nodiscard]] virtual std::string_view missingText(int column) const;
     /// Its format as the users of its files write it: "DATE9.", "F8.2", "%9.2f".
     [[nodiscard]] virtual std::string writtenFormat(int column) const;
+    /// A text of it as the grid shows it, without blanks at its ends.
+    [[nodiscard]] virtual std::string shownText(std::string_view text, int column) const;
+    /// Where its values come from if not from the dataset's own file, in lines for people; empty
+    /// for all variables of a file.
+    [[nodiscard]] virtual std::string variableOrigin(int column) const;
     /// How it counts dates and times; as SAS does unless the reader knows better.
     [[nodiscard]] virtual DateScale dateScale(int column) const;
 
@@ -236,6 +241,7 @@ protected:
     void resizeBits();
 
     friend class CellLoader;
+    friend class ExtendedDataset;
 
     DatasetHeader m_header;
     int m_observationCount = 0;

@@ -54,6 +54,17 @@ PooledText* TextPool::intern(std::string_view text, std::uint64_t hash)
     return slot.record;
 }
 
+void TextPool::swap(TextPool& other) noexcept
+{
+    std::swap(m_slots, other.m_slots);
+    std::swap(m_size, other.m_size);
+    std::swap(m_hasTrailingBlanks, other.m_hasTrailingBlanks);
+    std::swap(m_blocks, other.m_blocks);
+    std::swap(m_free, other.m_free);
+    std::swap(m_freeBytes, other.m_freeBytes);
+    std::swap(m_blockBytes, other.m_blockBytes);
+}
+
 const PooledText* TextPool::find(std::string_view text) const
 {
     return m_slots.empty() ? nullptr : m_slots[slotOf(text, hashOf(text))].record;

@@ -38,6 +38,9 @@ public:
     /// Drops all records; whoever points to one is left with nothing.
     void clear();
 
+    /// Exchanges the texts of two pools; records stay where they are.
+    void swap(TextPool& other) noexcept;
+
     /// How many distinct texts there are.
     [[nodiscard]] std::size_t size() const { return m_size; }
 

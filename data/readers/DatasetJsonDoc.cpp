@@ -113,7 +113,7 @@ std::string DatasetJsonDoc::cellText(int row, int column) const
     const int width = m_formatWidths[variable];
     const int decimals = m_formatDecimals[variable];
     if (m_typeCodes[variable] == TypeCode::Character) {
-        return texts::trimmed(formatCharacter(heldText(row, column), format, width, decimals));
+        return shownText(heldText(row, column), column);
     }
     if (m_exactTexts.size() > 0 && format.empty() && width == 0) {
         if (const std::string_view exact = m_exactTexts.find(cellIndex(row, column));
@@ -122,6 +122,13 @@ std::string DatasetJsonDoc::cellText(int row, int column) const
         }
     }
     return formatNumeric(std::get<1>(cell(row, column)), format, width, decimals);
+}
+
+std::string DatasetJsonDoc::shownText(std::string_view text, int column) const
+{
+    const auto variable = static_cast<std::size_t>(column);
+    return texts::trimmed(formatCharacter(text, m_formats[variable], m_formatWidths[variable],
+                                          m_formatDecimals[variable]));
 }
 
 std::string DatasetJsonDoc::variableAttribute(int column, VariableAttribute attribute) const

@@ -35,6 +35,7 @@ public:
     [[nodiscard]] bool isCharacter(int column) const override;
     [[nodiscard]] std::string writtenFormat(int column) const override;
     [[nodiscard]] bool countsRows(int column) const override { return m_hidesFirst && column == 0; }
+    [[nodiscard]] std::string shownText(std::string_view text, int column) const override;
 
 private:
     friend class DatasetJsonLoad;

@@ -18,19 +18,13 @@ std::string sasFormatText(const std::string& name, int width, int decimals)
     return text;
 }
 
-std::string SasDataset::cellText(int row, int column) const
+std::string SasDataset::shownText(std::string_view text, int column) const
 {
-    if (!inRange(row, column)) {
-        return {};
-    }
-    const auto variable = static_cast<std::size_t>(column);
-    if (m_typeCodes[variable] != TypeCode::Character) {
-        return StatDataset::cellText(row, column);
-    }
     // A character format without a width shows the whole variable, not the format's default width.
+    const auto variable = static_cast<std::size_t>(column);
     const int width = m_formatWidths[variable] > 0 ? m_formatWidths[variable] : m_lengths[variable];
-    return texts::trimmed(formatCharacter(heldText(row, column), m_formats[variable], width,
-                                          m_formatDecimals[variable]));
+    return texts::trimmed(
+        formatCharacter(text, m_formats[variable], width, m_formatDecimals[variable]));
 }
 
 std::string SasDataset::variableAttribute(int column, VariableAttribute attribute) const

@@ -8,10 +8,10 @@
 class SasDataset : public FileDataset
 {
 public:
-    [[nodiscard]] std::string cellText(int row, int column) const override;
     [[nodiscard]] std::string variableAttribute(int column,
                                                 VariableAttribute attribute) const override;
     [[nodiscard]] std::string writtenFormat(int column) const override;
+    [[nodiscard]] std::string shownText(std::string_view text, int column) const override;
     [[nodiscard]] std::string formatCharacter(std::string_view text, std::string_view format,
                                               int width, int decimals) const override;
     [[nodiscard]] std::string formatNumeric(double number, std::string_view format, int width,
