@@ -24,6 +24,11 @@ void GridHeader::setRightAligned(std::function<bool(int section)> isRightAligned
     m_isRightAligned = std::move(isRightAligned);
 }
 
+void GridHeader::setAdded(std::function<bool(int section)> isAdded)
+{
+    m_isAdded = std::move(isAdded);
+}
+
 int GridHeader::titleWidth(int section) const
 {
     return sectionSizeFromContents(section).width();
@@ -43,7 +48,24 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int logicalI
     painter->save();
     QFont titleFont = font();
     titleFont.setBold(logicalIndex == m_marked);
+    const bool isAdded = m_isAdded && m_isAdded(logicalIndex);
+    titleFont.setItalic(isAdded);
     painter->setFont(titleFont);
     QHeaderView::paintSection(painter, rect, logicalIndex);
     painter->restore();
+    if (isAdded) {
+        paintCorner(*painter, rect);
+    }
+}
+
+/// As spreadsheets mark a cell that has something more to tell.
+void GridHeader::paintCorner(QPainter& painter, const QRect& rect) const
+{
+    constexpr int size = 8;
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().highlight());
+    painter.drawPolygon(QPolygon(
+        {rect.topLeft(), rect.topLeft() + QPoint(size, 0), rect.topLeft() + QPoint(0, size)}));
+    painter.restore();
 }

@@ -17,6 +17,8 @@ public:
     void markSection(int section);
     /// The sections for which this is true stand to the right.
     void setRightAligned(std::function<bool(int section)> isRightAligned);
+    /// The sections for which this is true bear a mark: what they show was added to the file's own.
+    void setAdded(std::function<bool(int section)> isAdded);
     /// The width that the section's title asks for, also while it is hidden.
     [[nodiscard]] int titleWidth(int section) const;
 
@@ -25,6 +27,9 @@ protected:
     void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
 
 private:
+    void paintCorner(QPainter& painter, const QRect& rect) const;
+
     std::function<bool(int)> m_isRightAligned;
+    std::function<bool(int)> m_isAdded;
     int m_marked = -1;
 };

@@ -45,6 +45,8 @@ void GridTable::setUpColumnHeader()
     m_columnHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_columnHeader->setRightAligned(
         [this](int variable) { return isReady() && !dataset()->isCharacter(variable); });
+    m_columnHeader->setAdded(
+        [this](int variable) { return isReady() && !dataset()->variableOrigin(variable).empty(); });
     m_columnHeader->setMinimumSectionSize(24);
     m_columnHeader->setSectionsMovable(true);
     setSortingEnabled(true);

@@ -68,8 +68,12 @@ QVariant MainTableModel::headerData(int section, Qt::Orientation orientation, in
     }
     const bool namesAreShown = m_headerMode == HeaderMode::VariableNames;
     const bool wantsName = namesAreShown == (role == Qt::DisplayRole);
-    return QString::fromStdString(wantsName ? m_dataset->names()[entry]
-                                            : m_dataset->labels()[entry]);
+    const QString text =
+        QString::fromStdString(wantsName ? m_dataset->names()[entry] : m_dataset->labels()[entry]);
+    const QString origin = role == Qt::ToolTipRole
+        ? QString::fromStdString(m_dataset->variableOrigin(section))
+        : QString();
+    return origin.isEmpty() || text.isEmpty() ? text + origin : text + u'\n' + origin;
 }
 
 void MainTableModel::setHeaderMode(HeaderMode mode)

@@ -62,6 +62,7 @@ void CodeWindow::follow(MainTableView* grid)
     if (window != nullptr) {
         m_filePath = window->property("filePath").toString();
         m_datasetName = window->datasetName();
+        m_isJoined = window->join() != nullptr;
         const OpenDataset* opened = grid->opened();
         connect(opened, &OpenDataset::signalFiltersChanged, this, &CodeWindow::generate);
         connect(opened, &OpenDataset::signalVariablesChanged, this, &CodeWindow::generate);
@@ -74,6 +75,13 @@ void CodeWindow::generate()
 {
     if (m_grid == nullptr) {
         m_generated->showProgram(QString());
+        return;
+    }
+    if (m_isJoined) {
+        // A program that reads the parent alone would not make what is shown.
+        m_generated->showProgram(
+            QStringLiteral("/* %1 is joined in the viewer; no program is written for it. */\n")
+                .arg(m_datasetName));
         return;
     }
     const OpenDataset& opened = *m_grid->opened();

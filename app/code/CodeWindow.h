@@ -67,6 +67,7 @@ private:
     ProgramWindow* m_generated;
     QPointer<MainTableView> m_grid;
     QString m_filePath;
+    bool m_isJoined = false;  ///< whether the dataset comes from no single file
     QString m_datasetName;
     LibraryOf m_libraryOf;
     int m_untitled = 0;

@@ -3,6 +3,7 @@
 #include "app/docks/WorkspaceDelegate.h"
 #include "app/docks/WorkspaceFilter.h"
 #include "app/look/Icons.h"
+#include "app/open/SuppFiles.h"
 #include "grid/NativeKeys.h"
 
 #include <QContextMenuEvent>
@@ -33,19 +34,17 @@ bool isTyped(const QKeyEvent& event)
     return !isCommand && !event.text().isEmpty() && event.text().front().isPrint();
 }
 
-/// The item of the supplemental qualifiers that stands beside a dataset: "suppae.xpt" beside
-/// "ae.xpt".
-const QStandardItem* supplementOf(const QStandardItem& dataset)
+/// Whether supplemental qualifiers stand beside a dataset: "suppae.xpt" beside "ae.xpt".
+bool hasSupplement(const QStandardItem& dataset)
 {
     const QStandardItem* folder = dataset.parent();
-    const QString name = QStringLiteral("supp") + dataset.text().section(u'.', 0, -2);
+    const QString name = dataset.text().section(u'.', 0, -2);
     for (int row = 0; folder != nullptr && row < folder->rowCount(); ++row) {
-        const QString other = folder->child(row)->text().section(u'.', 0, -2);
-        if (other.compare(name, Qt::CaseInsensitive) == 0) {
-            return folder->child(row);
+        if (suppfiles::belongs(folder->child(row)->text().section(u'.', 0, -2), name)) {
+            return true;
         }
     }
-    return nullptr;
+    return false;
 }
 
 }  // namespace
@@ -416,7 +415,7 @@ void WorkspaceTree::fillDatasetMenu(QMenu& menu, const QStandardItem& dataset)
         menu.setDefaultAction(open);
     }
     add(&WorkspaceTree::signalPropertiesRequested, withNativeKeys(tr("Properties\tAlt+Return")));
-    if (supplementOf(dataset) != nullptr) {
+    if (hasSupplement(dataset)) {
         add(&WorkspaceTree::signalJoinRequested, tr("Join SUPP--"));
     }
     const QStringList paths = pathsWith(path);

@@ -19,6 +19,7 @@
 #include <QMdiArea>
 #include <QTabBar>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -26,11 +27,28 @@ namespace {
 /// The time is taken before the file is read, so that a change during the reading does not go
 /// unnoticed.
 /// @param member  empty for a file's only dataset
-DatasetOrigin originOf(const QString& path, const QString& member = {})
+DatasetOrigin originOf(const QString& path, const QString& member = {},
+                       const QList<JoinedFile>& supplements = {})
 {
     const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     const filepath::FileState file = filepath::stateOf(absolute);
-    return {absolute, datasetKey(absolute, member), file.lastModified, file.size};
+    DatasetOrigin origin{absolute, datasetKey(absolute, member), file.lastModified, file.size};
+    for (const JoinedFile& each : supplements) {
+        const filepath::FileState other = filepath::stateOf(each.path);
+        origin.supplements << JoinedFile{each.path, each.member, other.lastModified, other.size};
+    }
+    origin.fileKey += origin.joinKey();
+    return origin;
+}
+
+QString titleOf(const DatasetOrigin& origin)
+{
+    QStringList names;
+    names << (origin.member().isEmpty() ? origin.filePath.section(u'/', -1) : origin.member());
+    for (const JoinedFile& file : origin.supplements) {
+        names << (file.member.isEmpty() ? file.path.section(u'/', -1) : file.member);
+    }
+    return names.join(QStringLiteral(" + "));
 }
 
 }  // namespace
@@ -89,6 +107,12 @@ bool DatasetOpener::openMember(const QString& path, const QString& name)
     return openDatasetOf(originOf(path, name));
 }
 
+bool DatasetOpener::openJoined(const QString& path, const QString& name,
+                               const QList<JoinedFile>& supplements)
+{
+    return openDatasetOf(originOf(path, name, supplements));
+}
+
 bool DatasetOpener::bringUp(const QString& path, const QString& member)
 {
     const DatasetOrigin origin = originOf(path, member);
@@ -119,9 +143,8 @@ DatasetOpener::Reload DatasetOpener::settleReload(const DatasetOrigin& origin)
     if (m_openFiles.find(origin.fileKey) == nullptr) {
         return Reload::NotOpen;
     }
-    const QString name =
-        origin.member().isEmpty() ? origin.filePath.section(u'/', -1) : origin.member();
-    const QString question = tr("\"%1\" is already open.\nDo you want to reload it?").arg(name);
+    const QString question =
+        tr("\"%1\" is already open.\nDo you want to reload it?").arg(titleOf(origin));
     const bool isWanted = m_surroundings.prompts.confirm(tr("Reload Dataset"), question);
     // Looked for anew: the window may have gone while the question was open.
     QMdiSubWindow* window = m_openFiles.find(origin.fileKey);
@@ -201,14 +224,9 @@ std::unique_ptr<DatasetWindow> DatasetOpener::read(const DatasetOrigin& origin)
     QString reason;
     {
         const WaitCursor waitCursor;
-        LoadProgress progress(m_surroundings.window, origin.filePath.section(u'/', -1));
-        Result<OpenedDataset> loaded =
-            m_surroundings.load(origin.filePath,
-                                {.member = origin.member().toStdString(),
-                                 .progress = [&](int percent) { progress.advance(percent); }});
+        Result<std::unique_ptr<DatasetWindow>> loaded = load(origin);
         if (loaded) {
-            return std::make_unique<DatasetWindow>(std::move(loaded.value().dataset), origin,
-                                                   m_surroundings.datasets);
+            return std::move(loaded.value());
         }
         reason = QString::fromStdString(loaded.error());
     }
@@ -216,9 +234,53 @@ std::unique_ptr<DatasetWindow> DatasetOpener::read(const DatasetOrigin& origin)
     return nullptr;
 }
 
+Result<OpenedDataset> DatasetOpener::loadFile(const QString& path, const QString& member)
+{
+    LoadProgress progress(m_surroundings.window, path.section(u'/', -1));
+    return m_surroundings.load(path, {.member = member.toStdString(), .progress = [&](int percent) {
+                                          progress.advance(percent);
+                                      }});
+}
+
+/// Reads the file, and joins it with the others where there are any.
+Result<std::unique_ptr<DatasetWindow>> DatasetOpener::load(const DatasetOrigin& origin)
+{
+    Result<OpenedDataset> parent = loadFile(origin.filePath, origin.member());
+    if (!parent) {
+        return Failure{parent.error()};
+    }
+    if (origin.supplements.isEmpty()) {
+        return std::make_unique<DatasetWindow>(std::move(parent.value().dataset), origin,
+                                               m_surroundings.datasets);
+    }
+    std::vector<OpenedDataset> opened;
+    std::vector<supplement::Supplement> supplements;
+    for (const JoinedFile& file : origin.supplements) {
+        Result<OpenedDataset> one = loadFile(file.path, file.member);
+        if (!one) {
+            return Failure{one.error()};
+        }
+        opened.push_back(std::move(one.value()));
+        supplements.push_back({opened.back().dataset.get(), file.key().toStdString()});
+    }
+    Result<supplement::Joined> joined =
+        supplement::join(std::move(parent.value().dataset),
+                         datasetKey(origin.filePath, origin.member()).toStdString(), supplements);
+    if (!joined) {
+        return Failure{joined.error()};
+    }
+    return std::make_unique<DatasetWindow>(std::move(joined.value()), origin,
+                                           m_surroundings.datasets);
+}
+
 void DatasetOpener::tellFailure(const DatasetOrigin& origin, const QString& reason)
 {
     const QString member = origin.member();
+    if (!origin.supplements.isEmpty()) {
+        m_surroundings.prompts.warn(tr("Join SUPP--"), tr("Failed to join %1").arg(titleOf(origin)),
+                                    enginemessages::translated(reason));
+        return;
+    }
     const QString text = member.isEmpty()
         ? tr("Failed to open the file: %1").arg(origin.filePath)
         : tr("Failed to open dataset '%1' in %2.").arg(member, origin.filePath);
@@ -251,7 +313,8 @@ void DatasetOpener::reloadActive()
 
 void DatasetOpener::reload(DatasetWindow& window)
 {
-    const DatasetOrigin origin = originOf(window.origin().filePath, window.origin().member());
+    const DatasetOrigin origin =
+        originOf(window.origin().filePath, window.origin().member(), window.origin().supplements);
     std::unique_ptr<DatasetWindow> renewed = read(origin);
     if (renewed == nullptr) {
         return;
@@ -315,6 +378,9 @@ void DatasetOpener::followWindows()
     QStringList paths;
     for (const DatasetWindow* window : open) {
         paths << window->origin().filePath;
+        for (const JoinedFile& file : window->origin().supplements) {
+            paths << file.path;
+        }
     }
     m_watch.setFiles(paths);
 }
@@ -322,8 +388,14 @@ void DatasetOpener::followWindows()
 void DatasetOpener::lookAtFiles(const QString& changed)
 {
     for (DatasetWindow* window : windows()) {
-        const QString& path = window->origin().filePath;
-        if (path == changed || QFileInfo(path).path() == changed) {
+        QStringList paths{window->origin().filePath};
+        for (const JoinedFile& file : window->origin().supplements) {
+            paths << file.path;
+        }
+        const bool isConcerned = std::any_of(paths.begin(), paths.end(), [&](const QString& path) {
+            return path == changed || QFileInfo(path).path() == changed;
+        });
+        if (isConcerned) {
             window->lookAtFile();
         }
     }

@@ -2,6 +2,7 @@
 
 #include "app/open/FileWatch.h"
 #include "app/open/OpenFilesMap.h"
+#include "app/open/SuppFiles.h"
 #include "data/readers/FileKinds.h"
 #include "grid/opened/ViewState.h"
 
@@ -53,6 +54,8 @@ public:
     bool open(const QString& path);
     /// Opens one dataset of a file that holds several.
     bool openMember(const QString& path, const QString& name);
+    /// Opens a dataset joined with its SUPP-- datasets.
+    bool openJoined(const QString& path, const QString& name, const QList<JoinedFile>& supplements);
     /// Makes a dataset the active one, opening it where it is not open.
     /// @param member  empty for a file's only dataset
     /// @return        whether it is
@@ -100,6 +103,8 @@ private:
     [[nodiscard]] bool close(QMdiSubWindow* window, const DatasetOrigin& origin);
     void openWaiting();
     [[nodiscard]] std::unique_ptr<DatasetWindow> read(const DatasetOrigin& origin);
+    [[nodiscard]] Result<std::unique_ptr<DatasetWindow>> load(const DatasetOrigin& origin);
+    [[nodiscard]] Result<OpenedDataset> loadFile(const QString& path, const QString& member);
     void tellFailure(const DatasetOrigin& origin, const QString& reason);
     void show(std::unique_ptr<DatasetWindow> window);
     void reload(DatasetWindow& window);

@@ -31,7 +31,12 @@ void Sessions::promptSaveSession()
     const std::optional<QString> name = m_surroundings.prompts.askText(
         tr("Save Session"), tr("Session name:"), tr("Session %1").arg(now));
     if (name && saveSession(*name)) {
-        m_surroundings.services.showMessage(tr("Session \"%1\" saved").arg(name->trimmed()));
+        const qsizetype left = m_surroundings.area.subWindowList().size() - openDatasets().size();
+        m_surroundings.services.showMessage(
+            left == 0 ? tr("Session \"%1\" saved").arg(name->trimmed())
+                      : tr("Session \"%1\" saved without joined datasets, of which there are %2")
+                            .arg(name->trimmed())
+                            .arg(left));
     }
 }
 
@@ -62,7 +67,8 @@ QList<SavedDataset> Sessions::openDatasets() const
     QList<SavedDataset> datasets;
     for (QMdiSubWindow* each : m_surroundings.area.subWindowList(QMdiArea::CreationOrder)) {
         const auto* window = qobject_cast<DatasetWindow*>(each);
-        if (window == nullptr || window->origin().filePath.isEmpty()) {
+        // A joined dataset has no file that could be opened again.
+        if (window == nullptr || window->origin().filePath.isEmpty() || window->join() != nullptr) {
             continue;
         }
         const ViewState state = window->view()->opened()->state();

@@ -19,6 +19,8 @@
 #include <QPushButton>
 #include <QShortcut>
 
+#include <algorithm>
+
 namespace {
 
 /// A name of any length as a tab has room for it: its beginning and its end.
@@ -32,8 +34,9 @@ QString shortened(const QString& name)
 /// What the user calls a dataset.
 QString nameOf(const StatDataset& dataset, const DatasetOrigin& origin)
 {
-    const QString name =
-        origin.member().isEmpty() ? QString::fromStdString(dataset.datasetName()) : origin.member();
+    const QString name = origin.member().isEmpty() || !origin.supplements.isEmpty()
+        ? QString::fromStdString(dataset.datasetName())
+        : origin.member();
     return name.isEmpty() ? QFileInfo(origin.filePath).completeBaseName() : name;
 }
 
@@ -51,7 +54,35 @@ QString damageOf(const StatDataset& dataset)
 
 QString DatasetOrigin::member() const
 {
-    return fileKey.mid(filePath.size() + 2);
+    return fileKey.chopped(joinKey().size()).mid(filePath.size() + 2);
+}
+
+QString DatasetOrigin::joinKey() const
+{
+    QString key;
+    for (const JoinedFile& file : supplements) {
+        key += QStringLiteral(" + ") + file.key();
+    }
+    return key;
+}
+
+bool DatasetOrigin::isUnchanged() const
+{
+    const auto isSame = [](const QString& path, const QDateTime& time, qint64 size) {
+        const filepath::FileState file = filepath::stateOf(path);
+        return file.lastModified == time && file.size == size;
+    };
+    return isSame(filePath, fileTimestamp, fileSize)
+        && std::all_of(supplements.begin(), supplements.end(), [&](const JoinedFile& file) {
+               return isSame(file.path, file.timestamp, file.size);
+           });
+}
+
+bool DatasetOrigin::exists() const
+{
+    return filepath::stateOf(filePath).exists
+        && std::all_of(supplements.begin(), supplements.end(),
+                       [](const JoinedFile& file) { return filepath::stateOf(file.path).exists; });
 }
 
 DatasetWindow::DatasetWindow(std::shared_ptr<StatDataset> dataset, const DatasetOrigin& origin,
@@ -71,6 +102,14 @@ DatasetWindow::DatasetWindow(std::shared_ptr<StatDataset> dataset, const Dataset
     setWindowIcon(icons::forDataset(origin.filePath));
     dropSystemMenuShortcuts();
     addCloseKey();
+}
+
+DatasetWindow::DatasetWindow(supplement::Joined joined, const DatasetOrigin& origin,
+                             OpenDatasets& shared)
+    : DatasetWindow(std::move(joined.dataset), origin, shared)
+{
+    m_join = std::move(joined);
+    addJoinNotice();
 }
 
 DatasetWindow::~DatasetWindow()
@@ -107,6 +146,33 @@ void DatasetWindow::createNotices()
     }
 }
 
+void DatasetWindow::addJoinNotice()
+{
+    if (m_join->findings.empty() && m_join->notes.empty()) {
+        return;
+    }
+    auto* notice = new NoticeBar(this);
+    notice->setObjectName(QStringLiteral("joinNotice"));
+    QStringList lines;
+    if (!m_join->findings.empty()) {
+        lines << tr("Rows of SUPP-- datasets that match no observation: %1. Rows whose value "
+                    "conflicts with another one: %2.")
+                     .arg(m_join->unmatched())
+                     .arg(m_join->conflicts());
+    }
+    for (const std::string& note : m_join->notes) {
+        lines << enginemessages::translated(QString::fromStdString(note));
+    }
+    notice->setText(lines.join(u'\n'));
+    if (!m_join->findings.empty()) {
+        connect(notice->addButton(tr("Show List")), &QPushButton::clicked, this,
+                [this] { emit signalFindingsRequested(this); });
+    }
+    if (auto* column = qobject_cast<QBoxLayout*>(layout())) {
+        column->insertWidget(1, notice);
+    }
+}
+
 /// Its "Close" has the same keys as the main window's, and of two actions for one key Qt runs none.
 void DatasetWindow::dropSystemMenuShortcuts()
 {
@@ -128,14 +194,36 @@ void DatasetWindow::addCloseKey()
 QString DatasetWindow::path() const
 {
     const QString member = m_origin.member();
-    return member.isEmpty() ? m_origin.filePath : m_origin.filePath + u'/' + member;
+    const QString path = member.isEmpty() ? m_origin.filePath : m_origin.filePath + u'/' + member;
+    return m_join ? path.section(u'/', 0, -2) + u'/' + ownTitle() : path;
+}
+
+/// What the tab says without what tells it from others.
+QString DatasetWindow::ownTitle() const
+{
+    const QString member = m_origin.member();
+    if (!m_join) {
+        return shortened(member.isEmpty() ? filepath::shown(m_origin.filePath.section(u'/', -1))
+                                          : member);
+    }
+    QStringList names{member.isEmpty() ? QFileInfo(m_origin.filePath).completeBaseName() : member};
+    for (const JoinedFile& file : m_origin.supplements) {
+        names << (file.member.isEmpty() ? QFileInfo(file.path).completeBaseName() : file.member);
+    }
+    return shortened(filepath::shown(names.join(QStringLiteral(" + "))));
 }
 
 QString DatasetWindow::tip() const
 {
     const QString label = QString::fromStdString(m_dataset->header().fileLabel).trimmed();
-    const QString path = QDir::toNativeSeparators(m_origin.filePath);
-    return label.isEmpty() ? path : path + u'\n' + label;
+    QStringList lines{QDir::toNativeSeparators(m_origin.filePath)};
+    for (const JoinedFile& file : m_origin.supplements) {
+        lines << QDir::toNativeSeparators(file.key());
+    }
+    if (!label.isEmpty()) {
+        lines << label;
+    }
+    return lines.join(u'\n');
 }
 
 QString DatasetWindow::mainTitle() const
@@ -155,7 +243,7 @@ void DatasetWindow::showTitle()
 {
     const QString file = filepath::shown(m_origin.filePath.section(u'/', -1));
     const QString member = m_origin.member();
-    QString title = shortened(member.isEmpty() ? file : member);
+    QString title = ownTitle();
     if (!m_place.isEmpty() || !member.isEmpty()) {
         title = tr("%1 (in %2)").arg(title, shortened(m_place.isEmpty() ? file : m_place));
     }
@@ -167,18 +255,17 @@ void DatasetWindow::showTitle()
 
 void DatasetWindow::lookAtFile()
 {
-    const filepath::FileState file = filepath::stateOf(m_origin.filePath);
-    const bool isSame =
-        file.lastModified == m_origin.fileTimestamp && file.size == m_origin.fileSize;
+    const bool isSame = m_origin.isUnchanged();
+    const bool exists = m_origin.exists();
     const QString state = isSame ? QString()
-        : file.exists            ? tr("changed on disk")
+        : exists                 ? tr("changed on disk")
                                  : tr("gone from disk");
     if (state == m_fileState) {
         return;
     }
     m_fileState = state;
     m_fileNotice->setText(isSame ? QString()
-                              : file.exists
+                              : exists
                               ? tr("The file has changed since it was read; what is shown here is "
                                    "what it held before.")
                               : tr("The file is no longer there; what is shown here is what it "

@@ -94,6 +94,8 @@ void MainActions::createOtherActions()
     checkForUpdates = add("actionCheckForUpdates", tr("Check for Updates"));
     documentation = add("actionDocumentation", tr("Documentaiton"));  // sic
     compare = add("actionCompare", tr("Compare Datasets"));
+    joinSupp = add("actionJoinSupp", tr("Join SUPP--..."));
+    joinSupp->setStatusTip(tr("Show the dataset with its supplemental qualifiers"));
     submit = add("actionSubmit", tr("Submit"));
     submit->setShortcut(Qt::CTRL | Qt::Key_R);
     toggleDarkMode = add("actionToggleDarkMode", tr("Toggle Dark Mode"));

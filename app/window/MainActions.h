@@ -56,6 +56,7 @@ public:
     QAction* checkForUpdates = nullptr;
     QAction* documentation = nullptr;
     QAction* compare = nullptr;
+    QAction* joinSupp = nullptr;
     QAction* submit = nullptr;
     QAction* toggleDarkMode = nullptr;
 

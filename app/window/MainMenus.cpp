@@ -60,7 +60,7 @@ void MainMenus::fillViewMenu(const MainActions& actions)
 void MainMenus::fillToolsMenu(const MainActions& actions)
 {
     QMenu* tools = addMenu("menuTools", tr("&Tools"));
-    tools->addActions({actions.quickOpen, actions.compare});
+    tools->addActions({actions.quickOpen, actions.compare, actions.joinSupp});
     tools->addSeparator();
     tools->addAction(actions.options);
 }

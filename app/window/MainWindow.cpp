@@ -17,6 +17,7 @@
 #include "app/look/Theme.h"
 #include "app/open/RecentFiles.h"
 #include "app/open/Sessions.h"
+#include "app/open/SuppJoins.h"
 #include "app/start/Settings.h"
 #include "app/start/UpdateCheck.h"
 #include "app/start/WebSite.h"
@@ -146,6 +147,8 @@ void MainWindow::createOpener(DatasetLoader load)
     connect(m_opener, &DatasetOpener::signalShown, this,
             [this](DatasetWindow* window) { m_look->applyFontTo(*window->view()); });
     connect(m_opener, &DatasetOpener::signalRead, m_recentFiles.get(), &RecentFiles::add);
+    m_suppJoins = new SuppJoins({*this, m_area->mdiArea(), *m_opener, *m_prompts, *m_settings,
+                                 *m_gridServices, *m_actions->joinSupp});
 }
 
 void MainWindow::createToolBars()
@@ -312,6 +315,8 @@ void MainWindow::fillWorkspace()
             [this](const QString& path) { m_properties->showOfFile(path); });
     connect(m_tree, &WorkspaceTree::signalCompareRequested, m_comparisons,
             &Comparisons::showDialogFor);
+    connect(m_tree, &WorkspaceTree::signalJoinRequested, m_suppJoins,
+            [this](const QString& path) { m_suppJoins->join(path); });
     connect(m_tree, &WorkspaceTree::signalOpenRequested, m_opener, &DatasetOpener::openLater);
     connect(m_libraries.get(), &Libraries::signalVariableRequested, this,
             &MainWindow::showVariable);
@@ -400,6 +405,7 @@ void MainWindow::activeWindow(QMdiSubWindow* window)
     m_cellDocks->follow(m_activeView);
     m_docks->showTitlesOf(active->datasetName());
     m_sidePanels->setGrid(m_activeView);
+    m_suppJoins->follow(active);
     updateStatus();
     showWhatIsOpen();
 }
@@ -426,6 +432,7 @@ void MainWindow::leaveGrid()
     m_operator->follow(nullptr);
     generateSasCode();
     m_sidePanels->setGrid(nullptr);
+    m_suppJoins->follow(nullptr);
 }
 
 /// Brings what depends on whether there is a dataset up to date.

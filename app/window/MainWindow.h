@@ -39,6 +39,7 @@ class Sessions;
 class Settings;
 class SidePanels;
 class StatusCounters;
+class SuppJoins;
 class UpdateCheck;
 class UserPrompts;
 class WindowArrangement;
@@ -176,6 +177,7 @@ private:
     PropertiesWindows* m_properties = nullptr;
     DatasetsArea* m_area = nullptr;
     DatasetOpener* m_opener = nullptr;
+    SuppJoins* m_suppJoins = nullptr;
     CodeWindow* m_code = nullptr;
     OutputView* m_output = nullptr;
     Comparisons* m_comparisons = nullptr;

@@ -15,7 +15,9 @@ PropertiesWindows::PropertiesWindows(QWidget& window, UserPrompts& prompts)
 void PropertiesWindows::showOf(const DatasetWindow* window)
 {
     if (window != nullptr) {
-        show(*window->dataset(), window->datasetName(), window->origin().filePath);
+        // What is joined has no file of its own; its attributes name those it comes from.
+        const QString path = window->join() == nullptr ? window->origin().filePath : QString();
+        show(*window->dataset(), window->datasetName(), path);
     }
 }
 
