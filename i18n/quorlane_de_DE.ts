@@ -326,6 +326,14 @@ Möchten Sie das Dataset neu laden?</translation>
         <source>Open R Data</source>
         <translation>R-Daten öffnen</translation>
     </message>
+    <message>
+        <source>Join SUPP--</source>
+        <translation>SUPP-- anfügen</translation>
+    </message>
+    <message>
+        <source>Failed to join %1</source>
+        <translation>%1 konnten nicht zusammengefügt werden</translation>
+    </message>
 </context>
 <context>
     <name>DatasetPropertiesDialog</name>
@@ -407,6 +415,14 @@ Möchten Sie das Dataset neu laden?</translation>
     <message>
         <source>The file is no longer there; what is shown here is what it held.</source>
         <translation>Die Datei ist nicht mehr vorhanden; hier ist zu sehen, was sie enthielt.</translation>
+    </message>
+    <message>
+        <source>Rows of SUPP-- datasets that match no observation: %1. Rows whose value conflicts with another one: %2.</source>
+        <translation>Zeilen von SUPP---Datasets, die zu keiner Beobachtung passen: %1. Zeilen, deren Wert einem anderen widerspricht: %2.</translation>
+    </message>
+    <message>
+        <source>Show List</source>
+        <translation>Liste zeigen</translation>
     </message>
 </context>
 <context>
@@ -1389,6 +1405,70 @@ und keine Beobachtung steht nur in einem der Datasets.</translation>
         <source>The folder cannot be listed: %1</source>
         <translation>Der Ordner kann nicht aufgelistet werden: %1</translation>
     </message>
+    <message>
+        <source>It has both USUBJID and APID; one of them is to name the subject</source>
+        <translation>Es enthält sowohl USUBJID als auch APID; nur eine davon darf die Person nennen</translation>
+    </message>
+    <message>
+        <source>It has neither USUBJID nor APID</source>
+        <translation>Es enthält weder USUBJID noch APID</translation>
+    </message>
+    <message>
+        <source>It is no SUPP-- dataset, as it lacks %1</source>
+        <translation>Es ist kein SUPP---Dataset: es fehlt %1</translation>
+    </message>
+    <message>
+        <source>None of its rows belongs to %1; RDOMAIN is %2</source>
+        <translation>Keine seiner Zeilen gehört zu %1; RDOMAIN ist %2</translation>
+    </message>
+    <message>
+        <source>QNAM %1 is also a variable of %2; it is joined as %3</source>
+        <translation>QNAM %1 ist auch eine Variable von %2; angefügt wird sie als %3</translation>
+    </message>
+    <message>
+        <source>QNAM %1 has several labels: %2</source>
+        <translation>QNAM %1 hat mehrere Bezeichnungen: %2</translation>
+    </message>
+    <message>
+        <source>QNAM is blank</source>
+        <translation>QNAM ist leer</translation>
+    </message>
+    <message>
+        <source>QVAL is blank</source>
+        <translation>QVAL ist leer</translation>
+    </message>
+    <message>
+        <source>RDOMAIN is %1, which is not the domain of the observations</source>
+        <translation>RDOMAIN ist %1, und das ist nicht die Domäne der Beobachtungen</translation>
+    </message>
+    <message>
+        <source>It names no subject</source>
+        <translation>Es ist keine Person genannt</translation>
+    </message>
+    <message>
+        <source>IDVARVAL has no IDVAR</source>
+        <translation>Zu IDVARVAL fehlt IDVAR</translation>
+    </message>
+    <message>
+        <source>IDVARVAL is blank</source>
+        <translation>IDVARVAL ist leer</translation>
+    </message>
+    <message>
+        <source>%1 is numeric, and IDVARVAL is no number</source>
+        <translation>%1 ist numerisch, und IDVARVAL ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>No observation belongs to this subject</source>
+        <translation>Zu dieser Person gehört keine Beobachtung</translation>
+    </message>
+    <message>
+        <source>The subject has no observation with this %1</source>
+        <translation>Die Person hat keine Beobachtung mit diesem Wert von %1</translation>
+    </message>
+    <message>
+        <source>Row %1 of %2 has another value: %3</source>
+        <translation>Zeile %1 von %2 hat einen anderen Wert: %3</translation>
+    </message>
 </context>
 <context>
     <name>FailureNote</name>
@@ -2218,6 +2298,14 @@ Die Dateien in %2 bleiben, wie sie sind.</translation>
         <source>Dataset Properties</source>
         <translation>Eigenschaften des Datasets</translation>
     </message>
+    <message>
+        <source>Join SUPP--...</source>
+        <translation>SUPP-- anfügen...</translation>
+    </message>
+    <message>
+        <source>Show the dataset with its supplemental qualifiers</source>
+        <translation>Das Dataset mit seinen ergänzenden Angaben (SUPP--) zeigen</translation>
+    </message>
 </context>
 <context>
     <name>MainMenus</name>
@@ -2623,6 +2711,10 @@ Die Dateien ihrer Datasets bleiben.</translation>
     <message>
         <source>%1: %2 (%3)</source>
         <translation>%1: %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Session &quot;%1&quot; saved without joined datasets, of which there are %2</source>
+        <translation>Sitzung „%1“ gespeichert, ohne zusammengefügte Datasets; davon gibt es %2</translation>
     </message>
 </context>
 <context>
@@ -3075,6 +3167,60 @@ Dieses Dataset wird damit nicht gefiltert: %2</translation>
     <message>
         <source>Rows: NA / NA</source>
         <translation>Zeilen: NA / NA</translation>
+    </message>
+</context>
+<context>
+    <name>SuppFindingsDialog</name>
+    <message>
+        <source>Findings of %1</source>
+        <translation>Befunde zu %1</translation>
+    </message>
+    <message>
+        <source>Dataset</source>
+        <translation>Dataset</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>Person</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Was nicht stimmt</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Show &amp;Row</source>
+        <translation>&amp;Zeile zeigen</translation>
+    </message>
+    <message>
+        <source>Show &amp;Other Row</source>
+        <translation>&amp;Andere Zeile zeigen</translation>
+    </message>
+    <message>
+        <source>Show Obser&amp;vation</source>
+        <translation>&amp;Beobachtung zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>SuppJoins</name>
+    <message>
+        <source>Datasets (%1)</source>
+        <translation>Datasets (%1)</translation>
+    </message>
+    <message>
+        <source>Choose the SUPP-- Datasets</source>
+        <translation>SUPP---Datasets auswählen</translation>
+    </message>
+    <message>
+        <source>%1: joined variables %2, rows that match no observation %3, conflicts %4</source>
+        <translation>%1: angefügte Variablen %2, Zeilen ohne passende Beobachtung %3, Widersprüche %4</translation>
     </message>
 </context>
 <context>

@@ -326,6 +326,14 @@ Do you want to reload it?</source>
         <source>Open R Data</source>
         <translation>打开 R 数据</translation>
     </message>
+    <message>
+        <source>Join SUPP--</source>
+        <translation>合并 SUPP--</translation>
+    </message>
+    <message>
+        <source>Failed to join %1</source>
+        <translation>无法合并 %1</translation>
+    </message>
 </context>
 <context>
     <name>DatasetPropertiesDialog</name>
@@ -407,6 +415,14 @@ Do you want to reload it?</source>
     <message>
         <source>The file is no longer there; what is shown here is what it held.</source>
         <translation>该文件已不存在；此处显示的是其原有内容。</translation>
+    </message>
+    <message>
+        <source>Rows of SUPP-- datasets that match no observation: %1. Rows whose value conflicts with another one: %2.</source>
+        <translation>SUPP-- 数据集中不匹配任何观测的行：%1。值与其他行冲突的行：%2。</translation>
+    </message>
+    <message>
+        <source>Show List</source>
+        <translation>显示列表</translation>
     </message>
 </context>
 <context>
@@ -1389,6 +1405,70 @@ and no observation is in one dataset only.</source>
         <source>The folder cannot be listed: %1</source>
         <translation>无法列出该文件夹：%1</translation>
     </message>
+    <message>
+        <source>It has both USUBJID and APID; one of them is to name the subject</source>
+        <translation>它同时有 USUBJID 和 APID；受试者只能由其中一个标识</translation>
+    </message>
+    <message>
+        <source>It has neither USUBJID nor APID</source>
+        <translation>它既没有 USUBJID 也没有 APID</translation>
+    </message>
+    <message>
+        <source>It is no SUPP-- dataset, as it lacks %1</source>
+        <translation>它不是 SUPP-- 数据集，缺少 %1</translation>
+    </message>
+    <message>
+        <source>None of its rows belongs to %1; RDOMAIN is %2</source>
+        <translation>没有任何行属于 %1；RDOMAIN 为 %2</translation>
+    </message>
+    <message>
+        <source>QNAM %1 is also a variable of %2; it is joined as %3</source>
+        <translation>QNAM %1 也是 %2 的变量；以 %3 为名合并</translation>
+    </message>
+    <message>
+        <source>QNAM %1 has several labels: %2</source>
+        <translation>QNAM %1 有多个标签：%2</translation>
+    </message>
+    <message>
+        <source>QNAM is blank</source>
+        <translation>QNAM 为空</translation>
+    </message>
+    <message>
+        <source>QVAL is blank</source>
+        <translation>QVAL 为空</translation>
+    </message>
+    <message>
+        <source>RDOMAIN is %1, which is not the domain of the observations</source>
+        <translation>RDOMAIN 为 %1，不是这些观测的域</translation>
+    </message>
+    <message>
+        <source>It names no subject</source>
+        <translation>未指明受试者</translation>
+    </message>
+    <message>
+        <source>IDVARVAL has no IDVAR</source>
+        <translation>有 IDVARVAL 但没有 IDVAR</translation>
+    </message>
+    <message>
+        <source>IDVARVAL is blank</source>
+        <translation>IDVARVAL 为空</translation>
+    </message>
+    <message>
+        <source>%1 is numeric, and IDVARVAL is no number</source>
+        <translation>%1 是数值型，而 IDVARVAL 不是数字</translation>
+    </message>
+    <message>
+        <source>No observation belongs to this subject</source>
+        <translation>该受试者没有任何观测</translation>
+    </message>
+    <message>
+        <source>The subject has no observation with this %1</source>
+        <translation>该受试者没有 %1 为此值的观测</translation>
+    </message>
+    <message>
+        <source>Row %1 of %2 has another value: %3</source>
+        <translation>%2 的第 %1 行是另一个值：%3</translation>
+    </message>
 </context>
 <context>
     <name>FailureNote</name>
@@ -2218,6 +2298,14 @@ The files in %2 stay as they are.</source>
         <source>Dataset Properties</source>
         <translation>数据集属性</translation>
     </message>
+    <message>
+        <source>Join SUPP--...</source>
+        <translation>合并 SUPP--...</translation>
+    </message>
+    <message>
+        <source>Show the dataset with its supplemental qualifiers</source>
+        <translation>显示数据集及其补充限定值</translation>
+    </message>
 </context>
 <context>
     <name>MainMenus</name>
@@ -2623,6 +2711,10 @@ The files of its datasets stay.</source>
     <message>
         <source>%1: %2 (%3)</source>
         <translation>%1：%2（%3）</translation>
+    </message>
+    <message>
+        <source>Session &quot;%1&quot; saved without joined datasets, of which there are %2</source>
+        <translation>会话“%1”已保存，不含合并的数据集（共 %2 个）</translation>
     </message>
 </context>
 <context>
@@ -3075,6 +3167,60 @@ This dataset is not filtered by it: %2</source>
     <message>
         <source>Rows: NA / NA</source>
         <translation>行：NA / NA</translation>
+    </message>
+</context>
+<context>
+    <name>SuppFindingsDialog</name>
+    <message>
+        <source>Findings of %1</source>
+        <translation>%1 的问题</translation>
+    </message>
+    <message>
+        <source>Dataset</source>
+        <translation>数据集</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>受试者</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Show &amp;Row</source>
+        <translation>显示行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Show &amp;Other Row</source>
+        <translation>显示另一行(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show Obser&amp;vation</source>
+        <translation>显示观测(&amp;V)</translation>
+    </message>
+</context>
+<context>
+    <name>SuppJoins</name>
+    <message>
+        <source>Datasets (%1)</source>
+        <translation>数据集 (%1)</translation>
+    </message>
+    <message>
+        <source>Choose the SUPP-- Datasets</source>
+        <translation>选择 SUPP-- 数据集</translation>
+    </message>
+    <message>
+        <source>%1: joined variables %2, rows that match no observation %3, conflicts %4</source>
+        <translation>%1：合并的变量 %2，不匹配任何观测的行 %3，冲突 %4</translation>
     </message>
 </context>
 <context>

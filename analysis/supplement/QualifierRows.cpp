@@ -11,7 +11,8 @@ namespace supplement {
 std::string keyText(const StatDataset& dataset, int row, int variable)
 {
     if (dataset.isCharacter(variable)) {
-        return texts::trimmed(dataset.stringValue(row, variable));
+        std::string text = texts::trimmed(dataset.stringValue(row, variable));
+        return text == dataset.missingText(variable) ? std::string() : text;
     }
     const double number = dataset.numericValue(row, variable);
     return dataset.missingMark(variable).isMissing(number) ? std::string()
@@ -93,18 +94,25 @@ std::string QualifierRows::value(int row) const
     }
     std::string text = m_dataset->stringValue(row, m_value);
     text.erase(text.find_last_not_of(' ') + 1);
-    return text;
+    return text == m_dataset->missingText(m_value) ? std::string() : text;
 }
 
 Qualifier QualifierRows::at(int row) const
 {
+    std::string idVariable = text(row, m_idVariable);
+    std::string idValue = text(row, m_idValue);
+    // What R writes for a missing text to a CSV file; no variable of a domain is called so.
+    if (idVariable == "NA" && idValue == "NA") {
+        idVariable.clear();
+        idValue.clear();
+    }
     return {.study = text(row, m_study),
             .domain = text(row, m_domain),
             .subject = text(row, m_subject),
             .pool = text(row, m_pool),
             .device = text(row, m_device),
-            .idVariable = text(row, m_idVariable),
-            .idValue = text(row, m_idValue),
+            .idVariable = std::move(idVariable),
+            .idValue = std::move(idValue),
             .name = text(row, m_name),
             .value = value(row)};
 }

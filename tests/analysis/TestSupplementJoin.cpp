@@ -124,6 +124,23 @@ TEST(SupplementJoin, textIdVariableIsNoNumberAndGroupsShareTheirValue)
     EXPECT_EQ(cells(without, L"X"), (Lines{"all", "all", "all", ""})) << "all of the subject";
 }
 
+TEST(SupplementJoin, missingTextsOfRAreBlank)
+{
+    EXPECT_EQ(cells(joinOf({"AE,02,NA,NA,X,a"}), L"X"), (Lines{"", "", "", "a"})) << "in CSV";
+    ScriptedDataset supp(SourceKind::R);
+    supp.tableName("SUPPAE");
+    for (const char* name :
+         {"STUDYID", "RDOMAIN", "USUBJID", "IDVAR", "IDVARVAL", "QNAM", "QVAL"}) {
+        supp.variable(name, TypeCode::Character);
+    }
+    supp.row({"S", "AE", "02", "N/A", "N/A", "X", "a"});
+    supp.row({"S", "AE", "01", "N/A", "N/A", "X", "N/A"});
+    const Joined joined =
+        std::move(supplement::join(events(), "ae.xpt", {{&supp, "supp.rda"}}).value());
+    EXPECT_EQ(cells(joined, L"X"), (Lines{"", "", "", "a"}));
+    EXPECT_EQ(findings(joined), Lines{"SUPPAE row 2, 01 X=: QVAL is blank"});
+}
+
 TEST(SupplementJoin, severalIdVariablesMakeOneVariable)
 {
     const Joined joined = joinOf(

@@ -45,10 +45,10 @@ private:
         dm.rows = {{"S", "DM", "01"}, {"S", "DM", "02"}};
         samples::Table supp;
         supp.name = "SUPPDM";
-        supp.columns = {textColumn("STUDYID", "", 1),   textColumn("RDOMAIN", "", 2),
-                        textColumn("USUBJID", "", 2),   textColumn("IDVAR", "", 8),
-                        textColumn("IDVARVAL", "", 8),  textColumn("QNAM", "", 8),
-                        textColumn("QLABEL", "", 8),    textColumn("QVAL", "", 8),
+        supp.columns = {textColumn("STUDYID", "", 1),  textColumn("RDOMAIN", "", 2),
+                        textColumn("USUBJID", "", 2),  textColumn("IDVAR", "", 8),
+                        textColumn("IDVARVAL", "", 8), textColumn("QNAM", "", 8),
+                        textColumn("QLABEL", "", 8),   textColumn("QVAL", "", 8),
                         textColumn("QORIG", "", 8)};
         supp.rows = {{"S", "DM", "03", "", "", "RACE1", "Race 1", "WHITE", "CRF"},
                      {"S", "DM", "02", "", "", "RACE1", "Race 1", race, "CRF"},
@@ -75,14 +75,14 @@ void TestSuppJoins::joinsTheDatasetInFront()
     join();
     QVERIFY2(!action->isEnabled(), "what is joined cannot be joined again");
     QCOMPARE(titles(), QStringList({"dm.xpt", "dm + suppdm"}));
-    QCOMPARE(active()->property("fileKey").toString(),
-             path("dm.xpt") + " + " + path("suppdm.xpt"));
+    QCOMPARE(active()->property("fileKey").toString(), path("dm.xpt") + " + " + path("suppdm.xpt"));
     QCOMPARE(race(0), QString());
     QCOMPARE(race(1), QString("ASIAN | BLACK"));
     QCOMPARE(view().model()->headerData(3, Qt::Horizontal, Qt::ToolTipRole).toString(),
              QString("Race 1\nSUPPDM\nQORIG: CRF"));
-    QVERIFY(child<QStatusBar>("statusbar")->currentMessage().contains(
-        "joined variables 1, rows that match no observation 1, conflicts 1"));
+    QVERIFY(child<QStatusBar>("statusbar")
+                ->currentMessage()
+                .contains("joined variables 1, rows that match no observation 1, conflicts 1"));
     const QString logged = QString::fromStdString(log->take());
     QVERIFY(logged.contains("SUPPDM row 1, 03 RACE1=WHITE: No observation"));
 
@@ -94,8 +94,9 @@ void TestSuppJoins::joinsTheDatasetInFront()
     activate(0);
     QVERIFY(action->isEnabled());
     emit child<WorkspaceTree>("treeView")->signalJoinRequested(path("dm.xpt"));
-    QCOMPARE(notes(), QStringList("confirm|Reload Dataset|\"dm.xpt + suppdm.xpt\" is already open."
-                                  "\nDo you want to reload it?"));
+    QCOMPARE(notes(),
+             QStringList("confirm|Reload Dataset|\"dm.xpt + suppdm.xpt\" is already open."
+                         "\nDo you want to reload it?"));
     QCOMPARE(active()->datasetName(), QString("DM + SUPPDM"));
 }
 
@@ -108,6 +109,7 @@ void TestSuppJoins::findingsLeadToTheRows()
     auto* table = dialog->findChild<PanelTable*>();
     QCOMPARE(table->model()->rowCount(), 2);
     QVERIFY(!dialog->findChild<QPushButton*>("showObservation")->isEnabled());
+    table->setFocus();
     table->selectRow(1);
     QCOMPARE(table->model()->index(1, 7).data().toString(),
              QString("Row 2 of SUPPDM has another value: ASIAN"));
@@ -140,9 +142,11 @@ void TestSuppJoins::filesByName_data()
     QTest::addColumn<QStringList>("files");
     QTest::addColumn<QString>("parent");
     QTest::addColumn<QString>("found");
-    QTest::newRow("of the same kind") << QStringList({"SuppAE.csv", "suppae.xpt", "suppaefoo1.xpt"})
-                                      << "ae.xpt" << "suppae.xpt";
-    QTest::newRow("any kind") << QStringList({"suppae.json"}) << "AE.xpt" << "suppae.json";
+    QTest::newRow("of the same kind")
+        << QStringList({"SuppAE.csv", "suppae.xpt", "suppaefoo1.xpt"}) << "ae.xpt"
+        << "suppae.xpt";
+    QTest::newRow("any kind") << QStringList({"suppae.json"}) << "AE.xpt"
+                              << "suppae.json";
     QTest::newRow("split files of one domain")
         << QStringList({"supplbch.xpt", "supplbhe.xpt", "suppla.xpt"}) << "lb.xpt"
         << "supplbch.xpt supplbhe.xpt";
@@ -150,7 +154,8 @@ void TestSuppJoins::filesByName_data()
         << QStringList({"supplb.xpt", "supplbch.xpt", "supplbhe.xpt"}) << "lbch.xpt"
         << "supplbch.xpt";
     QTest::newRow("split domain has none of its own")
-        << QStringList({"supplb.xpt", "supplbhe.xpt"}) << "lbch.xpt" << "supplb.xpt";
+        << QStringList({"supplb.xpt", "supplbhe.xpt"}) << "lbch.xpt"
+        << "supplb.xpt";
     QTest::newRow("none") << QStringList({"ae.csv", "suppdm.xpt", "supp.xpt", "su.xpt"}) << "ae.xpt"
                           << "";
 }
