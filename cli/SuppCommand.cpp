@@ -134,7 +134,7 @@ void printProblems(const Joined& result, OutputFormat format)
 Result<bool> printJoined(const SuppOptions& options, const Joined& result)
 {
     StatDataset& dataset = *result.dataset;
-    if (const Result<bool> selected = selectWhere(dataset, options.where); !selected) {
+    if (Result<bool> selected = selectWhere(dataset, options.where); !selected) {
         return selected;
     }
     if (options.problems) {

@@ -64,6 +64,7 @@ void ExtendedDataset::fillCells(const std::vector<Column>& columns)
     m_cells.reserve(static_cast<std::size_t>(m_observationCount)
                     * static_cast<std::size_t>(m_variableCount));
     std::vector<MissingMark> marks;
+    marks.reserve(static_cast<std::size_t>(m_source->variableCount()));
     for (int column = 0; column < m_source->variableCount(); ++column) {
         marks.push_back(m_source->missingMark(column));
     }

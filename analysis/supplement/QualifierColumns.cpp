@@ -66,33 +66,33 @@ std::uint32_t QualifierColumns::numberOf(Column& column, const std::string& text
     return entry->second;
 }
 
-std::optional<QualifierColumns::Before> QualifierColumns::put(std::size_t number,
+std::optional<QualifierColumns::Before> QualifierColumns::put(std::size_t column,
                                                               std::uint32_t observation,
                                                               const std::string& value,
                                                               RowPlace place)
 {
-    Column& column = m_columns[number];
-    std::uint32_t& text = column.result.places[observation];
+    Column& filled = m_columns[column];
+    std::uint32_t& text = filled.result.places[observation];
     if (text == 0) {
-        text = numberOf(column, value);
-        column.places[observation] = place;
+        text = numberOf(filled, value);
+        filled.places[observation] = place;
         return std::nullopt;
     }
-    const std::string held = column.result.texts[text - 1];
-    const auto conflict = column.several.find(observation);
-    const std::string first = conflict == column.several.end() ? held : conflict->second.front();
+    const std::string held = filled.result.texts[text - 1];
+    const auto conflict = filled.several.find(observation);
+    const std::string first = conflict == filled.several.end() ? held : conflict->second.front();
     if (value == first) {
         return std::nullopt;
     }
-    std::vector<std::string>& values = column.several[observation];
+    std::vector<std::string>& values = filled.several[observation];
     if (values.empty()) {
         values.push_back(first);
     }
     if (std::find(values.begin(), values.end(), value) == values.end()) {
         values.push_back(value);
-        text = numberOf(column, held + valueSeparator + value);
+        text = numberOf(filled, held + valueSeparator + value);
     }
-    return Before{column.places[observation], first};
+    return Before{filled.places[observation], first};
 }
 
 std::string QualifierColumns::originOf(const Column& column)

@@ -37,7 +37,7 @@ public:
         std::string value;
     };
     /// Gives a cell a value. One that has another value already shows both from then on.
-    /// @return  what it had, if that is another value; an empty vector otherwise
+    /// @return  what it had, if that is another value
     [[nodiscard]] std::optional<Before> put(std::size_t column, std::uint32_t observation,
                                             const std::string& value, RowPlace place);
 

@@ -389,7 +389,8 @@ void TestLibraries::menusHoldWhatIsAliveAndDoIt()
     QVERIFY(tree().viewport()->findChild<QLineEdit*>() != nullptr);
     QCOMPARE(menuOf(file(0), "Open").first(), "Open");
     QTRY_COMPARE(loaded, QStringList("ae.csv"));
-    QCOMPARE(menuOf(file(0)), QStringList({"Open", "Properties", "Compare With..."}));
+    QCOMPARE(menuOf(file(0)),
+             QStringList({"Open", "Properties", "Join SUPP--", "Compare With..."}));
     // The program of its dataset speaks of the library as it is called now.
     QTRY_VERIFY(window->activeView() != nullptr);
     emit tree().signalRenameRequested(tree().library(1), "Week 12");
@@ -405,6 +406,7 @@ void TestLibraries::menusHoldWhatIsAliveAndDoIt()
     QCOMPARE(menuOf(file(1), "Compare With..."),
              QStringList({"Open", "Properties", "Compare With..."}));
     QCOMPARE(joined.value(0).value(0).toString(), path("sdtm/ae.csv"));
+    QVERIFY2(notes().value(0).startsWith("warn|Join SUPP--|"), "what is read has no DOMAIN");
     QCOMPARE(compared.value(0).value(0).toString(), path("sdtm/dm.csv"));
     press(Qt::Key_Return, Qt::AltModifier);
     QCOMPARE(properties.value(0).value(0).toString(), path("sdtm/dm.csv"));

@@ -114,6 +114,7 @@ void TestSuppJoins::findingsLeadToTheRows()
     QCOMPARE(table->model()->index(1, 7).data().toString(),
              QString("Row 2 of SUPPDM has another value: ASIAN"));
     QTest::keyClick(table, Qt::Key_Return);
+    QCOMPARE(titles().join(' '), QString("dm.xpt dm + suppdm suppdm.xpt"));
     QCOMPARE(active()->datasetName(), QString("SUPPDM"));
     QCOMPARE(view().currentIndex().row(), 2);
     dialog->findChild<QPushButton*>("showOtherRow")->click();
