@@ -53,7 +53,9 @@ private:
         supp.rows = {{"S", "DM", "03", "", "", "RACE1", "Race 1", "WHITE", "CRF"},
                      {"S", "DM", "02", "", "", "RACE1", "Race 1", race, "CRF"},
                      {"S", "DM", "02", "", "", "RACE1", "Race 1", "BLACK", "CRF"}};
-        samples::writeTable(path("dm.xpt").toStdString(), dm);
+        if (!QFile::exists(path("dm.xpt"))) {
+            samples::writeTable(path("dm.xpt").toStdString(), dm);
+        }
         samples::writeTable(path("suppdm.xpt").toStdString(), supp);
     }
     void join()
