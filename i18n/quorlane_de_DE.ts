@@ -104,10 +104,6 @@
         <translation>SAS-Programm speichern</translation>
     </message>
     <message>
-        <source>Failed to save the file: %1</source>
-        <translation>Die Datei konnte nicht gespeichert werden: %1</translation>
-    </message>
-    <message>
         <source>The program %1 is not saved.
 Do you want to save it?</source>
         <translation>Das Programm %1 ist nicht gespeichert.
@@ -134,6 +130,243 @@ Möchten Sie es speichern?</translation>
     <message>
         <source>There is not enough memory.</source>
         <translation>Der Arbeitsspeicher reicht nicht aus.</translation>
+    </message>
+</context>
+<context>
+    <name>CompareDialog</name>
+    <message>
+        <source>ID variables</source>
+        <translation>ID-Variablen</translation>
+    </message>
+    <message>
+        <source>by position</source>
+        <translation>nach Position</translation>
+    </message>
+    <message>
+        <source>&amp;Propose</source>
+        <translation>&amp;Vorschlagen</translation>
+    </message>
+    <message>
+        <source>Variables to compare</source>
+        <translation>Zu vergleichende Variablen</translation>
+    </message>
+    <message>
+        <source>all common variables</source>
+        <translation>alle gemeinsamen Variablen</translation>
+    </message>
+    <message>
+        <source>Compare Datasets</source>
+        <translation>Datasets vergleichen</translation>
+    </message>
+    <message>
+        <source>The key variables of the file, or study, subject, sequence number and so on, as many as it takes</source>
+        <translation>Die Schlüsselvariablen der Datei, sonst Studie, Person, laufende Nummer und so weiter, so viele wie nötig</translation>
+    </message>
+    <message>
+        <source>Open File...</source>
+        <translation>Datei öffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Base:</source>
+        <translation>&amp;Basis:</translation>
+    </message>
+    <message>
+        <source>&amp;Compare:</source>
+        <translation>&amp;Vergleich:</translation>
+    </message>
+    <message>
+        <source>S&amp;wap</source>
+        <translation>&amp;Tauschen</translation>
+    </message>
+    <message>
+        <source>ID Variables</source>
+        <translation>ID-Variablen</translation>
+    </message>
+    <message>
+        <source>Variables to Compare</source>
+        <translation>Zu vergleichende Variablen</translation>
+    </message>
+    <message>
+        <source>NAME=OTHER compares variables of different names.</source>
+        <translation>NAME=ANDERER vergleicht Variablen mit verschiedenen Namen.</translation>
+    </message>
+    <message>
+        <source>&amp;SAS Program</source>
+        <translation>&amp;SAS-Programm</translation>
+    </message>
+    <message>
+        <source>Write the program that makes this comparison in SAS</source>
+        <translation>Das Programm schreiben, das diesen Vergleich in SAS macht</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Vergleichen</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>Choose two datasets, open ones or files.</source>
+        <translation>Zwei Datasets wählen, offene oder Dateien.</translation>
+    </message>
+    <message>
+        <source>%1 x %2</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>Observations x variables: %1 and %2; variables in common: %3</source>
+        <translation>Beobachtungen x Variablen: %1 und %2; gemeinsame Variablen: %3</translation>
+    </message>
+    <message>
+        <source>Observations are matched by their position.</source>
+        <translation>Beobachtungen werden nach ihrer Position zugeordnet.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Each observation has ID values of its own.</source>
+        <translation>Jede Beobachtung hat eigene ID-Werte.</translation>
+    </message>
+    <message>
+        <source>Observations that repeat ID values: %1; they are paired in their order.</source>
+        <translation>Beobachtungen, die ID-Werte wiederholen: %1; sie werden in ihrer Reihenfolge zugeordnet.</translation>
+    </message>
+</context>
+<context>
+    <name>CompareOptionsPanel</name>
+    <message>
+        <source>What Is Equal</source>
+        <translation>Was gleich ist</translation>
+    </message>
+    <message>
+        <source>Larger differences are unequal; a negative number counts machine epsilons, -1000 means equal up to rounding</source>
+        <translation>Größere Differenzen sind ungleich; eine negative Zahl zählt Maschinengenauigkeiten, -1000 heißt gleich bis auf Rundung</translation>
+    </message>
+    <message>
+        <source>0 to 1; keeps differences of numbers near 0 from counting</source>
+        <translation>0 bis 1; damit Differenzen von Zahlen nahe 0 nicht zählen</translation>
+    </message>
+    <message>
+        <source>Criteria of single variables: VARIABLE=NUMBER, with a method of its own VARIABLE=NUMBER:METHOD</source>
+        <translation>Kriterien einzelner Variablen: VARIABLE=ZAHL, mit eigener Methode VARIABLE=ZAHL:METHODE</translation>
+    </message>
+    <message>
+        <source>&amp;Method:</source>
+        <translation>&amp;Methode:</translation>
+    </message>
+    <message>
+        <source>C&amp;riterion:</source>
+        <translation>K&amp;riterium:</translation>
+    </message>
+    <message>
+        <source>De&amp;lta:</source>
+        <translation>De&amp;lta:</translation>
+    </message>
+    <message>
+        <source>Cri&amp;teria of variables:</source>
+        <translation>Kriterien von Varia&amp;blen:</translation>
+    </message>
+    <message>
+        <source>Missing in base equals all (NOMISSBASE)</source>
+        <translation>Fehlend in Basis gleicht allem (NOMISSBASE)</translation>
+    </message>
+    <message>
+        <source>Missing in compare equals all (NOMISSCOMP)</source>
+        <translation>Fehlend in Vergleich gleicht allem (NOMISSCOMP)</translation>
+    </message>
+    <message>
+        <source>Filters and hidden variables count</source>
+        <translation>Filter und verborgene Variablen zählen</translation>
+    </message>
+    <message>
+        <source>Compare only the observations and variables that the grids show at the moment</source>
+        <translation>Nur die Beobachtungen und Variablen vergleichen, die die Tabellen gerade zeigen</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Variables of one side</source>
+        <translation>Variablen nur einer Seite</translation>
+    </message>
+    <message>
+        <source>Observations of one side</source>
+        <translation>Beobachtungen nur einer Seite</translation>
+    </message>
+    <message>
+        <source>Variables with equal values</source>
+        <translation>Variablen mit gleichen Werten</translation>
+    </message>
+    <message>
+        <source>Brief summary</source>
+        <translation>Kurze Übersicht</translation>
+    </message>
+    <message>
+        <source>Values by observation</source>
+        <translation>Werte nach Beobachtung</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistiken</translation>
+    </message>
+    <message>
+        <source>in total:</source>
+        <translation>insgesamt:</translation>
+    </message>
+    <message>
+        <source>of texts:</source>
+        <translation>der Texte:</translation>
+    </message>
+    <message>
+        <source>Smaller values are printed as 0, smaller differences not at all</source>
+        <translation>Kleinere Werte werden als 0 gedruckt, kleinere Differenzen gar nicht</translation>
+    </message>
+    <message>
+        <source>Differences per variable:</source>
+        <translation>Differenzen je Variable:</translation>
+    </message>
+    <message>
+        <source>Width of lines:</source>
+        <translation>Breite der Zeilen:</translation>
+    </message>
+    <message>
+        <source>F&amp;uzz:</source>
+        <translation>F&amp;uzz:</translation>
+    </message>
+</context>
+<context>
+    <name>Comparisons</name>
+    <message>
+        <source>Open File</source>
+        <translation>Datei öffnen</translation>
+    </message>
+    <message>
+        <source>All compared values of %1 and %2 are equal</source>
+        <translation>Alle verglichenen Werte von %1 und %2 sind gleich</translation>
+    </message>
+    <message>
+        <source>%1 has been read anew since it was compared</source>
+        <translation>%1 wurde nach dem Vergleich neu gelesen</translation>
+    </message>
+    <message>
+        <source>Save Differences</source>
+        <translation>Unterschiede speichern</translation>
+    </message>
+    <message>
+        <source>Tab-Separated Text (*.txt *.tsv);;CSV Files (*.csv);;JSON Files (*.json)</source>
+        <translation>Text mit Tabulatoren (*.txt *.tsv);;CSV-Dateien (*.csv);;JSON-Dateien (*.json)</translation>
+    </message>
+    <message>
+        <source>Failed to save the file: %1</source>
+        <translation>Die Datei konnte nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 is no longer open</source>
+        <translation>%1 ist nicht mehr offen</translation>
     </message>
 </context>
 <context>
@@ -376,10 +609,6 @@ Möchten Sie das Dataset neu laden?</translation>
     <message>
         <source>Text Files (*.txt);;CSV Files (*.csv)</source>
         <translation>Textdateien (*.txt);;CSV-Dateien (*.csv)</translation>
-    </message>
-    <message>
-        <source>The file could not be written: %1</source>
-        <translation>Die Datei konnte nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>
@@ -668,6 +897,14 @@ und keine Beobachtung steht nur in einem der Datasets.</translation>
     <message>
         <source>Went on from the last difference</source>
         <translation>Beim letzten Unterschied fortgesetzt</translation>
+    </message>
+    <message>
+        <source>Scroll &amp;together</source>
+        <translation>Gemeinsam &amp;blättern</translation>
+    </message>
+    <message>
+        <source>Going to a row of one dataset goes to its partner in the other</source>
+        <translation>Wer zu einer Zeile des einen Datasets geht, findet sich im anderen bei der zugehörigen</translation>
     </message>
 </context>
 <context>
@@ -1469,6 +1706,50 @@ und keine Beobachtung steht nur in einem der Datasets.</translation>
         <source>Row %1 of %2 has another value: %3</source>
         <translation>Zeile %1 von %2 hat einen anderen Wert: %3</translation>
     </message>
+    <message>
+        <source>There is no variable named %1 in the data set %2</source>
+        <translation>Es gibt keine Variable namens %1 im Dataset %2</translation>
+    </message>
+    <message>
+        <source>The ID variable %1 is numeric in one data set and character in the other</source>
+        <translation>Die ID-Variable %1 ist in einem Dataset numerisch und im anderen ein Text</translation>
+    </message>
+    <message>
+        <source>None of the ID variables is in the data set %1</source>
+        <translation>Keine der ID-Variablen steht im Dataset %1</translation>
+    </message>
+    <message>
+        <source>There are more WITH than VAR variables</source>
+        <translation>Es gibt mehr WITH- als VAR-Variablen</translation>
+    </message>
+    <message>
+        <source>%1 has a criterion, but is no numeric variable that is compared</source>
+        <translation>%1 hat ein Kriterium, ist aber keine numerische Variable, die verglichen wird</translation>
+    </message>
+    <message>
+        <source>The criterion is no number</source>
+        <translation>Das Kriterium ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>The delta of RELATIVE lies between 0 and 1, not %1</source>
+        <translation>Das Delta von RELATIVE liegt zwischen 0 und 1, nicht %1</translation>
+    </message>
+    <message>
+        <source>The method %1 takes no delta</source>
+        <translation>Die Methode %1 kennt kein Delta</translation>
+    </message>
+    <message>
+        <source>%1 is no number</source>
+        <translation>%1 ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>%1 is none of exact, absolute, relative and percent</source>
+        <translation>%1 ist keins von exact, absolute, relative und percent</translation>
+    </message>
+    <message>
+        <source>%1 is not VARIABLE=NUMBER[:METHOD]</source>
+        <translation>%1 ist nicht VARIABLE=ZAHL[:METHODE]</translation>
+    </message>
 </context>
 <context>
     <name>FailureNote</name>
@@ -1526,6 +1807,17 @@ und keine Beobachtung steht nur in einem der Datasets.</translation>
     <message>
         <source>CSV (Comma delimited) (*.csv)</source>
         <translation>CSV (durch Kommas getrennt) (*.csv)</translation>
+    </message>
+    <message>
+        <source>Datasets (%1)</source>
+        <translation>Datasets (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>FileSaving</name>
+    <message>
+        <source>Failed to save the file: %1</source>
+        <translation>Die Datei konnte nicht gespeichert werden: %1</translation>
     </message>
 </context>
 <context>
@@ -2387,10 +2679,6 @@ Die Dateien in %2 bleiben, wie sie sind.</translation>
         <translation>Quorlane</translation>
     </message>
     <message>
-        <source>Output</source>
-        <translation>Ausgabe</translation>
-    </message>
-    <message>
         <source>Database Initialization Failed</source>
         <translation>Initialisierung der Datenbank fehlgeschlagen</translation>
     </message>
@@ -2413,6 +2701,10 @@ Datendateien werden ausschließlich gelesen.</translation>
     <message>
         <source>No browser could show %1</source>
         <translation>Kein Browser konnte %1 anzeigen</translation>
+    </message>
+    <message>
+        <source>%1 - Quorlane</source>
+        <translation>%1 - Quorlane</translation>
     </message>
 </context>
 <context>
@@ -2463,6 +2755,13 @@ Datendateien werden ausschließlich gelesen.</translation>
     </message>
 </context>
 <context>
+    <name>NamePicker</name>
+    <message>
+        <source>Search variables</source>
+        <translation>Variablen suchen</translation>
+    </message>
+</context>
+<context>
     <name>OperatorLabel</name>
     <message>
         <source>The keys d and = filter by the current cell with this operator</source>
@@ -2490,6 +2789,61 @@ Datendateien werden ausschließlich gelesen.</translation>
     <message>
         <source>Unique Variable Name:</source>
         <translation>Name der eindeutigen Variablen:</translation>
+    </message>
+</context>
+<context>
+    <name>OutputView</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>Speichern...</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>What a comparison of datasets reports stands here.</source>
+        <translation>Hier steht, was ein Vergleich von Datasets berichtet.</translation>
+    </message>
+    <message>
+        <source>Find in output...</source>
+        <translation>In der Ausgabe suchen...</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Gesuchter Text</translation>
+    </message>
+    <message>
+        <source>Copy what is selected, or all if nothing is</source>
+        <translation>Das Markierte kopieren, oder alles, wenn nichts markiert ist</translation>
+    </message>
+    <message>
+        <source>Went on from the beginning</source>
+        <translation>Vom Anfang weitergesucht</translation>
+    </message>
+    <message>
+        <source>Went on from the end</source>
+        <translation>Vom Ende weitergesucht</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Save Output</source>
+        <translation>Ausgabe speichern</translation>
+    </message>
+    <message>
+        <source>Text Files (*.txt);;Listings (*.lst);;All Files (*)</source>
+        <translation>Textdateien (*.txt);;Listen (*.lst);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
@@ -3058,16 +3412,16 @@ Die Dateien ihrer Datasets bleiben.</translation>
 <context>
     <name>SidePanels</name>
     <message>
-        <source>Open a dataset to see its variables.</source>
-        <translation>Öffnen Sie ein Dataset, um seine Variablen zu sehen.</translation>
-    </message>
-    <message>
         <source>Press F in a grid to count the values of the selected variables, or N to count distinct subjects.</source>
         <translation>Drücken Sie in einer Tabelle F, um die Werte der ausgewählten Variablen zu zählen, oder N, um verschiedene Personen zu zählen.</translation>
     </message>
     <message>
         <source>Select a numeric variable in a grid and press S for its statistics. B adds the current variable to those that they are grouped by.</source>
         <translation>Wählen Sie in einer Tabelle eine numerische Variable und drücken Sie S für ihre Statistik. B nimmt die aktuelle Variable in die auf, nach denen gruppiert wird.</translation>
+    </message>
+    <message>
+        <source>Open or choose a dataset to see its variables.</source>
+        <translation>Ein Dataset öffnen oder wählen, um seine Variablen zu sehen.</translation>
     </message>
 </context>
 <context>
@@ -3381,6 +3735,10 @@ Mit „Öffnen“ erhalten Sie die neueste Version:
     <message>
         <source>Delete Session	Del</source>
         <translation>Sitzung löschen	Del</translation>
+    </message>
+    <message>
+        <source>Compare...</source>
+        <translation>Vergleichen...</translation>
     </message>
 </context>
 </TS>

@@ -104,10 +104,6 @@
         <translation>保存 SAS 程序</translation>
     </message>
     <message>
-        <source>Failed to save the file: %1</source>
-        <translation>无法保存文件:%1</translation>
-    </message>
-    <message>
         <source>The program %1 is not saved.
 Do you want to save it?</source>
         <translation>程序 %1 尚未保存。
@@ -134,6 +130,243 @@ Do you want to save it?</source>
     <message>
         <source>There is not enough memory.</source>
         <translation>内存不足。</translation>
+    </message>
+</context>
+<context>
+    <name>CompareDialog</name>
+    <message>
+        <source>ID variables</source>
+        <translation>ID 变量</translation>
+    </message>
+    <message>
+        <source>by position</source>
+        <translation>按位置</translation>
+    </message>
+    <message>
+        <source>&amp;Propose</source>
+        <translation>建议(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Variables to compare</source>
+        <translation>要比较的变量</translation>
+    </message>
+    <message>
+        <source>all common variables</source>
+        <translation>所有共有变量</translation>
+    </message>
+    <message>
+        <source>Compare Datasets</source>
+        <translation>比较数据集</translation>
+    </message>
+    <message>
+        <source>The key variables of the file, or study, subject, sequence number and so on, as many as it takes</source>
+        <translation>文件的键变量，或研究、受试者、序号等，按需要的数量</translation>
+    </message>
+    <message>
+        <source>Open File...</source>
+        <translation>打开文件...</translation>
+    </message>
+    <message>
+        <source>&amp;Base:</source>
+        <translation>基准(&amp;B):</translation>
+    </message>
+    <message>
+        <source>&amp;Compare:</source>
+        <translation>比较(&amp;C):</translation>
+    </message>
+    <message>
+        <source>S&amp;wap</source>
+        <translation>交换(&amp;W)</translation>
+    </message>
+    <message>
+        <source>ID Variables</source>
+        <translation>ID 变量</translation>
+    </message>
+    <message>
+        <source>Variables to Compare</source>
+        <translation>要比较的变量</translation>
+    </message>
+    <message>
+        <source>NAME=OTHER compares variables of different names.</source>
+        <translation>NAME=OTHER 比较名称不同的变量。</translation>
+    </message>
+    <message>
+        <source>&amp;SAS Program</source>
+        <translation>SAS 程序(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Write the program that makes this comparison in SAS</source>
+        <translation>写出在 SAS 中进行此比较的程序</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>Choose two datasets, open ones or files.</source>
+        <translation>选择两个数据集，已打开的或文件。</translation>
+    </message>
+    <message>
+        <source>%1 x %2</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>Observations x variables: %1 and %2; variables in common: %3</source>
+        <translation>观测 x 变量：%1 和 %2；共有变量：%3</translation>
+    </message>
+    <message>
+        <source>Observations are matched by their position.</source>
+        <translation>观测按位置配对。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Each observation has ID values of its own.</source>
+        <translation>每个观测都有自己的 ID 值。</translation>
+    </message>
+    <message>
+        <source>Observations that repeat ID values: %1; they are paired in their order.</source>
+        <translation>重复 ID 值的观测：%1；它们按顺序配对。</translation>
+    </message>
+</context>
+<context>
+    <name>CompareOptionsPanel</name>
+    <message>
+        <source>What Is Equal</source>
+        <translation>何为相等</translation>
+    </message>
+    <message>
+        <source>Larger differences are unequal; a negative number counts machine epsilons, -1000 means equal up to rounding</source>
+        <translation>更大的差异为不相等；负数以机器精度计，-1000 表示除舍入外相等</translation>
+    </message>
+    <message>
+        <source>0 to 1; keeps differences of numbers near 0 from counting</source>
+        <translation>0 到 1；使接近 0 的数的差异不计</translation>
+    </message>
+    <message>
+        <source>Criteria of single variables: VARIABLE=NUMBER, with a method of its own VARIABLE=NUMBER:METHOD</source>
+        <translation>单个变量的标准：变量=数值，自有方法时为 变量=数值:方法</translation>
+    </message>
+    <message>
+        <source>&amp;Method:</source>
+        <translation>方法(&amp;M):</translation>
+    </message>
+    <message>
+        <source>C&amp;riterion:</source>
+        <translation>标准(&amp;R):</translation>
+    </message>
+    <message>
+        <source>De&amp;lta:</source>
+        <translation>Delta(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Cri&amp;teria of variables:</source>
+        <translation>变量的标准(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Missing in base equals all (NOMISSBASE)</source>
+        <translation>基准缺失等于一切 (NOMISSBASE)</translation>
+    </message>
+    <message>
+        <source>Missing in compare equals all (NOMISSCOMP)</source>
+        <translation>比较缺失等于一切 (NOMISSCOMP)</translation>
+    </message>
+    <message>
+        <source>Filters and hidden variables count</source>
+        <translation>过滤器和隐藏变量计入</translation>
+    </message>
+    <message>
+        <source>Compare only the observations and variables that the grids show at the moment</source>
+        <translation>只比较表格当前显示的观测和变量</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>报告</translation>
+    </message>
+    <message>
+        <source>Variables of one side</source>
+        <translation>仅一方的变量</translation>
+    </message>
+    <message>
+        <source>Observations of one side</source>
+        <translation>仅一方的观测</translation>
+    </message>
+    <message>
+        <source>Variables with equal values</source>
+        <translation>值相等的变量</translation>
+    </message>
+    <message>
+        <source>Brief summary</source>
+        <translation>简要摘要</translation>
+    </message>
+    <message>
+        <source>Values by observation</source>
+        <translation>按观测列出值</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>统计量</translation>
+    </message>
+    <message>
+        <source>in total:</source>
+        <translation>总计：</translation>
+    </message>
+    <message>
+        <source>of texts:</source>
+        <translation>文本：</translation>
+    </message>
+    <message>
+        <source>Smaller values are printed as 0, smaller differences not at all</source>
+        <translation>更小的值打印为 0，更小的差异不打印</translation>
+    </message>
+    <message>
+        <source>Differences per variable:</source>
+        <translation>每个变量的差异：</translation>
+    </message>
+    <message>
+        <source>Width of lines:</source>
+        <translation>行宽：</translation>
+    </message>
+    <message>
+        <source>F&amp;uzz:</source>
+        <translation>F&amp;uzz:</translation>
+    </message>
+</context>
+<context>
+    <name>Comparisons</name>
+    <message>
+        <source>Open File</source>
+        <translation>打开文件</translation>
+    </message>
+    <message>
+        <source>All compared values of %1 and %2 are equal</source>
+        <translation>%1 和 %2 的所有比较值都相等</translation>
+    </message>
+    <message>
+        <source>%1 has been read anew since it was compared</source>
+        <translation>%1 在比较后已重新读取</translation>
+    </message>
+    <message>
+        <source>Save Differences</source>
+        <translation>保存差异</translation>
+    </message>
+    <message>
+        <source>Tab-Separated Text (*.txt *.tsv);;CSV Files (*.csv);;JSON Files (*.json)</source>
+        <translation>制表符分隔文本 (*.txt *.tsv);;CSV 文件 (*.csv);;JSON 文件 (*.json)</translation>
+    </message>
+    <message>
+        <source>Failed to save the file: %1</source>
+        <translation>保存文件失败：%1</translation>
+    </message>
+    <message>
+        <source>%1 is no longer open</source>
+        <translation>%1 已不再打开</translation>
     </message>
 </context>
 <context>
@@ -376,10 +609,6 @@ Do you want to reload it?</source>
     <message>
         <source>Text Files (*.txt);;CSV Files (*.csv)</source>
         <translation>文本文件 (*.txt);;CSV 文件 (*.csv)</translation>
-    </message>
-    <message>
-        <source>The file could not be written: %1</source>
-        <translation>无法写入文件：%1</translation>
     </message>
 </context>
 <context>
@@ -668,6 +897,14 @@ and no observation is in one dataset only.</source>
     <message>
         <source>Went on from the last difference</source>
         <translation>已从最后一处差异继续</translation>
+    </message>
+    <message>
+        <source>Scroll &amp;together</source>
+        <translation>同步滚动(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Going to a row of one dataset goes to its partner in the other</source>
+        <translation>转到一个数据集的行时，另一个数据集也转到对应的行</translation>
     </message>
 </context>
 <context>
@@ -1469,6 +1706,50 @@ and no observation is in one dataset only.</source>
         <source>Row %1 of %2 has another value: %3</source>
         <translation>%2 的第 %1 行是另一个值：%3</translation>
     </message>
+    <message>
+        <source>There is no variable named %1 in the data set %2</source>
+        <translation>数据集 %2 中没有名为 %1 的变量</translation>
+    </message>
+    <message>
+        <source>The ID variable %1 is numeric in one data set and character in the other</source>
+        <translation>ID 变量 %1 在一个数据集中为数值型，在另一个中为字符型</translation>
+    </message>
+    <message>
+        <source>None of the ID variables is in the data set %1</source>
+        <translation>数据集 %1 中没有任何 ID 变量</translation>
+    </message>
+    <message>
+        <source>There are more WITH than VAR variables</source>
+        <translation>WITH 变量多于 VAR 变量</translation>
+    </message>
+    <message>
+        <source>%1 has a criterion, but is no numeric variable that is compared</source>
+        <translation>%1 有标准，但不是被比较的数值变量</translation>
+    </message>
+    <message>
+        <source>The criterion is no number</source>
+        <translation>标准不是数值</translation>
+    </message>
+    <message>
+        <source>The delta of RELATIVE lies between 0 and 1, not %1</source>
+        <translation>RELATIVE 的 delta 应在 0 与 1 之间，而不是 %1</translation>
+    </message>
+    <message>
+        <source>The method %1 takes no delta</source>
+        <translation>方法 %1 没有 delta</translation>
+    </message>
+    <message>
+        <source>%1 is no number</source>
+        <translation>%1 不是数值</translation>
+    </message>
+    <message>
+        <source>%1 is none of exact, absolute, relative and percent</source>
+        <translation>%1 不是 exact、absolute、relative 或 percent</translation>
+    </message>
+    <message>
+        <source>%1 is not VARIABLE=NUMBER[:METHOD]</source>
+        <translation>%1 不是 变量=数值[:方法]</translation>
+    </message>
 </context>
 <context>
     <name>FailureNote</name>
@@ -1526,6 +1807,17 @@ and no observation is in one dataset only.</source>
     <message>
         <source>CSV (Comma delimited) (*.csv)</source>
         <translation>CSV（逗号分隔）(*.csv)</translation>
+    </message>
+    <message>
+        <source>Datasets (%1)</source>
+        <translation>数据集 (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>FileSaving</name>
+    <message>
+        <source>Failed to save the file: %1</source>
+        <translation>保存文件失败：%1</translation>
     </message>
 </context>
 <context>
@@ -2387,10 +2679,6 @@ The files in %2 stay as they are.</source>
         <translation>Quorlane</translation>
     </message>
     <message>
-        <source>Output</source>
-        <translation>输出</translation>
-    </message>
-    <message>
         <source>Database Initialization Failed</source>
         <translation>数据库初始化失败</translation>
     </message>
@@ -2413,6 +2701,10 @@ Data files are only ever read.</source>
     <message>
         <source>No browser could show %1</source>
         <translation>没有浏览器可以显示 %1</translation>
+    </message>
+    <message>
+        <source>%1 - Quorlane</source>
+        <translation>%1 - Quorlane</translation>
     </message>
 </context>
 <context>
@@ -2463,6 +2755,13 @@ Data files are only ever read.</source>
     </message>
 </context>
 <context>
+    <name>NamePicker</name>
+    <message>
+        <source>Search variables</source>
+        <translation>搜索变量</translation>
+    </message>
+</context>
+<context>
     <name>OperatorLabel</name>
     <message>
         <source>The keys d and = filter by the current cell with this operator</source>
@@ -2490,6 +2789,61 @@ Data files are only ever read.</source>
     <message>
         <source>Unique Variable Name:</source>
         <translation>唯一标识变量名：</translation>
+    </message>
+</context>
+<context>
+    <name>OutputView</name>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>保存...</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>输出</translation>
+    </message>
+    <message>
+        <source>What a comparison of datasets reports stands here.</source>
+        <translation>此处显示数据集比较的报告。</translation>
+    </message>
+    <message>
+        <source>Find in output...</source>
+        <translation>在输出中查找...</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>要查找的文本</translation>
+    </message>
+    <message>
+        <source>Copy what is selected, or all if nothing is</source>
+        <translation>复制所选内容，未选时复制全部</translation>
+    </message>
+    <message>
+        <source>Went on from the beginning</source>
+        <translation>已从开头继续</translation>
+    </message>
+    <message>
+        <source>Went on from the end</source>
+        <translation>已从末尾继续</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>Save Output</source>
+        <translation>保存输出</translation>
+    </message>
+    <message>
+        <source>Text Files (*.txt);;Listings (*.lst);;All Files (*)</source>
+        <translation>文本文件 (*.txt);;列表 (*.lst);;所有文件 (*)</translation>
     </message>
 </context>
 <context>
@@ -3058,16 +3412,16 @@ The files of its datasets stay.</source>
 <context>
     <name>SidePanels</name>
     <message>
-        <source>Open a dataset to see its variables.</source>
-        <translation>打开数据集以查看其变量。</translation>
-    </message>
-    <message>
         <source>Press F in a grid to count the values of the selected variables, or N to count distinct subjects.</source>
         <translation>在表格中按 F 统计所选变量的取值，按 N 统计不同受试者数。</translation>
     </message>
     <message>
         <source>Select a numeric variable in a grid and press S for its statistics. B adds the current variable to those that they are grouped by.</source>
         <translation>在表格中选择一个数值变量并按 S 查看其统计量。按 B 将当前变量加入分组变量。</translation>
+    </message>
+    <message>
+        <source>Open or choose a dataset to see its variables.</source>
+        <translation>打开或选择一个数据集以查看其变量。</translation>
     </message>
 </context>
 <context>
@@ -3381,6 +3735,10 @@ Click &apos;Open&apos; to get the latest version:
     <message>
         <source>Delete Session	Del</source>
         <translation>删除会话	Del</translation>
+    </message>
+    <message>
+        <source>Compare...</source>
+        <translation>比较...</translation>
     </message>
 </context>
 </TS>

@@ -116,7 +116,9 @@ void Program::import(const ProgramSource& source, const std::string& name)
         add("run;");
     } else {
         add(fmt::format("/* Read {} into work.{} here. */", source.member, name));
-        add(fmt::format("/* Its file: {} */", source.path));
+        if (!source.path.empty()) {
+            add(fmt::format("/* Its file: {} */", source.path));
+        }
     }
 }
 

@@ -7,7 +7,7 @@ namespace comparison {
 /// One of the datasets as a SAS program reads it.
 struct ProgramSource
 {
-    std::string path;  ///< of the file
+    std::string path;  ///< of the file; empty for a dataset that is none
     std::string member;  ///< what the dataset is called in SAS
     std::vector<std::string> filters{};  ///< statements of a data step: "where a = 1;"
 };

@@ -315,9 +315,10 @@ QString CompareDialog::keysText() const
         }
         repeated += found.value();
     }
-    return repeated == 0 ? tr("Each observation has ID values of its own.")
-                         : tr("%n observation(s) repeat ID values; they are paired in their order.",
-                              nullptr, static_cast<int>(repeated));
+    return repeated == 0
+        ? tr("Each observation has ID values of its own.")
+        : tr("Observations that repeat ID values: %1; they are paired in their order.")
+              .arg(repeated);
 }
 
 // What is asked for

@@ -33,8 +33,10 @@ QString translated(const std::string& text)
 
 comparison::ProgramSource sourceOf(const DatasetWindow& window, bool filtersCount)
 {
-    comparison::ProgramSource source{window.origin().filePath.toStdString(),
-                                     programtext::makeSasName(window.datasetName()).toStdString()};
+    // What a joined dataset is made of has to be joined in SAS as well.
+    comparison::ProgramSource source{
+        window.join() == nullptr ? window.origin().filePath.toStdString() : std::string(),
+        programtext::makeSasName(window.datasetName()).toStdString()};
     const OpenDataset& opened = *window.view()->opened();
     for (const QString& filter : {opened.libraryFilterText(), opened.datasetFilterText()}) {
         if (filtersCount && !filter.trimmed().isEmpty()) {
@@ -253,11 +255,18 @@ DatasetWindow* Comparisons::openSide(const ComparedDatasets& compared, bool isBa
             return window;
         }
     }
-    if (!m_surroundings.opener.bringUp(origin.filePath, origin.member())) {
-        return nullptr;
+    // A joined dataset has no file of its own to be opened again.
+    const bool isFile = origin.supplements.isEmpty();
+    auto* window =
+        qobject_cast<DatasetWindow*>(m_surroundings.opener.openFiles().find(origin.fileKey));
+    if (window == nullptr && isFile
+        && m_surroundings.opener.bringUp(origin.filePath, origin.member())) {
+        window = m_surroundings.opener.find(origin.filePath, origin.member());
     }
-    emit signalMessage(tr("%1 has been read anew since it was compared").arg(origin.filePath));
-    return m_surroundings.opener.find(origin.filePath, origin.member());
+    emit signalMessage(window == nullptr
+                           ? tr("%1 is no longer open").arg(origin.fileKey)
+                           : tr("%1 has been read anew since it was compared").arg(origin.fileKey));
+    return window;
 }
 
 void Comparisons::goTo(const ComparisonWindow& window, int baseObservation, int compareObservation,

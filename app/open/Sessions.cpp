@@ -13,6 +13,8 @@
 #include <QMdiArea>
 #include <QPointer>
 
+#include <algorithm>
+
 Sessions::Sessions(const Surroundings& surroundings, const WorkspaceStore& store)
     : m_surroundings(surroundings)
     , m_registry(store)
@@ -31,7 +33,11 @@ void Sessions::promptSaveSession()
     const std::optional<QString> name = m_surroundings.prompts.askText(
         tr("Save Session"), tr("Session name:"), tr("Session %1").arg(now));
     if (name && saveSession(*name)) {
-        const qsizetype left = m_surroundings.area.subWindowList().size() - openDatasets().size();
+        const QList<QMdiSubWindow*> windows = m_surroundings.area.subWindowList();
+        const auto left = std::count_if(windows.begin(), windows.end(), [](QMdiSubWindow* each) {
+            const auto* window = qobject_cast<DatasetWindow*>(each);
+            return window != nullptr && window->join() != nullptr;
+        });
         m_surroundings.services.showMessage(
             left == 0 ? tr("Session \"%1\" saved").arg(name->trimmed())
                       : tr("Session \"%1\" saved without joined datasets, of which there are %2")
