@@ -2794,18 +2794,6 @@ Datendateien werden ausschließlich gelesen.</translation>
 <context>
     <name>OutputView</name>
     <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
-    </message>
-    <message>
-        <source>Save...</source>
-        <translation>Speichern...</translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation>Leeren</translation>
-    </message>
-    <message>
         <source>Output</source>
         <translation>Ausgabe</translation>
     </message>
@@ -2844,6 +2832,18 @@ Datendateien werden ausschließlich gelesen.</translation>
     <message>
         <source>Text Files (*.txt);;Listings (*.lst);;All Files (*)</source>
         <translation>Textdateien (*.txt);;Listen (*.lst);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>K&amp;opieren</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Speichern...</translation>
+    </message>
+    <message>
+        <source>Cle&amp;ar</source>
+        <translation>Lee&amp;ren</translation>
     </message>
 </context>
 <context>

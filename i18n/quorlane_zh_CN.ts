@@ -2794,18 +2794,6 @@ Data files are only ever read.</source>
 <context>
     <name>OutputView</name>
     <message>
-        <source>Copy</source>
-        <translation>复制</translation>
-    </message>
-    <message>
-        <source>Save...</source>
-        <translation>保存...</translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation>清除</translation>
-    </message>
-    <message>
         <source>Output</source>
         <translation>输出</translation>
     </message>
@@ -2844,6 +2832,18 @@ Data files are only ever read.</source>
     <message>
         <source>Text Files (*.txt);;Listings (*.lst);;All Files (*)</source>
         <translation>文本文件 (*.txt);;列表 (*.lst);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>复制(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>保存(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Cle&amp;ar</source>
+        <translation>清除(&amp;A)</translation>
     </message>
 </context>
 <context>

@@ -23,9 +23,9 @@ OutputView::OutputView(UserPrompts& prompts, QWidget* parent)
     , m_text(new QPlainTextEdit(this))
     , m_wanted(new QLineEdit(this))
     , m_found(new QLabel(this))
-    , m_copy(new QPushButton(tr("Copy"), this))
-    , m_save(new QPushButton(icons::icon(QStringLiteral("save")), tr("Save..."), this))
-    , m_clear(new QPushButton(icons::icon(QStringLiteral("clear")), tr("Clear"), this))
+    , m_copy(new QPushButton(tr("C&opy"), this))
+    , m_save(new QPushButton(icons::icon(QStringLiteral("save")), tr("&Save..."), this))
+    , m_clear(new QPushButton(icons::icon(QStringLiteral("clear")), tr("Cle&ar"), this))
 {
     createText();
     createControls();
