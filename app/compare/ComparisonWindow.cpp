@@ -5,7 +5,17 @@
 #include "app/window/PlainTitle.h"
 
 #include <QAction>
+#include <QDir>
 #include <QMenu>
+
+namespace {
+
+QString tipOf(const DatasetOrigin& origin)
+{
+    return QDir::toNativeSeparators(origin.fileKey);
+}
+
+}  // namespace
 
 ComparisonWindow::ComparisonWindow(std::shared_ptr<const ComparedDatasets> comparison)
     : m_comparison(std::move(comparison))
@@ -17,6 +27,7 @@ ComparisonWindow::ComparisonWindow(std::shared_ptr<const ComparedDatasets> compa
     setWidget(m_differences);
     setWindowTitle(plainTitle(m_differences->windowTitle()));
     setWindowIcon(m_differences->windowIcon());
+    m_differences->setFiles(tipOf(m_comparison->baseOrigin), tipOf(m_comparison->compareOrigin));
     // The keys of its own menu are the main window's, and of two actions for one key Qt runs none.
     for (QAction* action : systemMenu()->actions()) {
         action->setShortcuts(QList<QKeySequence>());

@@ -97,12 +97,12 @@ QBoxLayout* DifferenceWindow::createSummary()
         return label;
     };
     const auto& observations = m_comparison->observations();
-    add(tr("Base: %1 (observations: %L2)")
-            .arg(QString::fromStdString(m_comparison->baseName()))
-            .arg(observations.base.read));
-    add(tr("Compare: %1 (observations: %L2)")
-            .arg(QString::fromStdString(m_comparison->compareName()))
-            .arg(observations.compare.read));
+    m_base = add(tr("Base: %1 (observations: %L2)")
+                     .arg(QString::fromStdString(m_comparison->baseName()))
+                     .arg(observations.base.read));
+    m_compare = add(tr("Compare: %1 (observations: %L2)")
+                        .arg(QString::fromStdString(m_comparison->compareName()))
+                        .arg(observations.compare.read));
     add(tr("Method: %1").arg(QString::fromStdString(ruleText(m_comparison->rule()))));
     const unsigned sysInfo = m_comparison->sysInfo();
     QLabel* outcome = add(sysInfo == 0 ? tr("Equal") : tr("SYSINFO: %1").arg(sysInfo));
@@ -115,6 +115,12 @@ QBoxLayout* DifferenceWindow::createSummary()
     connect(together, &QCheckBox::toggled, this, &DifferenceWindow::signalTogetherChanged);
     row->addWidget(together);
     return row;
+}
+
+void DifferenceWindow::setFiles(const QString& base, const QString& compare)
+{
+    m_base->setToolTip(base);
+    m_compare->setToolTip(compare);
 }
 
 QBoxLayout* DifferenceWindow::createBar()

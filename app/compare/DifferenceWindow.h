@@ -26,6 +26,8 @@ public:
                               QWidget* parent = nullptr);
 
     [[nodiscard]] DifferenceView& view() const { return *m_view; }
+    /// Tells where the datasets come from in the tips of their names.
+    void setFiles(const QString& base, const QString& compare);
     /// Writes all differences, whatever is shown: tab-separated unless the path ends with ".csv".
     /// @return  what went wrong; nothing where nothing did
     [[nodiscard]] std::optional<QString> save(const QString& path) const;
@@ -52,6 +54,8 @@ private:
 
     std::shared_ptr<const comparison::Comparison> m_comparison;
     DifferenceView* m_view;
+    QLabel* m_base = nullptr;
+    QLabel* m_compare = nullptr;
     QCheckBox* m_onlyVariables;
     QCheckBox* m_onlyObservations;
     QCheckBox* m_percent;

@@ -1,3 +1,5 @@
+#include "analysis/comparison/Comparison.h"
+#include "analysis/Statistics.h"
 #include "analysis/supplement/SupplementJoin.h"
 #include "data/readers/DatasetFile.h"
 #include "grid/filter/CompiledCondition.h"
@@ -266,6 +268,18 @@ TEST(SupplementJoin, missingNumbersAreTakenAsMissing)
     EXPECT_EQ(selected("AEDOSE = ."), 0b0100U);
     EXPECT_EQ(selected("X is null"), 0b1110U);
     EXPECT_EQ(selected("X = 'a'"), 0b0001U);
+
+    const std::vector<int> doses{dose};
+    const auto described =
+        std::get<statistics::Table>(statistics::describe(*joined.dataset, doses, {}));
+    EXPECT_TRUE(std::ranges::any_of(described.rows, [](const Lines& row) {
+        return row.front() == "Mean" && row.back() == "nan";
+    }));
+    const auto parent = events();
+    const auto compared =
+        comparison::Comparison::of(*parent, *joined.dataset, {.id = {"USUBJID", "AESEQ"}});
+    ASSERT_TRUE(compared.ok()) << compared.error();
+    EXPECT_EQ(compared.value().unequalValues(), 0U);
 }
 
 /// What a parent's values look like is its reader's to say, and stays so.
