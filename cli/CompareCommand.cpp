@@ -113,9 +113,14 @@ ExitCode printProgram(const CompareOptions& options)
     if (options.proposesId) {
         request.id = comparison::proposedKeys(*base.value().dataset, *compare.value().dataset);
     }
+    const Result<comparison::Request> checked =
+        Comparison::checked(*base.value().dataset, *compare.value().dataset, request);
+    if (!checked) {
+        return fail(options, checked.error());
+    }
     print(comparison::programText(sourceOf(options.base, base.value(), options.where),
                                   sourceOf(options.compare, compare.value(), options.where),
-                                  request, options.report));
+                                  checked.value(), options.report));
     return Done;
 }
 

@@ -65,10 +65,9 @@ std::size_t sumOf(const std::vector<ComparedVariable>& values, Sum sum)
 
 }  // namespace
 
-Result<Comparison> Comparison::of(const StatDataset& base, const StatDataset& compare,
-                                  const Request& asked)
+Result<Comparison> Comparison::begun(const StatDataset& base, const StatDataset& compare,
+                                     Request& request)
 {
-    Request request = asked;
     nameDatasets(base, compare, request);
     Comparison result;
     result.m_base = &base;
@@ -83,6 +82,34 @@ Result<Comparison> Comparison::of(const StatDataset& base, const StatDataset& co
     if (std::optional<Failure> failure = result.setRules(request)) {
         return *failure;
     }
+    return result;
+}
+
+Result<Request> Comparison::checked(const StatDataset& base, const StatDataset& compare,
+                                    const Request& asked)
+{
+    Request request = asked;
+    const Result<Comparison> result = begun(base, compare, request);
+    if (!result) {
+        return Failure{result.error()};
+    }
+    request = asked;
+    request.id.clear();
+    for (const VariablePair& pair : result.value().m_variables.id) {
+        request.id.push_back(base.names()[static_cast<std::size_t>(pair.base)]);
+    }
+    return request;
+}
+
+Result<Comparison> Comparison::of(const StatDataset& base, const StatDataset& compare,
+                                  const Request& asked)
+{
+    Request request = asked;
+    Result<Comparison> comparison = begun(base, compare, request);
+    if (!comparison) {
+        return comparison;
+    }
+    Comparison& result = comparison.value();
     result.m_observations =
         matchObservations(base, compare, result.m_variables.id, request.passesOverFilters);
     const std::vector<ObservationPair>& pairs = result.m_observations.pairs;
@@ -93,7 +120,7 @@ Result<Comparison> Comparison::of(const StatDataset& base, const StatDataset& co
             result.m_unequalObservations.set(pair);
         }
     }
-    return result;
+    return comparison;
 }
 
 std::optional<Failure> Comparison::setRules(const Request& request)

@@ -61,6 +61,11 @@ public:
     [[nodiscard]] static Result<Comparison> of(const StatDataset& base, const StatDataset& compare,
                                                const Request& asked);
 
+    /// The request with those of its ID variables that both datasets have, as the base calls them.
+    /// No value is read. A failure says what would keep the comparison from being done.
+    [[nodiscard]] static Result<Request> checked(const StatDataset& base,
+                                                 const StatDataset& compare, const Request& asked);
+
     [[nodiscard]] const StatDataset& base() const { return *m_base; }
     [[nodiscard]] const StatDataset& compare() const { return *m_compare; }
     [[nodiscard]] const std::string& baseName() const { return m_baseName; }
@@ -89,6 +94,9 @@ public:
                                            const ObservationPair& pair) const;
 
 private:
+    /// What is known before the first value is read. The request gets the names of the datasets.
+    [[nodiscard]] static Result<Comparison> begun(const StatDataset& base,
+                                                  const StatDataset& compare, Request& request);
     [[nodiscard]] std::optional<Failure> setRules(const Request& request);
     [[nodiscard]] std::optional<Failure> setRule(const VariableCriterion& own,
                                                  const Request& request);

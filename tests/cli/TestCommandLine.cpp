@@ -1,25 +1,15 @@
 #include "samples/TableWriter.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/support/CommandRun.h"
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
 #include <fstream>
 #include <nlohmann/json.hpp>
 #include <sstream>
-#include <sys/wait.h>
 
 namespace {
 
 using nlohmann::json;
-
-struct Outcome
-{
-    int code;
-    std::string out;
-    std::string err;
-};
 
 class CommandLine : public testing::Test
 {
@@ -38,19 +28,12 @@ protected:
     }
 
     /// Runs the program on the file of the test.
-    Outcome run(const std::string& command, const std::string& options = {},
-                const std::string& file = "ae.xpt") const
+    CommandRun run(const std::string& command, const std::string& options = {},
+                   const std::string& file = "ae.xpt") const
     {
-        const std::string errors = m_folder.file("stderr").string();
-        const std::string line = std::string(QUORLANE_CLI) + ' ' + command + " '"
-            + m_folder.file(file).string() + "' " + options + " 2>" + errors;
-        FILE* pipe = popen(line.c_str(), "r");
-        std::string out;
-        std::array<char, 4096> part{};
-        for (std::size_t got = 0; (got = fread(part.data(), 1, part.size(), pipe)) > 0;) {
-            out.append(part.data(), got);
-        }
-        return {WEXITSTATUS(pclose(pipe)), out, bytesOf(errors)};
+        return runCommand(std::string(QUORLANE_CLI) + ' ' + command + " '"
+                              + m_folder.file(file).string() + "' " + options,
+                          m_folder);
     }
 
     [[nodiscard]] static std::vector<json> jsonLines(const std::string& text)
@@ -68,7 +51,7 @@ protected:
 
 TEST_F(CommandLine, contentsDescribesTheDataset)
 {
-    const Outcome outcome = run("contents", "--format json");
+    const CommandRun outcome = run("contents", "--format json");
     ASSERT_EQ(outcome.code, 0) << outcome.err;
     const json contents = json::parse(outcome.out);
     EXPECT_EQ(contents["table"], "AE");
@@ -93,7 +76,7 @@ TEST_F(CommandLine, contentsOfAFolderComparesVariables)
     other.name = "CM";
     other.columns = {samples::textColumn("AETERM", "Reported \"term\"", 30)};
     samples::writeTable(m_folder.file("cm.sas7bdat"), other);
-    Outcome outcome = run("contents", "--format json", "");
+    CommandRun outcome = run("contents", "--format json", "");
     ASSERT_EQ(outcome.code, 0) << outcome.err;
     const std::vector<json> lines = jsonLines(outcome.out);
     ASSERT_EQ(lines.size(), 4U);
@@ -128,9 +111,9 @@ TEST_F(CommandLine, rowsShowsCellsAsTheGridDoes)
 
 TEST_F(CommandLine, codeWritesTheProgramOfAView)
 {
-    const Outcome outcome = run("code",
-                                "--where 'aeterm  ne  \"RASH\"' --if 'AVAL > -1 or ASTDT = .' "
-                                "--by astdt AETERM --keep aval AETERM AVAL");
+    const CommandRun outcome = run("code",
+                                   "--where 'aeterm  ne  \"RASH\"' --if 'AVAL > -1 or ASTDT = .' "
+                                   "--by astdt AETERM --keep aval AETERM AVAL");
     ASSERT_EQ(outcome.code, 0) << outcome.err;
     EXPECT_NE(outcome.out.find("\n\ndata work.ae_view;\n    set "), std::string::npos);
     const std::size_t rest = outcome.out.find(".ae;");
@@ -149,7 +132,7 @@ TEST_F(CommandLine, codeWritesTheProgramOfAView)
                     "mean AVAL?)"),
           std::pair("--where 'AVAL = 1 2'", "--where: "), std::pair("--by X", "named X"),
           std::pair("--keep X", "named X")}) {
-        const Outcome failed = run("code", options);
+        const CommandRun failed = run("code", options);
         EXPECT_EQ(failed.code, 2);
         EXPECT_EQ(failed.out, "");
         EXPECT_NE(failed.err.find(reason), std::string::npos) << failed.err;
@@ -194,7 +177,8 @@ TEST_F(CommandLine, findListsTheCellsThatShowAText)
 TEST_F(CommandLine, rowsKeepsTheObservationsThatMeetACondition)
 {
     const auto observations = [this](const std::string& condition, const std::string& more = {}) {
-        const Outcome outcome = run("rows", "--format json --where \"" + condition + "\" " + more);
+        const CommandRun outcome =
+            run("rows", "--format json --where \"" + condition + "\" " + more);
         EXPECT_EQ(outcome.code, 0) << outcome.err;
         std::vector<int> numbers;
         for (const json& row : jsonLines(outcome.out)) {
@@ -224,7 +208,7 @@ TEST_F(CommandLine, freqGivesValuesAsStoredAndAsShown)
 
 TEST_F(CommandLine, helpIsWrittenForPeople)
 {
-    const Outcome outcome = run("rows --help");
+    const CommandRun outcome = run("rows --help");
     EXPECT_EQ(outcome.code, 0);
     for (const char* const part :
          {"Usage: quorlane-cli rows FILE", "--where CONDITION", "--member"}) {
@@ -235,16 +219,16 @@ TEST_F(CommandLine, helpIsWrittenForPeople)
 
 TEST_F(CommandLine, problemsNameTheFileOrVariable)
 {
-    const Outcome variable = run("rows", "--keep AETREM");
+    const CommandRun variable = run("rows", "--keep AETREM");
     EXPECT_EQ(variable.code, 2);
     EXPECT_EQ(variable.out, "");
     EXPECT_NE(variable.err.find("AETREM"), std::string::npos) << variable.err;
     EXPECT_NE(variable.err.find("ae.xpt"), std::string::npos) << variable.err;
 
-    const Outcome file = run("contents", "", "missing.sav");
+    const CommandRun file = run("contents", "", "missing.sav");
     EXPECT_EQ(file.code, 2);
     EXPECT_NE(file.err.find("missing.sav"), std::string::npos) << file.err;
-    const Outcome condition = run("rows", "--where \"AVAL >\"");
+    const CommandRun condition = run("rows", "--where \"AVAL >\"");
     EXPECT_EQ(condition.code, 2);
     EXPECT_EQ(condition.out, "");
     EXPECT_NE(condition.err.find("expect value"), std::string::npos) << condition.err;
@@ -264,7 +248,7 @@ TEST_F(CommandLine, aFileThatMayBeDamagedSaysSo)
         .seekp(72)
         .put('\7');
     for (const char* const command : {"contents", "rows"}) {
-        const Outcome outcome = run(command, "", "odd.sav");
+        const CommandRun outcome = run(command, "", "odd.sav");
         EXPECT_EQ(outcome.code, 0) << command;
         EXPECT_NE(outcome.out.find("AGE"), std::string::npos) << outcome.out;
         EXPECT_NE(outcome.err.find("odd.sav: "), std::string::npos) << outcome.err;
@@ -282,11 +266,11 @@ TEST_F(CommandLine, aFileOfSeveralDatasetsSaysWhichIsRead)
         table.rows = {{&table == tables ? 1.0 : 2.0}};
     }
     samples::writeTransport(m_folder.file("study.xpt"), tables);
-    const Outcome first = run("rows", "--format tsv", "study.xpt");
+    const CommandRun first = run("rows", "--format tsv", "study.xpt");
     EXPECT_EQ(first.out, "Obs\tAGE\n1\t1\n");
     EXPECT_NE(first.err.find("study.xpt: DM of the datasets DM, AE"), std::string::npos)
         << first.err;
-    const Outcome second = run("rows", "--format tsv --member ae", "study.xpt");
+    const CommandRun second = run("rows", "--format tsv --member ae", "study.xpt");
     EXPECT_EQ(second.out, "Obs\tAGE\n1\t2\n");
     EXPECT_EQ(second.err, "");
 }

@@ -1,25 +1,15 @@
 #include "samples/TableWriter.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/support/CommandRun.h"
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
-#include <sys/wait.h>
 
 namespace {
 
 using nlohmann::json;
-
-struct Outcome
-{
-    int code;
-    std::string out;
-    std::string err;
-};
 
 class CompareCommand : public testing::Test
 {
@@ -49,26 +39,18 @@ protected:
         samples::writeTable(m_folder.file(file), table);
     }
 
-    [[nodiscard]] Outcome compare(const std::string& base, const std::string& other,
-                                  const std::string& options = {}) const
+    [[nodiscard]] CommandRun compare(const std::string& base, const std::string& other,
+                                     const std::string& options = {}) const
     {
-        const std::string errors = m_folder.file("stderr").string();
-        const std::string line = std::string(QUORLANE_CLI) + " compare '"
-            + m_folder.file(base).string() + "' '" + m_folder.file(other).string() + "' " + options
-            + " 2>" + errors;
-        FILE* pipe = popen(line.c_str(), "r");
-        std::string out;
-        std::array<char, 4096> part{};
-        for (std::size_t got = 0; (got = fread(part.data(), 1, part.size(), pipe)) > 0;) {
-            out.append(part.data(), got);
-        }
-        return {WEXITSTATUS(pclose(pipe)), out, bytesOf(errors)};
+        return runCommand(std::string(QUORLANE_CLI) + " compare '" + m_folder.file(base).string()
+                              + "' '" + m_folder.file(other).string() + "' " + options,
+                          m_folder);
     }
 
     TemporaryFolder m_folder;
 };
 
-TEST_F(CompareCommand, exitCodesTellTheOutcome)
+TEST_F(CompareCommand, exitCodesTellTheCommandRun)
 {
     EXPECT_EQ(compare("base/dm.xpt", "base/dm.xpt", "--strict").code, 0);
     EXPECT_EQ(compare("base/dm.xpt", "qc/dm.xpt").code, 0) << "attributes alone";
@@ -79,7 +61,7 @@ TEST_F(CompareCommand, exitCodesTellTheOutcome)
                       "--criterion 0.25")
                   .code,
               0);
-    const Outcome absent = compare("base/vs.xpt", "qc/nothing.xpt", "--format json");
+    const CommandRun absent = compare("base/vs.xpt", "qc/nothing.xpt", "--format json");
     EXPECT_EQ(absent.code, 2);
     EXPECT_NE(absent.err.find("nothing.xpt"), std::string::npos) << absent.err;
     EXPECT_EQ(json::parse(absent.out)["sysinfo"], 32768);
@@ -88,9 +70,9 @@ TEST_F(CompareCommand, exitCodesTellTheOutcome)
 
 TEST_F(CompareCommand, jsonHoldsEveryCount)
 {
-    const Outcome outcome = compare("base/vs.xpt", "qc/vs.xpt",
-                                    "--format json --id SUBJ SEQ --method 'Percent' "
-                                    "--criterion-for VAL=2.4");
+    const CommandRun outcome = compare("base/vs.xpt", "qc/vs.xpt",
+                                       "--format json --id SUBJ SEQ --method 'Percent' "
+                                       "--criterion-for VAL=2.4");
     ASSERT_EQ(outcome.code, 1) << outcome.err;
     const json result = json::parse(outcome.out);
     EXPECT_EQ(result["sysinfo"], 64 + 128 + 4096);
@@ -114,6 +96,46 @@ TEST_F(CompareCommand, jsonHoldsEveryCount)
     EXPECT_NE(result["notes"][0].get<std::string>().find("not sorted"), std::string::npos);
 }
 
+TEST_F(CompareCommand, idVariablesSuggestThemselves)
+{
+    write("base/lb.xpt", {{"01", 1.0, 1.0}, {"02", 2.0, 5.0}});
+    write("qc/lb.xpt", {{"02", 2.0, 6.0}, {"01", 1.0, 1.0}});
+    const json result = json::parse(
+        compare("base/lb.xpt", "qc/lb.xpt", "--format json --propose-id --differences").out);
+    EXPECT_EQ(result["variables"]["id"], json::array({"SUBJ"}));
+    EXPECT_EQ(result["differences"],
+              json::array({{{"variable", "VAL"},
+                            {"baseObs", 2},
+                            {"compareObs", 1},
+                            {"id", {{"SUBJ", "02"}}},
+                            {"base", "5.0"},
+                            {"compare", "6.0"},
+                            {"difference", 1.0},
+                            {"percent", 20.0}}}));
+    EXPECT_EQ(result["unmatched"], json::array());
+    EXPECT_FALSE(json::parse(compare("base/lb.xpt", "qc/lb.xpt", "--format json").out)
+                     .contains("differences"));
+}
+
+TEST_F(CompareCommand, programIsPrintedInsteadOfTheReport)
+{
+    const CommandRun run = compare("base/vs.xpt", "qc/dm.xpt",
+                                   "--program --id subj --where 'SEQ = 1' --criterion 0.1");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_TRUE(run.out.starts_with("libname baselib xport '"
+                                    + m_folder.file("base/vs.xpt").string()
+                                    + "';\ndata work.base;\n    set baselib.t;\n"
+                                      "    where SEQ = 1;\n"))
+        << run.out;
+    EXPECT_TRUE(run.out.ends_with(" criterion=0.1 maxprint=(50,500);\n    id SUBJ;\nrun;\n"))
+        << run.out;
+    EXPECT_EQ(compare("base/vs.xpt", "qc/vs.xpt", "--program --id NOID").code, 2);
+    EXPECT_EQ(compare("base/vs.xpt", "qc/vs.xpt",
+                      "--program --with VAL SEQ --var VAL --criterion-for VAL=1")
+                  .code,
+              2);
+}
+
 TEST_F(CompareCommand, tsvHoldsEveryDifference)
 {
     EXPECT_EQ(compare("base/vs.xpt", "qc/vs.xpt", "--format tsv --id subj --id seq").out,
@@ -127,7 +149,7 @@ TEST_F(CompareCommand, tsvHoldsEveryDifference)
 TEST_F(CompareCommand, optionsReachTheReport)
 {
     const auto text = [this](const std::string& options) {
-        const Outcome outcome = compare("base/vs.xpt", "qc/vs.xpt", options);
+        const CommandRun outcome = compare("base/vs.xpt", "qc/vs.xpt", options);
         EXPECT_EQ(outcome.code, 1) << outcome.err;
         return outcome.out;
     };
@@ -155,7 +177,7 @@ TEST_F(CompareCommand, optionsReachTheReport)
 
 TEST_F(CompareCommand, foldersAreComparedDatasetByDataset)
 {
-    const Outcome outcome = compare("base", "qc", "--format tsv --id SUBJ SEQ VISIT");
+    const CommandRun outcome = compare("base", "qc", "--format tsv --id SUBJ SEQ VISIT");
     EXPECT_EQ(outcome.code, 1) << outcome.err;
     EXPECT_EQ(outcome.out,
               "Dataset\tBaseObs\tCompareObs\tCommon\tVariables\tUnequalVars\tUnequalValues\t"
@@ -169,7 +191,7 @@ TEST_F(CompareCommand, foldersAreComparedDatasetByDataset)
     EXPECT_EQ(summary["equal"], 1);
     EXPECT_EQ(summary["datasets"][1]["comparison"]["sysinfo"], 32);
     std::ofstream(m_folder.file("qc/ae.xpt")) << "no transport file";
-    const Outcome broken = compare("base", "qc");
+    const CommandRun broken = compare("base", "qc");
     EXPECT_EQ(broken.code, 2);
     EXPECT_NE(broken.out.find("not compared: "), std::string::npos) << broken.out;
     EXPECT_NE(broken.out.find("4 datasets: 1 equal, 2 different, 1 not compared"),
