@@ -264,6 +264,26 @@ TEST(Comparison, filtersAndHiddenVariablesAreLeftOut)
     EXPECT_EQ(compared(*base, *compare).sysInfo(), unsigned{comparison::BaseVariable});
 }
 
+TEST(Comparison, filtersAndHiddenVariablesMayBePassedOver)
+{
+    class Counting : public ScriptedDataset
+    {
+    public:
+        [[nodiscard]] bool countsRows(int column) const override { return column == 0; }
+    };
+    Counting base;
+    base.variable("ROW", TypeCode::Double).variable("X", TypeCode::Double);
+    base.row({1.0, 1.0}).row({2.0, 2.0});
+    base.datasetFilterMask().reset(0);
+    base.visibleVariables().reset(0);
+    base.visibleVariables().reset(1);
+    const auto compare = numbers({1, 3});
+    const auto result = compared(base, *compare, {.passesOverFilters = true});
+    EXPECT_EQ(result.observations().pairs, (std::vector<ObservationPair>{{0, 0}, {1, 1}}));
+    EXPECT_EQ(result.values().at(0).unequal, Places{1});
+    EXPECT_TRUE(result.variables().baseOnly.empty()) << "what counts rows is no variable";
+}
+
 TEST(Comparison, eachDifferenceHasItsBit)
 {
     class Attributes : public ScriptedDataset

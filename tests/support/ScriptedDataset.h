@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 #include <variant>
+#include <vector>
 
 /// A dataset for tests that takes any type codes and claims to come from any kind of file, whose
 /// missing values and dates it has.
@@ -66,6 +67,13 @@ public:
     ScriptedDataset& tableName(std::string name)
     {
         m_header.tableName = std::move(name);
+        return *this;
+    }
+
+    /// The variables that its file tells to be the key.
+    ScriptedDataset& keys(std::vector<int> variables)
+    {
+        m_keyVariables = std::move(variables);
         return *this;
     }
 
