@@ -84,6 +84,7 @@ MainWindow::~MainWindow()
     // The sub-windows, those that are closed and about to go included, would outlive the members
     // that hear of their end and serve them.
     disconnect(&m_area->mdiArea(), nullptr, this, nullptr);
+    disconnect(m_comparisons, nullptr, this, nullptr);
     m_cellDocks->follow(nullptr);
     delete m_area;
 }
