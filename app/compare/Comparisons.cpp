@@ -14,6 +14,7 @@
 #include "app/open/DatasetOpener.h"
 #include "app/start/Settings.h"
 #include "data/readers/FileKinds.h"
+#include "grid/filter/VariableNames.h"
 #include "grid/MainTableView.h"
 #include "grid/opened/EngineMessages.h"
 #include "grid/WaitCursor.h"
@@ -42,6 +43,17 @@ comparison::ProgramSource sourceOf(const DatasetWindow& window, bool filtersCoun
         if (filtersCount && !filter.trimmed().isEmpty()) {
             source.filters.push_back((filter.trimmed() + u';').toStdString());
         }
+    }
+    std::string hidden;
+    const StatDataset& dataset = opened.dataset();
+    for (int variable = 0; filtersCount && variable < dataset.variableCount(); ++variable) {
+        if (!dataset.visibleVariables()[static_cast<std::size_t>(variable)]
+            && !dataset.countsRows(variable)) {
+            hidden += ' ' + variablenames::written(opened.nameOf(variable)).toStdString();
+        }
+    }
+    if (!hidden.empty()) {
+        source.filters.push_back("drop" + hidden + ';');
     }
     return source;
 }
@@ -209,15 +221,24 @@ void Comparisons::show(const std::shared_ptr<const ComparedDatasets>& compared)
 
 void Comparisons::writeProgram(CompareDialog& dialog)
 {
+    if (dialog.base() == nullptr || dialog.compare() == nullptr) {
+        return;
+    }
     const Result<comparison::Request> request = dialog.request();
     const Result<comparison::ReportOptions> options = dialog.reportOptions();
     if (!request || !options) {
         dialog.tell(translated(request ? options.error() : request.error()));
         return;
     }
+    const Result<comparison::Request> checked = comparison::Comparison::checked(
+        *dialog.base()->dataset(), *dialog.compare()->dataset(), request.value());
+    if (!checked) {
+        dialog.tell(translated(checked.error()));
+        return;
+    }
     m_surroundings.code.addProgram(QString::fromStdString(comparison::programText(
         sourceOf(*dialog.base(), dialog.filtersCount()),
-        sourceOf(*dialog.compare(), dialog.filtersCount()), request.value(), options.value())));
+        sourceOf(*dialog.compare(), dialog.filtersCount()), checked.value(), options.value())));
     dialog.rememberOptions();
     dialog.accept();
     emit signalProgramWritten();
