@@ -158,7 +158,7 @@ void MainWindow::createToolBars()
     m_boxes = new CommandBoxes(*this, *m_gridServices);
     // A grid tells of the filter; without one nobody does.
     connect(m_boxes, &CommandBoxes::signalLibraryFilterSubmitted, this, [this] {
-        if (openFiles().isEmpty()) {
+        if (m_activeView == nullptr) {
             m_counters->setLibraryFilter(m_gridServices->datasets().libraryFilter.text(), {});
         }
     });
