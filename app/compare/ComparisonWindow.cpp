@@ -5,6 +5,7 @@
 #include "app/window/PlainTitle.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QMenu>
 
@@ -32,6 +33,17 @@ ComparisonWindow::ComparisonWindow(std::shared_ptr<const ComparedDatasets> compa
     for (QAction* action : systemMenu()->actions()) {
         action->setShortcuts(QList<QKeySequence>());
     }
+    // A tab that is left hands its focus to whatever comes next in it, and would go on there. Who
+    // has the focus is known once the tab is on the screen.
+    const auto takeFocus = [this](Qt::WindowStates before, Qt::WindowStates now) {
+        const QWidget* focused = QApplication::focusWidget();
+        const bool isBroughtUp =
+            !before.testFlag(Qt::WindowActive) && now.testFlag(Qt::WindowActive);
+        if (isBroughtUp && focused != nullptr && isAncestorOf(focused)) {
+            m_differences->setFocus();
+        }
+    };
+    connect(this, &QMdiSubWindow::windowStateChanged, this, takeFocus, Qt::QueuedConnection);
     connect(m_differences, &DifferenceWindow::signalTogetherChanged, m_grids,
             &LinkedGrids::setActive);
 }

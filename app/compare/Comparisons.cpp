@@ -246,7 +246,7 @@ void Comparisons::writeProgram(CompareDialog& dialog)
 
 // From the differences into the datasets
 
-/// Datasets that are opened again, or reloaded, are linked anew.
+/// The grids of what was compared; what is read anew may have other rows and is let go.
 void Comparisons::linkGrids()
 {
     const QList<DatasetWindow*> windows = datasets();
