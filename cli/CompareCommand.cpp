@@ -19,10 +19,7 @@ namespace cli {
 
 namespace {
 
-using comparison::ComparedVariable;
 using comparison::Comparison;
-using comparison::ObservationPair;
-using comparison::VariablePair;
 
 /// Sends to standard error what is printed while it lives: readers tell of a failed load on
 /// standard output, which is to be the result's alone.

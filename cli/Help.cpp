@@ -1,5 +1,9 @@
 #include "cli/Help.h"
 
+#include <algorithm>
+#include <array>
+#include <utility>
+
 namespace cli {
 
 namespace {
@@ -151,22 +155,25 @@ constexpr std::string_view ofAll = R"(  --format FORMAT      text (the default),
 
 std::string helpOf(std::string_view command)
 {
+    using Text = std::pair<std::string_view, std::string_view>;
+    static constexpr std::array<Text, 8> texts{{{"contents", contents},
+                                                {"rows", rows},
+                                                {"freq", freq},
+                                                {"stats", stats},
+                                                {"find", find},
+                                                {"supp", supp},
+                                                {"code", code},
+                                                {"compare", compare}}};
+    const auto* const found = std::find_if(
+        texts.begin(), texts.end(), [command](const Text& text) { return text.first == command; });
+    if (found == texts.end()) {
+        return std::string(program);
+    }
     if (command == "compare") {
         return std::string(compare);
     }
-    const std::string_view own = command == "contents" ? contents
-        : command == "rows"                            ? rows
-        : command == "freq"                            ? freq
-        : command == "stats"                           ? stats
-        : command == "find"                            ? find
-        : command == "supp"                            ? supp
-        : command == "code"                            ? code
-                                                       : std::string_view();
-    if (own.empty()) {
-        return std::string(program);
-    }
-    const std::string_view title = own == contents ? "Options:\n" : "";
-    return std::string(own).append(title).append(ofAll);
+    const std::string_view title = command == "contents" ? "Options:\n" : "";
+    return std::string(found->second).append(title).append(ofAll);
 }
 
 }  // namespace cli

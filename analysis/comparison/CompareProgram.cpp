@@ -55,6 +55,7 @@ public:
 private:
     void import(const ProgramSource& source, const std::string& name);
     void add(std::string line) { m_lines.push_back(std::move(line)); }
+    void compareOthers(const Method* method);
     void addStep(const Method* method, const double* criterion, const std::vector<std::string>& var,
                  const std::vector<std::string>& with);
     [[nodiscard]] std::string statement(const Method* method, const double* criterion) const;
@@ -177,9 +178,11 @@ void Program::addStep(const Method* method, const double* criterion,
     add("run;");
 }
 
-void Program::compare()
+/// The step of the variables that have no criterion of their own.
+void Program::compareOthers(const Method* method)
 {
     std::vector<std::string> own;
+    own.reserve(m_request.variableCriteria.size());
     for (const VariableCriterion& criterion : m_request.variableCriteria) {
         own.push_back(criterion.variable);
     }
@@ -193,13 +196,18 @@ void Program::compare()
             }
         }
     }
-    const Method* method = m_request.method ? &*m_request.method : nullptr;
     if (!own.empty() && m_request.var.empty()) {
         add(fmt::format("/* The steps behind this one compare{} once more. */", listed(own)));
     }
     if (m_request.var.empty() || !var.empty()) {
         addStep(method, m_request.criterion ? &*m_request.criterion : nullptr, var, with);
     }
+}
+
+void Program::compare()
+{
+    const Method* method = m_request.method ? &*m_request.method : nullptr;
+    compareOthers(method);
     for (const VariableCriterion& criterion : m_request.variableCriteria) {
         add("");
         std::vector<std::string> partner;

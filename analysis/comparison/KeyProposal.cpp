@@ -89,6 +89,7 @@ private:
     {
         const std::vector<std::uint32_t> rows = allObservations(dataset);
         std::vector<int> variables;
+        variables.reserve(keys.size());
         for (const Key& key : keys) {
             variables.push_back(key.*side);
         }

@@ -74,7 +74,7 @@ public:
     /// Letters that are common by chance would only scatter what differs.
     [[nodiscard]] bool isWorthIt()
     {
-        return 2U * common(0, 0) >= std::min(m_baseCount, m_compareCount);
+        return std::size_t{2} * common(0, 0) >= std::min(m_baseCount, m_compareCount);
     }
 
     [[nodiscard]] TextDifference difference()

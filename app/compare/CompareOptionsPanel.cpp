@@ -74,6 +74,7 @@ QGroupBox* CompareOptionsPanel::createValues()
     m_own = addLine(u"own"_s, u"AVAL=0.001 CHG=0.01:absolute"_s,
                     tr("Criteria of single variables: VARIABLE=NUMBER, with a method of its own "
                        "VARIABLE=NUMBER:METHOD"));
+    m_remembered.remove(m_own->objectName());  // other datasets have other variables
     auto* form = new QFormLayout;
     form->addRow(tr("&Method:"), m_method);
     form->addRow(tr("C&riterion:"), m_criterion);
