@@ -65,12 +65,12 @@ private:
     void open(CompareDialog& dialog, bool isBase);
     void run(CompareDialog& dialog);
     void writeProgram(CompareDialog& dialog);
-    void report(const ComparedDatasets& comparison, const CompareDialog& dialog);
-    void show(const std::shared_ptr<const ComparedDatasets>& comparison);
+    void report(const ComparedDatasets& compared, const CompareDialog& dialog);
+    void show(const std::shared_ptr<const ComparedDatasets>& compared);
     void linkGrids();
     void save(const ComparisonWindow& window);
     /// Goes to an observation and a variable of a side, -1 for none, opening it where it is closed.
-    [[nodiscard]] DatasetWindow* openSide(const ComparedDatasets& comparison, bool isBase);
+    [[nodiscard]] DatasetWindow* openSide(const ComparedDatasets& compared, bool isBase);
     void goTo(const ComparisonWindow& window, int baseObservation, int compareObservation,
               int baseVariable, int compareVariable);
 
