@@ -110,10 +110,11 @@ void Comparisons::showDialog()
 void Comparisons::showDialogFor(const QStringList& paths)
 {
     // The last one opened is in front, and so the base.
-    for (auto path = paths.rbegin(); path != paths.rend(); ++path) {
-        if (DatasetWindow* window = windowOf(*path)) {
+    const QStringList lastFirst(paths.rbegin(), paths.rend());
+    for (const QString& path : lastFirst) {
+        if (DatasetWindow* window = windowOf(path)) {
             m_surroundings.opener.activate(window);
-        } else if (!m_surroundings.opener.open(*path)) {
+        } else if (!m_surroundings.opener.open(path)) {
             return;
         }
     }
