@@ -75,7 +75,7 @@ CompareDialog::CompareDialog(Settings& settings, QWidget* parent)
             &CompareDialog::showKeys);
 }
 
-void CompareDialog::createSide(QComboBox& side, const QString& name)
+void CompareDialog::createSide(QComboBox& side, const QString& name) const
 {
     side.setObjectName(name);
     // Long paths are cut; they must not make the dialog wider than the screen.

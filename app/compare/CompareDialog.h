@@ -47,7 +47,7 @@ signals:
     void signalProgramRequested();
 
 private:
-    void createSide(QComboBox& side, const QString& name);
+    void createSide(QComboBox& side, const QString& name) const;
     void createVariables();
     void createLayout();
     [[nodiscard]] QWidget* createButtons();
